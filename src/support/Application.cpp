@@ -1,0 +1,42 @@
+#include "support/Application.h"
+
+#include "support/Text.h"
+#include "win32/Windows.h"
+
+namespace {
+
+std::wstring ProgramPath() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length < path.size()) {
+            path.resize(length);
+            return path;
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
+} // namespace
+
+namespace Application {
+
+std::wstring Folder() {
+    const std::wstring path = ProgramPath();
+    const size_t slash = path.rfind(L'\\');
+    const bool isRoot = slash == 2 && path[1] == L':';
+    return slash == std::wstring::npos ? std::wstring() : path.substr(0, isRoot ? slash + 1 : slash);
+}
+
+std::wstring ProgramName() {
+    std::wstring name = Text::AfterLast(ProgramPath(), L'\\');
+    const size_t dot = name.rfind(L'.');
+    if (dot != std::wstring::npos) name.resize(dot);
+    return name;
+}
+
+std::wstring FileInFolder(const std::wstring& fileName) { return Text::JoinPath(Folder(), fileName); }
+
+std::wstring VersionDigits() { return KELMORRA_VERSION_DIGITS; }
+
+} // namespace Application

@@ -1,0 +1,49 @@
+#include "support/ErrorReport.h"
+
+#include "support/Application.h"
+#include "support/MsgBox.h"
+
+#include <new>
+#include <stdexcept>
+
+namespace {
+
+std::wstring (*supportSentence)() = nullptr;
+
+Error Foreign(long number, const wchar_t* description) { return {number, description, Where()}; }
+
+} // namespace
+
+void SetSupportSentence(std::wstring (*sentence)()) { supportSentence = sentence; }
+
+std::wstring ErrorText(const Error& error, const std::wstring& procedure) {
+    std::wstring text = L"Error " + std::to_wstring(error.Number) + L": '" + error.Description + L"'\rin ";
+    text += error.Procedure.empty() ? procedure : error.Procedure;
+    text += L" - Line # " + std::to_wstring(error.At.line()) + L"\r\r";
+    if (supportSentence) text += supportSentence();
+    return text;
+}
+
+Error CurrentError() noexcept {
+    try {
+        throw;
+    } catch (const Error& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        return Foreign(BasicError::OutOfMemory, L"Out of memory");
+    } catch (const std::out_of_range&) {
+        return Foreign(BasicError::OutOfRange, L"Subscript out of range");
+    } catch (...) {
+        return Foreign(BasicError::InvalidCall, L"Invalid procedure call or argument");
+    }
+}
+
+void ErrorReport(const wchar_t* procedure) noexcept {
+    const Error error = CurrentError();
+    try {
+        const std::wstring title = std::wstring(Application::Title) + L" error";
+        MsgBox(ErrorText(error, procedure), MsgIcon::None, title.c_str());
+    } catch (...) {
+        MessageBeep(MB_ICONERROR);
+    }
+}
