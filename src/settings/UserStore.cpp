@@ -1,0 +1,107 @@
+#include "settings/UserStore.h"
+
+#include "support/Application.h"
+#include "win32/Owner.h"
+#include "win32/Windows.h"
+
+#include <array>
+
+namespace {
+
+constexpr size_t kLongestValueName = 16384; // 16383 characters and the zero
+constexpr size_t kLongestKeyName = 256;     // 255 characters and the zero
+
+std::wstring ApplicationPath() { return std::wstring(L"Software\\VB and VBA Program Settings\\") + Application::Title; }
+
+std::wstring SectionPath(const std::wstring& section) { return ApplicationPath() + L'\\' + section; }
+
+RegistryKey Open(const std::wstring& path, REGSAM access) {
+    RegistryKey key;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.Receive()) != ERROR_SUCCESS) return {};
+    return key;
+}
+
+void DeleteValues(HKEY key) {
+    std::wstring name(kLongestValueName, L'\0');
+    for (;;) {
+        DWORD length = kLongestValueName;
+        // Always the first: the others move up. A value that cannot be deleted must not be met for ever.
+        if (RegEnumValueW(key, 0, name.data(), &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS ||
+            RegDeleteValueW(key, name.c_str()) != ERROR_SUCCESS)
+            return;
+    }
+}
+
+bool HasSubkeys(HKEY key) {
+    DWORD count = 0;
+    return RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr, nullptr, nullptr,
+                            nullptr, nullptr) != ERROR_SUCCESS ||
+           count > 0;
+}
+
+/// Deletes a key and everything below it. RegDeleteTree came after Windows XP.
+LSTATUS DeleteTree(HKEY parent, const wchar_t* path) {
+    RegistryKey key;
+    if (const LSTATUS status = RegOpenKeyExW(parent, path, 0, KEY_READ | KEY_WRITE, key.Receive())) return status;
+    std::array<wchar_t, kLongestKeyName> name{};
+    for (DWORD length = name.size();
+         RegEnumKeyExW(key.Get(), 0, name.data(), &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+         length = name.size())
+        if (const LSTATUS status = DeleteTree(key.Get(), name.data())) return status;
+    key.Reset();
+    return RegDeleteKeyW(parent, path);
+}
+
+} // namespace
+
+namespace UserStore {
+
+std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText) {
+    if (section.empty()) return defaultText;
+    const RegistryKey opened = Open(SectionPath(section), KEY_QUERY_VALUE);
+    if (!opened) return defaultText;
+    DWORD type = REG_NONE;
+    DWORD size = 0;
+    if (RegQueryValueExW(opened.Get(), key.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ)
+        return defaultText;
+    std::wstring text((size + 1) / sizeof(wchar_t), L'\0');
+    size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    BYTE* const bytes = reinterpret_cast<BYTE*>(text.data());
+    if (RegQueryValueExW(opened.Get(), key.c_str(), nullptr, nullptr, bytes, &size) != ERROR_SUCCESS)
+        return defaultText;
+    // Exactly one zero ends the value, if any: a cipher text may end in zeros of its own.
+    if (text.ends_with(L'\0')) text.pop_back();
+    return text;
+}
+
+bool Set(const std::wstring& section, const std::wstring& key, const std::wstring& text) {
+    if (section.empty()) return false;
+    RegistryKey opened;
+    if (RegCreateKeyExW(HKEY_CURRENT_USER, SectionPath(section).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                        KEY_SET_VALUE, nullptr, opened.Receive(), nullptr) != ERROR_SUCCESS)
+        return false;
+    const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    return RegSetValueExW(opened.Get(), key.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), size) ==
+           ERROR_SUCCESS;
+}
+
+void Delete(const std::wstring& section, const std::wstring& key) {
+    if (section.empty()) return;
+    if (const RegistryKey opened = Open(SectionPath(section), KEY_SET_VALUE))
+        RegDeleteValueW(opened.Get(), key.c_str());
+}
+
+void DeleteSection(const std::wstring& section) {
+    if (section.empty()) return;
+    const std::wstring path = SectionPath(section);
+    RegistryKey opened = Open(path, KEY_READ | KEY_WRITE);
+    if (!opened) return;
+    DeleteValues(opened.Get());
+    const bool holdsOthers = HasSubkeys(opened.Get());
+    opened.Reset();
+    if (!holdsOthers) RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
+}
+
+void DeleteAll() { DeleteTree(HKEY_CURRENT_USER, ApplicationPath().c_str()); }
+
+} // namespace UserStore

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+/// The per-user store: texts in the current user's registry, by section and key. Sections and keys compare without
+/// letter case. Lengths are explicit both ways: a text keeps every character it holds, zeros included.
+/// An empty section name names no section.
+namespace UserStore {
+
+/// The stored text, which may be empty; `defaultText` when there is none or the value is not a text.
+std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
+
+/// Stores a text; false when it could not be written.
+bool Set(const std::wstring& section, const std::wstring& key, const std::wstring& text);
+
+/// Removes one value, if it is there.
+void Delete(const std::wstring& section, const std::wstring& key);
+
+/// Removes a section's values and its key. Sections whose names begin with this one and a "\" lie below it and stay.
+void DeleteSection(const std::wstring& section);
+
+/// Removes every section of the application.
+void DeleteAll();
+
+} // namespace UserStore
