@@ -1,0 +1,63 @@
+#include "act/Dispatch.h"
+
+#include "support/Busy.h"
+
+#include <vector>
+
+namespace {
+
+std::wstring TakeText(BSTR& text) {
+    std::wstring copy = text ? std::wstring(text, SysStringLen(text)) : std::wstring();
+    SysFreeString(std::exchange(text, nullptr));
+    return copy;
+}
+
+} // namespace
+
+Error AutomationError(HRESULT code, EXCEPINFO& exception, Where at) {
+    if (code != DISP_E_EXCEPTION) return {ErrorNumber(code), SystemDescription(code), at};
+    if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
+    const HRESULT reason = exception.scode ? exception.scode : code;
+    const long number = exception.wCode ? exception.wCode : ErrorNumber(reason);
+    std::wstring description = TakeText(exception.bstrDescription);
+    TakeText(exception.bstrSource);
+    TakeText(exception.bstrHelpFile);
+    if (description.empty()) description = SystemDescription(reason);
+    if (description.empty()) description = L"Automation error";
+    return {number, description, at};
+}
+
+Dispatch Dispatch::Create(const wchar_t* progId, Where at) {
+    const Busy busy;
+    CLSID classId{};
+    ComPtr<IDispatch> object;
+    HRESULT code = CLSIDFromProgID(progId, &classId);
+    if (SUCCEEDED(code))
+        code = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch,
+                                object.ReceiveVoid());
+    if (FAILED(code)) throw Error(BasicError::CannotCreateObject, SystemDescription(code), at);
+    return Dispatch(std::move(object));
+}
+
+void Dispatch::Invoke(const Member& member, WORD flags, std::span<const Variant> arguments, Variant* result) const {
+    const Busy busy;
+    if (!object_) throw Error(BasicError::ObjectNotSet, L"Object variable or With block variable not set", member.At);
+    DISPID identifier = DISPID_UNKNOWN;
+    std::wstring name = member.Name;
+    wchar_t* names = name.data();
+    ThrowIfFailed(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &identifier), member.At);
+
+    std::vector<VARIANT> values; // shallow copies: the Variants keep ownership
+    for (const Variant& argument : arguments) values.push_back(argument.Get());
+    DISPID propertyPut = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{values.data(), nullptr, static_cast<UINT>(values.size()), 0};
+    if (flags == DISPATCH_PROPERTYPUT) {
+        parameters.rgdispidNamedArgs = &propertyPut;
+        parameters.cNamedArgs = 1;
+    }
+    EXCEPINFO exception{};
+    UINT badArgument = 0;
+    const HRESULT code = object_->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
+                                         result ? result->Receive() : nullptr, &exception, &badArgument);
+    if (FAILED(code)) throw AutomationError(code, exception, member.At);
+}

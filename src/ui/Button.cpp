@@ -1,0 +1,39 @@
+#include "ui/Button.h"
+
+#include <utility>
+
+namespace {
+
+DWORD StyleOf(ButtonRole role) {
+    return (role == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP;
+}
+
+} // namespace
+
+CommandButton::CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role)
+    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}), click_(std::move(click)), role_(role) {}
+
+int CommandButton::Identifier(int ordinal) const {
+    if (role_ == ButtonRole::Default) return IDOK;
+    return role_ == ButtonRole::Cancel ? IDCANCEL : ordinal;
+}
+
+void CommandButton::OnCommand(WORD notification) {
+    if (notification == BN_CLICKED && Enabled()) Raise(L"Click", click_);
+}
+
+OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Action click)
+    : Control(form, name, place,
+              {L"Button", static_cast<DWORD>(BS_AUTORADIOBUTTON | (index == 0 ? WS_GROUP | WS_TABSTOP : 0))},
+              &container, index),
+      click_(std::move(click)) {}
+
+bool OptionButton::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+void OptionButton::Value(bool checked) {
+    SendMessageW(Handle(), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void OptionButton::OnCommand(WORD notification) {
+    if (notification == BN_CLICKED) Raise(L"Click", click_);
+}

@@ -1,0 +1,71 @@
+#include "ui/Control.h"
+
+#include "support/Busy.h"
+#include "support/ErrorReport.h"
+#include "ui/Form.h"
+#include "ui/Frame.h"
+
+Control::Control(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container, int index)
+    : form_(form), name_(name), place_(place), kind_(kind), container_(container), index_(index) {
+    form->Register(*this);
+    if (container) container->Contain(*this);
+}
+
+std::wstring Control::Text() const {
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window_)) + 1, L'\0');
+    text.resize(static_cast<size_t>(GetWindowTextW(window_, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+void Control::Text(std::wstring_view text) { SetWindowTextW(window_, std::wstring(text).c_str()); }
+bool Control::Enabled() const { return IsWindowEnabled(window_) != FALSE; }
+void Control::Enabled(bool enabled) { EnableWindow(window_, enabled); }
+void Control::Visible(bool visible) { ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE); }
+void Control::SetFocus() { ::SetFocus(window_); }
+
+void Control::Move(const Twips& place) {
+    place_ = place;
+    PlaceWindow();
+}
+
+void Control::Raise(const wchar_t* event, const Action& action) const {
+    if (!action || Busy::Now()) return;
+    try {
+        action();
+    } catch (...) {
+        const std::wstring procedure = std::wstring(form_->Name()) + L": Sub " + name_ + L"_" + event;
+        ErrorReport(procedure.c_str());
+    }
+}
+
+Twips Control::WindowPlace() const {
+    Twips place = place_;
+    if (container_) {
+        place.Left += container_->Place().Left;
+        place.Top += container_->Place().Top;
+    }
+    return place;
+}
+
+void Control::Create(int ordinal) {
+    const DWORD style = WS_CHILD | WS_VISIBLE | kind_.Style;
+    const auto identifier = reinterpret_cast<HMENU>(static_cast<INT_PTR>(Identifier(ordinal))); // NOLINT
+    window_ = CreateWindowExW(kind_.ExStyle, kind_.ClassName, L"", style, 0, 0, 0, 0, form_->Handle(), identifier,
+                              GetModuleHandleW(nullptr), nullptr);
+    if (!window_) ThrowIfFailed(HRESULT_FROM_WIN32(GetLastError()));
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    // Tests and screen-automation tools find the control by this name; the value is its index, counted from 1.
+    SetPropW(window_, name_, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(index_) + 1)); // NOLINT
+    PlaceWindow();
+    OnCreated();
+}
+
+void Control::PlaceWindow() const {
+    if (!window_) return;
+    const int dpi = form_->Dpi();
+    const Twips place = WindowPlace();
+    const int left = ToPixels(place.Left, dpi);
+    const int top = ToPixels(place.Top, dpi);
+    SetWindowPos(window_, nullptr, left, top, ToPixels(place.Left + place.Width, dpi) - left,
+                 ToPixels(place.Top + place.Height, dpi) - top, SWP_NOZORDER | SWP_NOACTIVATE);
+}

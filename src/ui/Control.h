@@ -1,0 +1,76 @@
+#pragma once
+
+#include "ui/Events.h"
+#include "ui/Twips.h"
+#include "win32/Windows.h"
+
+#include <string>
+#include <string_view>
+
+class Form;
+class Frame;
+
+/// What kind of system window a control is.
+struct ControlKind {
+    const wchar_t* ClassName;
+    DWORD Style;
+    DWORD ExStyle = 0;
+};
+
+/// One control of a form: the system's own window plus its reflected messages and a few verbs. Declared as a member of
+/// its form; its window lives from the form's Load to its end. Order of declaration is Tab order.
+class Control {
+public:
+    Control(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container = nullptr, int index = 0);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    HWND Handle() const { return window_; }
+    const wchar_t* Name() const { return name_; }
+    int Index() const { return index_; }
+
+    std::wstring Text() const;
+    void Text(std::wstring_view text);
+    bool Enabled() const;
+    void Enabled(bool enabled);
+    void Visible(bool visible);
+    void SetFocus();
+
+    /// The place relative to the form, or to the frame that contains the control.
+    const Twips& Place() const { return place_; }
+    void Move(const Twips& place);
+
+protected:
+    Form& Owner() const { return *form_; }
+    /// Runs a handler behind the outermost guard: whatever it throws is reported under "form: Sub name_event".
+    /// Does nothing while a call into ACT! is running.
+    void Raise(const wchar_t* event, const Action& action) const;
+    /// The place of the control's window relative to the form.
+    virtual Twips WindowPlace() const;
+
+private:
+    friend class Form;
+    friend class Frame;
+    /// The control's command identifier.
+    virtual int Identifier(int ordinal) const { return ordinal; }
+    virtual void OnCreated() {}
+    virtual void OnCommand(WORD) {}
+    virtual LRESULT OnNotify(NMHDR&) { return 0; }
+    virtual void OnContextMenu(POINT) {}
+    /// Colours of a static control; null for the system's.
+    virtual HBRUSH OnColor(HDC) { return nullptr; }
+    /// True when the control has set a pointer of its own.
+    virtual bool OnSetCursor() { return false; }
+    virtual void OnFontChanged(const LOGFONTW&) {}
+    void Create(int ordinal);
+    void PlaceWindow() const;
+
+    Form* form_;
+    const wchar_t* name_;
+    Twips place_;
+    ControlKind kind_;
+    Frame* container_;
+    int index_;
+    HWND window_ = nullptr;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+/// Several controls of one kind and name inside a frame, told apart by their index, with one handler that gets it.
+template <class T, std::size_t N>
+class ControlArray {
+public:
+    template <class F>
+    ControlArray(F* form, Frame& container, const wchar_t* name, const std::array<Twips, N>& places,
+                 void (F::*handler)(int))
+        : ControlArray(form, container, name, places, handler, std::make_index_sequence<N>()) {}
+
+    T& operator[](std::size_t index) { return controls_.at(index); }
+    const T& operator[](std::size_t index) const { return controls_.at(index); }
+    auto begin() { return controls_.begin(); }
+    auto end() { return controls_.end(); }
+    static constexpr std::size_t Size() { return N; }
+
+private:
+    template <class F, std::size_t... Index>
+    ControlArray(F* form, Frame& container, const wchar_t* name, const std::array<Twips, N>& places,
+                 void (F::*handler)(int), std::index_sequence<Index...>)
+        : controls_{T{form, container, name, places[Index], static_cast<int>(Index), handler}...} {}
+
+    std::array<T, N> controls_;
+};

@@ -1,0 +1,136 @@
+// How messages of a form reach its controls, menus, timers and handlers.
+
+#include "ui/Form.h"
+
+#include "support/Busy.h"
+#include "support/ErrorReport.h"
+#include "ui/Timer.h"
+
+#include <algorithm>
+
+namespace {
+
+// Introduced with Windows 8.1; older systems never send it.
+constexpr UINT kDpiChanged = 0x02E0;
+
+} // namespace
+
+LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_NCCREATE) {
+        form = static_cast<Form*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
+        form->window_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+    }
+    if (!form) return DefWindowProcW(window, message, wParam, lParam);
+    try {
+        return form->Dispatch(message, wParam, lParam);
+    } catch (...) {
+        // No exception may cross into user32's frames.
+        ErrorReport((std::wstring(form->Name()) + L": Sub Form_Message").c_str());
+        return 0;
+    }
+}
+
+Control* Form::ControlOf(HWND window) {
+    if (!window || !FromWindow(GetParent(window))) return nullptr;
+    return reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
+LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT result = 0;
+    if (OnMessage(message, wParam, lParam, result)) return result;
+    switch (message) {
+    case WM_COMMAND: return DispatchCommand(wParam, lParam);
+    case WM_NOTIFY: {
+        auto& header = *reinterpret_cast<NMHDR*>(lParam);
+        if (Control* control = ControlOf(header.hwndFrom)) return control->OnNotify(header);
+        break;
+    }
+    case WM_CTLCOLORSTATIC:
+        if (Control* control = ControlOf(reinterpret_cast<HWND>(lParam)))
+            if (HBRUSH brush = control->OnColor(reinterpret_cast<HDC>(wParam))) return reinterpret_cast<LRESULT>(brush);
+        break;
+    case WM_SETCURSOR:
+        if (Control* control = ControlOf(reinterpret_cast<HWND>(wParam)); control && control->OnSetCursor()) return TRUE;
+        break;
+    case WM_CONTEXTMENU:
+        OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        return 0;
+    case WM_TIMER:
+        for (Timer* timer : timers_)
+            if (timer->Identifier() == static_cast<int>(wParam)) timer->Tick();
+        return 0;
+    case WM_SIZE:
+        if (wParam != SIZE_MINIMIZED) Form_Resize();
+        return 0;
+    case WM_ACTIVATE: OnActivate(wParam); return 0;
+    case WM_SETFOCUS:
+        if (lastFocus_) ::SetFocus(lastFocus_);
+        return 0;
+    case WM_CLOSE:
+        if (!Busy::Now()) CloseAsByUser();
+        return 0;
+    case kDpiChanged: OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
+    case DM_GETDEFID: return DefaultIdentifier();
+    case WM_NCDESTROY:
+        Forget(this);
+        SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+        window_ = nullptr;
+        lastFocus_ = nullptr;
+        return 0;
+    default: break;
+    }
+    return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+LRESULT Form::DispatchCommand(WPARAM wParam, LPARAM lParam) {
+    auto* window = reinterpret_cast<HWND>(lParam);
+    if (Control* control = ControlOf(window)) {
+        control->OnCommand(HIWORD(wParam));
+        return 0;
+    }
+    if (window) return 0;
+    const int identifier = LOWORD(wParam);
+    const auto found = std::ranges::find(items_, identifier, &MenuItem::Identifier);
+    if (found != items_.end()) {
+        (*found)->Click();
+    } else if (identifier == IDCANCEL || identifier == IDOK) {
+        // IsDialogMessage sends these two for Esc and Enter when the form has no such button.
+        if (Control* control = ControlOf(GetDlgItem(window_, identifier))) control->OnCommand(BN_CLICKED);
+    }
+    return 0;
+}
+
+void Form::OnActivate(WPARAM wParam) {
+    if (LOWORD(wParam) == WA_INACTIVE) {
+        if (IsChild(window_, GetFocus())) lastFocus_ = GetFocus();
+        return;
+    }
+    if (HIWORD(wParam) != 0) return;
+    if (lastFocus_ && IsWindowEnabled(lastFocus_)) ::SetFocus(lastFocus_);
+    else FocusFirst();
+    Form_Activate();
+}
+
+void Form::OnDpiChanged(int dpi, const RECT& suggested) {
+    dpi_ = dpi;
+    ApplyFont();
+    SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    for (const Control* control : controls_) control->PlaceWindow();
+    Form_Resize();
+}
+
+void Form::OnContextMenu(HWND window, POINT position) {
+    if (Control* control = ControlOf(window)) control->OnContextMenu(position);
+}
+
+LRESULT Form::DefaultIdentifier() const {
+    // Enter presses the button that has the focus, else the form's default button.
+    HWND focused = GetFocus();
+    const bool isButton = focused && GetParent(focused) == window_ &&
+                          (SendMessageW(focused, WM_GETDLGCODE, 0, 0) & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON));
+    const int identifier = isButton ? GetDlgCtrlID(focused) : IDOK;
+    return MAKELONG(identifier, DC_HASDEFID);
+}

@@ -1,0 +1,50 @@
+// The message loops: the program's own and that of a modal form.
+
+#include "ui/Form.h"
+
+#include <utility>
+
+bool Form::Translate(MSG& message) {
+    Form* form = FromWindow(GetAncestor(message.hwnd, GA_ROOT));
+    return form && IsDialogMessageW(form->window_, &message);
+}
+
+int Form::RunMessageLoop() {
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (Translate(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+void Form::ShowModal() {
+    HWND active = GetActiveWindow();
+    owner_ = active && IsWindowVisible(active) ? GetAncestor(active, GA_ROOT) : nullptr;
+    Load();
+    modal_ = true;
+    if (owner_) EnableWindow(owner_, FALSE);
+    if (!unloaded_) Show();
+    ModalLoop();
+    modal_ = false;
+    Forget(this);
+    if (owner_) EnableWindow(owner_, TRUE);
+    if (window_) DestroyWindow(window_);
+    if (owner_) SetActiveWindow(std::exchange(owner_, nullptr));
+}
+
+void Form::ModalLoop() {
+    MSG message{};
+    while (!unloaded_) {
+        const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+        if (got <= 0) {
+            // The end of the program is meant for every loop below this one too.
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        if (Translate(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}

@@ -1,0 +1,31 @@
+#include "ui/Label.h"
+
+#include <utility>
+
+Label::Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index)
+    : Control(form, name, place, {L"Static", static_cast<DWORD>(SS_LEFT | (click ? SS_NOTIFY : 0))}, container, index),
+      click_(std::move(click)) {}
+
+void Label::OnCommand(WORD notification) {
+    // The second click of a double click is one too: two quick clicks on a label are two clicks.
+    if (notification == STN_CLICKED || notification == STN_DBLCLK) Raise(L"Click", click_);
+}
+
+HBRUSH LinkLabel::OnColor(HDC canvas) {
+    SetTextColor(canvas, GetSysColor(COLOR_HOTLIGHT));
+    SetBkMode(canvas, TRANSPARENT);
+    return GetSysColorBrush(COLOR_BTNFACE);
+}
+
+bool LinkLabel::OnSetCursor() {
+    SetCursor(LoadCursorW(nullptr, IDC_HAND));
+    return true;
+}
+
+void LinkLabel::OnFontChanged(const LOGFONTW& font) {
+    LOGFONTW underlined = font;
+    underlined.lfUnderline = TRUE;
+    FontHandle made(CreateFontIndirectW(&underlined));
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(made.Get()), TRUE);
+    underlined_ = std::move(made);
+}
