@@ -11,7 +11,8 @@
 namespace {
 
 constexpr DWORD kOfferedSize = 999;
-constexpr DWORD kLargestValue = 0x10000;
+// The platform's calls carry texts in 64 KB of wide characters; Wine's writer crashes on more.
+constexpr DWORD kLongestValue = 32766;
 
 std::wstring& CurrentFile() {
     static std::wstring path;
@@ -81,15 +82,17 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
 std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key) {
     for (DWORD size = kOfferedSize;; size *= 2) {
         const std::string value = ReadValue(section, key, "", size, SettingsFile());
-        if (value.size() + 1 < size || size > kLargestValue) return ToWide(value);
+        if (value.size() + 1 < size || size > kLongestValue) return ToWide(value);
     }
 }
 
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value,
                    std::wstring& fileName) {
     UseSettingsFile(fileName);
-    return !section.empty() && WritePrivateProfileStringA(ToAnsi(section).c_str(), ToAnsi(key).c_str(),
-                                                          Quoted(ToAnsi(value)).c_str(), ToAnsi(fileName).c_str()) != 0;
+    const std::string bytes = Quoted(ToAnsi(value));
+    return !section.empty() && bytes.size() <= kLongestValue &&
+           WritePrivateProfileStringA(ToAnsi(section).c_str(), ToAnsi(key).c_str(), bytes.c_str(),
+                                      ToAnsi(fileName).c_str()) != 0;
 }
 
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value) {

@@ -21,12 +21,13 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
                          const std::wstring& valueKind, const std::wstring& replacement, std::wstring& fileName);
 std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
 
-/// The value of a key without the cut (up to what the platform can hold, 64 KB); "" when missing. For those who write
-/// a long value back and must not lose its end.
+/// The value of a key without the cut (as far as the platform reads, 32766 bytes or more); "" when missing. For those
+/// who write a long value back and must not lose its end.
 std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key);
 
-/// Writes a value, or removes a key or a section with its keys; false when the platform could not.
-/// A blank at either end of a value and quotes around it survive; removing a missing key does not touch the file.
+/// Writes a value, or removes a key or a section with its keys; false when the platform could not
+/// or the value is longer than 32766 bytes. A blank at either end of a
+/// value and quotes around it survive; removing a missing key does not touch the file.
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value,
                    std::wstring& fileName);
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value);

@@ -1,0 +1,57 @@
+#include "support/ScratchRegistry.h"
+
+#include <shlwapi.h>
+
+/// The slot of the import table that calls of RegCreateKeyExA go through.
+extern decltype(&RegCreateKeyExA) importedCreateKey __asm__("__imp__RegCreateKeyExA@36");
+
+namespace {
+
+decltype(&RegCreateKeyExA) const realCreateKey = importedCreateKey;
+HKEY deniedRoot = nullptr;
+
+LSTATUS WINAPI DenyingCreateKey(HKEY root, LPCSTR path, DWORD reserved, LPSTR className, DWORD options, REGSAM access,
+                                LPSECURITY_ATTRIBUTES security, HKEY* key, DWORD* disposition) {
+    if (root == deniedRoot) return ERROR_ACCESS_DENIED;
+    return realCreateKey(root, path, reserved, className, options, access, security, key, disposition);
+}
+
+void ReplaceImport(decltype(&RegCreateKeyExA) function) {
+    DWORD protection = 0;
+    VirtualProtect(&importedCreateKey, sizeof importedCreateKey, PAGE_READWRITE, &protection);
+    importedCreateKey = function;
+    VirtualProtect(&importedCreateKey, sizeof importedCreateKey, protection, &protection);
+}
+
+} // namespace
+
+ScratchRegistry::ScratchRegistry() : path_(L"Software\\KelmorraTests\\" + std::to_wstring(GetCurrentProcessId())) {
+    Override(HKEY_CURRENT_USER, L"User", REG_OPTION_NON_VOLATILE);
+    Override(HKEY_CLASSES_ROOT, L"Classes", REG_OPTION_NON_VOLATILE);
+}
+
+ScratchRegistry::~ScratchRegistry() {
+    ReplaceImport(realCreateKey);
+    RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+    RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
+    SHDeleteKeyW(HKEY_CURRENT_USER, path_.c_str());
+}
+
+void ScratchRegistry::RefuseKeysBelow(HKEY root) {
+    // A lasting key cannot be made below one that ends with the session.
+    Override(root, L"Volatile", REG_OPTION_VOLATILE);
+}
+
+void ScratchRegistry::DenyKeysBelow(HKEY root) {
+    deniedRoot = root;
+    ReplaceImport(DenyingCreateKey);
+}
+
+void ScratchRegistry::Override(HKEY root, const wchar_t* name, DWORD options) {
+    RegistryKey user;
+    RegOpenCurrentUser(KEY_ALL_ACCESS, user.Receive());
+    RegistryKey key;
+    RegCreateKeyExW(user.Get(), (path_ + L'\\' + name).c_str(), 0, nullptr, options, KEY_ALL_ACCESS, nullptr,
+                    key.Receive(), nullptr);
+    RegOverridePredefKey(root, key.Get());
+}
