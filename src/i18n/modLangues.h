@@ -1,0 +1,36 @@
+#pragma once
+
+#include "i18n/LangText.h"
+
+#include <array>
+#include <string>
+
+/// The texts of the language in use, by index (1 to 152); empty until a language is set.
+class LangTexts {
+public:
+    /// Throws std::out_of_range for any other index.
+    const std::wstring& operator[](int index) const { return texts_.at(static_cast<std::size_t>(index) - 1); }
+    /// Takes all texts from one column of the table.
+    void Fill(const wchar_t* LangTextRow::*column);
+
+private:
+    std::array<std::wstring, LangTextRows> texts_;
+};
+
+extern LangTexts LangText;
+
+/// The language in use: 0 English, 1 French, 2 German.
+extern short CurrentLanguage;
+
+namespace modLangues {
+
+/// Fills LangText with a language (0 English, 1 French, 2 German) and makes it the current one. Any other value changes
+/// nothing.
+void Init_Language(const short& language);
+
+/// Fill LangText with one language.
+void English();
+void French();
+void German();
+
+} // namespace modLangues

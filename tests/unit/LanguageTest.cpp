@@ -1,0 +1,130 @@
+#include "i18n/modLangues.h"
+
+#include "support/Text.h"
+#include "support/Vendor.h"
+#include "support/Wide.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+using Column = const wchar_t* LangTextRow::*;
+
+constexpr Column kColumns[] = {&LangTextRow::English, &LangTextRow::French, &LangTextRow::German};
+
+const wchar_t* TextAt(int index, Column column) { return LangTextTable.at(static_cast<size_t>(index) - 1).*column; }
+
+/// The access key of a caption, lower case; 0 when it has none.
+wchar_t AccessKey(const std::wstring& caption) {
+    const size_t mark = caption.find(L'&');
+    if (mark == std::wstring::npos || mark + 1 == caption.size()) return 0;
+    std::wstring key = caption.substr(mark + 1, 1);
+    CharLowerW(key.data());
+    return key.front();
+}
+
+bool IsUnused(int index) {
+    return (index >= 25 && index <= 36) || index == 41 || index == 54 || (index >= 66 && index <= 73) || index == 151;
+}
+
+} // namespace
+
+TEST_CASE("Rows stand at their index; every used one has a text in each language, an unused one has none") {
+    for (int index = 1; index <= 152; ++index) {
+        CAPTURE(index);
+        CHECK(LangTextTable.at(static_cast<size_t>(index) - 1).Index == index);
+        for (const Column column : kColumns) CHECK((*TextAt(index, column) == 0) == IsUnused(index));
+    }
+}
+
+TEST_CASE("Rows that are known to the letter") {
+    struct Row {
+        int index;
+        const wchar_t* texts[3];
+    };
+    const Row rows[] = {
+        {1, {L"&OK", L"&OK", L"&OK"}},
+        {2, {L"&Cancel", L"&Annuler", L"&Abbrechen"}},
+        {7,
+         {L"An instance of this program is already running !", L"Une copie de ce programme est déjà en marche !",
+          L"Dieses Programm ist bereits gestartet !"}},
+        {24, {L"software.htm", L"logiciels.htm", L"software.htm"}},
+        {63, {L"kelmorra_online", L"kelmorra_enligne", L"kelmorra_online_de"}},
+        {64, {L"Pick your language", L"Choisissez votre langue", L"Wählen Sie Ihre Sprache"}},
+        {79,
+         {L"This database is already open!", L"Cette base de données est déjà ouverte!",
+          L"Die Datenbank ist bereits geöffnet !"}},
+        {82,
+         {L"No database selected!", L"Aucune base de données n'a été sélectionnée!", L"Keine Datenbank ausgewählt!"}},
+        {126,
+         {L"Please make sure a database is open or ACT! completely closed before running Kelmorra!",
+          L"Veuillez ouvrir une base de données ou fermer ACT! complètement avant de lancer Kelmorra!",
+          L"Please make sure a database is open before running Kelmorra!"}},
+        {145,
+         {L"Display QuickSwitch screen at Kelmorra startup", L"Afficher l'écran QuickSwitch au démarrage de Kelmorra",
+          L"Display QuickSwitch screen at Kelmorra startup"}},
+        {150, {L"Close and Launch Kelmorra", L"Fermer et lancer Kelmorra", L"Close and Launch Kelmorra"}},
+    };
+    for (const Row& row : rows)
+        for (size_t language = 0; language < 3; ++language)
+            CHECK(std::wstring(TextAt(row.index, kColumns[language])) == row.texts[language]);
+    for (const int index : {130, 146})
+        CHECK(std::wstring(TextAt(index, &LangTextRow::German)) == TextAt(index, &LangTextRow::English));
+}
+
+TEST_CASE("Texts that others build upon keep their shape in every language") {
+    for (const Column column : kColumns) {
+        for (const int index : {8, 9, 149}) CHECK(std::wstring(TextAt(index, column)).ends_with(L' '));
+        CHECK(*TextAt(89, column) == L'&');
+        const std::wstring twoLines = TextAt(121, column);
+        CHECK(std::ranges::count(twoLines, L'\r') == 1);
+        CHECK(twoLines.find(L'\n') == std::wstring::npos);
+        for (const int index : {12, 60, 61}) CHECK(AccessKey(TextAt(index, column)) != 0);
+        for (const LangTextRow& row : LangTextTable)
+            if (row.Index != 121) CHECK(std::wstring(row.*column).find_first_of(L"\r\n") == std::wstring::npos);
+    }
+    const std::wstring german = TextAt(108, &LangTextRow::German);
+    CHECK(std::wstring(TextAt(108, &LangTextRow::English)) ==
+          std::wstring(L"Please contact ") + Vendor::SupportEmail + L" with this error message.");
+    CHECK(std::wstring(TextAt(108, &LangTextRow::French)).find(Vendor::SupportEmail) != std::wstring::npos);
+    CHECK(german.find(Vendor::GermanSupportEmail) != std::wstring::npos);
+    CHECK(german.find(Vendor::SupportEmail) == std::wstring::npos);
+}
+
+TEST_CASE("Access keys exist where English has them and do not clash within a menu or dialog") {
+    for (const LangTextRow& row : LangTextTable)
+        for (const Column column : kColumns) {
+            CAPTURE(row.Index);
+            CHECK((AccessKey(row.*column) != 0) == (AccessKey(row.English) != 0));
+        }
+    const std::vector<int> groups[] = {{128, 125, 59, 56},   {55, 89},  {122, 61, 60},
+                                       {130, 57, 58},        {62, 129}, {62, 55},
+                                       {87, 88, 94, 95, 17}, {1, 2},    {59, 56, 62, 2}};
+    for (const auto& group : groups)
+        for (const Column column : kColumns) {
+            // In English the bar's Options and the main window's Open share a key.
+            if (group.size() == 4 && group[2] == 62 && column == &LangTextRow::English) continue;
+            std::set<wchar_t> keys;
+            for (const int index : group) {
+                CAPTURE(index);
+                const wchar_t key = AccessKey(TextAt(index, column));
+                if (key != 0) CHECK(keys.insert(key).second);
+            }
+        }
+}
+
+TEST_CASE("A language is taken whole, and an unknown one changes nothing") {
+    for (const short language : {short{1}, short{2}, short{0}}) {
+        modLangues::Init_Language(language);
+        CHECK(CurrentLanguage == language);
+        for (int index = 1; index <= 152; ++index) CHECK(LangText[index] == TextAt(index, kColumns[language]));
+        for (const short unknown : {short{3}, short{-1}}) {
+            modLangues::Init_Language(unknown);
+            CHECK(CurrentLanguage == language);
+            CHECK(LangText[82] == TextAt(82, kColumns[language]));
+        }
+    }
+    CHECK_THROWS(static_cast<void>(LangText[0]));
+    CHECK_THROWS(static_cast<void>(LangText[153]));
+}
