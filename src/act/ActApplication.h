@@ -17,7 +17,9 @@ class ActView {
 public:
     explicit ActView(Dispatch object) : object_(std::move(object)) {}
     /// 300 monthly, 301 weekly, 302 daily.
-    void SetCalendarMode(short mode, Where at = Where::current()) const { object_.Call({L"SetCalendarMode", at}, mode); }
+    void SetCalendarMode(short mode, Where at = Where::current()) const {
+        object_.Call({L"SetCalendarMode", at}, mode);
+    }
 
 private:
     Dispatch object_;
@@ -29,6 +31,10 @@ public:
     ActViews() = default;
     explicit ActViews(Dispatch object) : object_(std::move(object)) {}
     /// Shows a view: 1 contacts, 2 contact list, 3 groups, 4 task list, 5 calendar.
+    void Show(short view, Where at = Where::current()) const {
+        object_.Call({L"Create", at}, view, std::wstring_view(L"V"));
+    }
+    /// Shows a view and returns it.
     ActView Create(short view, Where at = Where::current()) const {
         return ActView(Dispatch(object_.Get({L"Create", at}, view, std::wstring_view(L"V")).Object(at)));
     }
@@ -91,7 +97,9 @@ public:
     void openDB(std::wstring_view path, Where at = Where::current()) const { object_.Call({L"openDB", at}, path); }
     void RunMacro(std::wstring_view path, Where at = Where::current()) const { object_.Call({L"RunMacro", at}, path); }
     /// Full path of the open database, "" when none is open.
-    std::wstring GetOpenDBName(Where at = Where::current()) const { return object_.Get({L"GetOpenDBName", at}).Text(at); }
+    std::wstring GetOpenDBName(Where at = Where::current()) const {
+        return object_.Get({L"GetOpenDBName", at}).Text(at);
+    }
     /// The logged-on user, "" when no database is open.
     std::wstring GetCurrentUserName(Where at = Where::current()) const {
         return object_.Get({L"GetCurrentUserName", at}).Text(at);

@@ -10,9 +10,8 @@ namespace {
 
 wchar_t Lower(wchar_t character) {
     // CharLowerW with the character in the low word folds one character.
-    const ULONG_PTR folded = reinterpret_cast<ULONG_PTR>(
-        CharLowerW(reinterpret_cast<wchar_t*>(static_cast<ULONG_PTR>(character)))); // NOLINT(performance-no-int-to-ptr)
-    return static_cast<wchar_t>(folded);
+    auto* folded = CharLowerW(reinterpret_cast<wchar_t*>(static_cast<ULONG_PTR>(character)));
+    return static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(folded));
 }
 
 std::wstring Lower(std::wstring_view text) {
@@ -80,7 +79,8 @@ std::wstring Trim(std::wstring_view text) {
 }
 
 bool EqualNoCase(std::wstring_view left, std::wstring_view right) {
-    return std::ranges::equal(left, right, {}, [](wchar_t c) { return Lower(c); }, [](wchar_t c) { return Lower(c); });
+    return std::ranges::equal(
+        left, right, {}, [](wchar_t c) { return Lower(c); }, [](wchar_t c) { return Lower(c); });
 }
 
 bool ContainsNoCase(std::wstring_view text, std::wstring_view part) {

@@ -14,7 +14,8 @@ std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator);
 /// The elements with one separator between neighbours: the reverse of Split.
 std::wstring Join(const std::vector<std::wstring>& elements, wchar_t separator);
 
-/// Every occurrence of `from` replaced by `to`, from left to right; letter case counts. An empty `from` changes nothing.
+/// Every occurrence of `from` replaced by `to`, from left to right; letter case counts. An empty `from` changes
+/// nothing.
 std::wstring Replace(std::wstring_view text, std::wstring_view from, std::wstring_view to);
 
 /// What follows the last `separator`, or the whole text when there is none.

@@ -4,9 +4,7 @@
 
 namespace {
 
-DWORD StyleOf(ButtonRole role) {
-    return (role == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP;
-}
+DWORD StyleOf(ButtonRole role) { return (role == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP; }
 
 } // namespace
 

@@ -136,21 +136,21 @@ Twips Form::LayoutSize() const {
             ToTwips(outer.bottom - outer.top - excess.Height, dpi_)};
 }
 
-void Form::Center(HWND owner) {
-    RECT around{};
+void Form::Center(HWND over) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(owner ? owner : window_, MONITOR_DEFAULTTONEAREST), &monitor);
-    if (!owner || !IsWindowVisible(owner) || !GetWindowRect(owner, &around)) around = monitor.rcWork;
+    GetMonitorInfoW(MonitorFromWindow(over ? over : window_, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& screen = monitor.rcWork;
+    RECT around{};
+    if (!over || !IsWindowVisible(over) || !GetWindowRect(over, &around)) around = screen;
     RECT own{};
     GetWindowRect(window_, &own);
     const LONG width = own.right - own.left;
     const LONG height = own.bottom - own.top;
-    const LONG left = around.left + (around.right - around.left - width) / 2;
-    const LONG top = around.top + (around.bottom - around.top - height) / 2;
-    SetWindowPos(window_, nullptr,
-                 std::max(monitor.rcWork.left, std::min(left, monitor.rcWork.right - width)),
-                 std::max(monitor.rcWork.top, std::min(top, monitor.rcWork.bottom - height)), 0, 0,
+    const LONG left = (around.left + around.right - width) / 2;
+    const LONG top = (around.top + around.bottom - height) / 2;
+    SetWindowPos(window_, nullptr, std::max(screen.left, std::min(left, screen.right - width)),
+                 std::max(screen.top, std::min(top, screen.bottom - height)), 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

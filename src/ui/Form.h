@@ -71,6 +71,8 @@ protected:
     virtual void Form_Activate() {}
     virtual void Form_Resize() {}
     virtual void Form_Unload() {}
+    /// Puts the window over the middle of a visible window, or of the screen for none, and wholly onto the screen.
+    void Center(HWND over);
     /// Messages that only one form cares about; true when handled, with the answer in `result`.
     virtual bool OnMessage(UINT, WPARAM, LPARAM, LRESULT& /*result*/) { return false; }
 
@@ -89,7 +91,6 @@ private:
     void CreateMenuBar();
     void ApplyFont();
     void ApplyDesignSize();
-    void Center(HWND owner);
     void FocusFirst();
     FrameSize ExcessFrame() const;
 
@@ -102,7 +103,7 @@ private:
     LRESULT DefaultIdentifier() const;
     static Control* ControlOf(HWND window);
     static bool Translate(MSG& message);
-    void ModalLoop();
+    void ModalLoop() const;
 
     FormDesign design_;
     HWND window_ = nullptr;

@@ -52,7 +52,8 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
             if (HBRUSH brush = control->OnColor(reinterpret_cast<HDC>(wParam))) return reinterpret_cast<LRESULT>(brush);
         break;
     case WM_SETCURSOR:
-        if (Control* control = ControlOf(reinterpret_cast<HWND>(wParam)); control && control->OnSetCursor()) return TRUE;
+        if (Control* control = ControlOf(reinterpret_cast<HWND>(wParam)); control && control->OnSetCursor())
+            return TRUE;
         break;
     case WM_CONTEXTMENU:
         OnContextMenu(reinterpret_cast<HWND>(wParam), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
@@ -108,8 +109,10 @@ void Form::OnActivate(WPARAM wParam) {
         return;
     }
     if (HIWORD(wParam) != 0) return;
-    if (lastFocus_ && IsWindowEnabled(lastFocus_)) ::SetFocus(lastFocus_);
-    else FocusFirst();
+    if (lastFocus_ && IsWindowEnabled(lastFocus_))
+        ::SetFocus(lastFocus_);
+    else
+        FocusFirst();
     Form_Activate();
 }
 

@@ -34,7 +34,7 @@ void Form::ShowModal() {
     if (owner_) SetActiveWindow(std::exchange(owner_, nullptr));
 }
 
-void Form::ModalLoop() {
+void Form::ModalLoop() const {
     MSG message{};
     while (!unloaded_) {
         const BOOL got = GetMessageW(&message, nullptr, 0, 0);

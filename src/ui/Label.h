@@ -13,7 +13,8 @@ public:
     /// An element of a control array inside a frame; its handler gets its index.
     template <class F>
     Label(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
-        : Label(form, name, place, [form, click, index] { (form->*click)(index); }, &container, index) {}
+        : Label(
+              form, name, place, [form, click, index] { (form->*click)(index); }, &container, index) {}
 
 protected:
     Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index = 0);
@@ -38,8 +39,14 @@ private:
     FontHandle underlined_;
 };
 
-/// A horizontal separator line.
+/// A separator line in a system colour (a COLOR_ constant).
 class Line : public Control {
 public:
-    Line(Form* form, const wchar_t* name, Twips place) : Control(form, name, place, {L"Static", SS_ETCHEDHORZ}) {}
+    Line(Form* form, const wchar_t* name, Twips place, int color)
+        : Control(form, name, place, {L"Static", SS_LEFT}), color_(color) {}
+
+private:
+    HBRUSH OnColor(HDC) override { return GetSysColorBrush(color_); }
+
+    int color_;
 };

@@ -13,8 +13,8 @@ std::wstring ItemText(HWND list, int item, int column) {
     query.iSubItem = column;
     query.pszText = text.data();
     query.cchTextMax = kLongestCell;
-    text.resize(static_cast<size_t>(SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(item),
-                                                 reinterpret_cast<LPARAM>(&query))));
+    text.resize(static_cast<size_t>(
+        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&query))));
     return text;
 }
 
@@ -35,9 +35,9 @@ int CALLBACK CompareItems(LPARAM left, LPARAM right, LPARAM order) {
 } // namespace
 
 ListView::ListView(Form* form, const wchar_t* name, Twips place)
-    : Control(form, name, place,
-              {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {
-}
+    : Control(
+          form, name, place,
+          {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
 
 void ListView::OnCreated() {
     constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
@@ -167,8 +167,7 @@ LRESULT ListView::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
     if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
     if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
     const auto row = static_cast<size_t>(draw.nmcd.lItemlParam);
-    if (row < rowColors_.size() && rowColors_[row] != CLR_DEFAULT)
-        draw.clrText = rowColors_[row];
+    if (row < rowColors_.size() && rowColors_[row] != CLR_DEFAULT) draw.clrText = rowColors_[row];
     return CDRF_NEWFONT;
 }
 

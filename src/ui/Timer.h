@@ -8,7 +8,8 @@ class Form;
 class Timer {
 public:
     template <class F>
-    Timer(F* form, const wchar_t* name, void (F::*timer)()) : Timer(static_cast<Form*>(form), name, Bind(form, timer)) {}
+    Timer(F* form, const wchar_t* name, void (F::*timer)())
+        : Timer(static_cast<Form*>(form), name, Bind(form, timer)) {}
     Timer(Form* form, const wchar_t* name, Action timer);
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;

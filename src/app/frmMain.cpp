@@ -1,0 +1,214 @@
+#include "app/frmMain.h"
+
+#include "app/Module1.h"
+#include "app/OtherWindows.h"
+#include "i18n/modLangues.h"
+#include "settings/UserStore.h"
+#include "support/Application.h"
+#include "support/Busy.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+#include "support/Vendor.h"
+
+#include <algorithm>
+#include <cwchar>
+
+namespace {
+
+constexpr UINT kActIsClosing = WM_APP + 1;
+constexpr unsigned kCloseRetryMilliseconds = 50;
+
+// The design size, which is the minimum too, in twips.
+constexpr int kDesignWidth = 8475;
+constexpr int kDesignHeight = 5190;
+
+std::wstring OpensDialog(const std::wstring& caption) { return caption + L"..."; }
+
+bool IsMessageBox(HWND window) {
+    wchar_t className[16]{};
+    GetClassNameW(window, className, 16);
+    return std::wcscmp(className, L"#32770") == 0;
+}
+
+/// Ends one dialog, message box or common dialog of this thread as by Cancel; false when `window` is none in use.
+bool CancelDialog(HWND window, const Form& mainWindow) {
+    if (window == mainWindow.Handle() || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
+    if (Form* form = Form::FromWindow(window)) {
+        form->CloseAsByUser();
+        if (!form->Unloaded()) form->Unload(); // one that cannot be cancelled
+        return true;
+    }
+    if (!IsMessageBox(window)) return false;
+    if (GetDlgItem(window, IDNO))
+        PostMessageW(window, WM_COMMAND, IDNO, 0); // has no Cancel
+    else
+        PostMessageW(window, WM_CLOSE, 0, 0);
+    return true;
+}
+
+struct CancelState {
+    const Form* mainWindow;
+    bool found;
+};
+
+BOOL CALLBACK CancelNext(HWND window, LPARAM state) {
+    auto& cancel = *reinterpret_cast<CancelState*>(state);
+    cancel.found = CancelDialog(window, *cancel.mainWindow);
+    return !cancel.found;
+}
+
+} // namespace
+
+frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}) {}
+
+void frmMain::Form_Load() try {
+    if (StartSteps())
+        FinishStart();
+    else
+        Unload();
+} catch (...) {
+    ErrorReport(L"frmMain: Sub Form_Load");
+    Unload();
+}
+
+bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    switch (message) {
+    case WM_GETMINMAXINFO: {
+        auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
+        limits.ptMinTrackSize = {ToPixels(kDesignWidth, Dpi()), ToPixels(kDesignHeight, Dpi())};
+        return true;
+    }
+    case kActIsClosing:
+        isClosing_ = true;
+        SilenceMessages();
+        EndMenu();
+        tmrClose.Interval(kCloseRetryMilliseconds);
+        return true;
+    case WM_QUERYENDSESSION: result = TRUE; return true;
+    case WM_ENDSESSION:
+        if (wParam) {
+            SilenceMessages();
+            SaveLayout();
+        }
+        return true;
+    default: return false;
+    }
+}
+
+void frmMain::Form_Resize() {
+    if (!Handle()) return;
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    const int width = ToTwips(outer.right - outer.left, Dpi());
+    const int height = ToTwips(outer.bottom - outer.top, Dpi());
+    const bool isTooSmall = width < kDesignWidth || height < kDesignHeight;
+    if (isTooSmall && !IsIconic(Handle())) {
+        OuterSize(std::max(width, kDesignWidth), std::max(height, kDesignHeight)); // comes back here
+        return;
+    }
+    const Twips layout = LayoutSize();
+    LayOut(layout.Width, layout.Height);
+}
+
+void frmMain::LayOut(int width, int height) {
+    const int growth = height - kDesignHeight;
+    Line1.Move({0, 0, width, 15});
+    Line2.Move({0, 15, width, 15});
+    ListView1.Move({120, 120, width - 1980, height - 2775});
+    Frame1.Move({120, 2715 + growth, width - 1980, 1290});
+    cmdOpen.Move({width - 1375, 120, 1215, 345});
+    cmdCancel.Move({width - 1375, 570, 1215, 345});
+    lblMore.Move({width - 2375, 4140 + growth, 585, 255});
+    lblLink.Move({width - 1775, 4140 + growth, 1640, 255});
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void frmMain::SetCaptions() {
+    Caption(Application::Title);
+    cmdOpen.Text(LangText[62]);
+    cmdCancel.Text(LangText[2]);
+    lblMore.Text(LangText[3]);
+    lblLink.Text(Vendor::SiteName);
+    Frame1.Text(LangText[46]);
+    for (std::size_t view = 0; view < ViewCount; ++view) {
+        const std::wstring caption = LangText[47 + static_cast<int>(view)];
+        lblView[view].Text(caption);
+        // Too narrow to be seen: for screen readers.
+        optView[view].Text(caption);
+    }
+    SetMenuCaptions();
+    SetColumnTitles();
+}
+
+void frmMain::SetMenuCaptions() {
+    mnuFile.Caption(LangText[128]);
+    mnuFileOpen.Caption(LangText[62]);
+    mnuExit.Caption(LangText[129]);
+    mnuEdit.Caption(LangText[125]);
+    mnuEditProperties.Caption(OpensDialog(LangText[55]));
+    mnuManageList.Caption(OpensDialog(LangText[89]));
+    mnuOptions.Caption(LangText[59]);
+    mnuSettingsLocation.Caption(OpensDialog(LangText[122]));
+    mnuLanguages.Caption(OpensDialog(LangText[61]));
+    mnuIntegrate.Caption(OpensDialog(LangText[60]));
+    mnuQuickSwitch.Caption(L"QuickSwitch");
+    mnuHelp.Caption(LangText[56]);
+    mnuManual.Caption(LangText[130]);
+    mnuOnline.Caption(LangText[57]);
+    mnuAbout.Caption(OpensDialog(LangText[58]));
+    mnuOpen.Caption(LangText[62]);
+    mnuProperties.Caption(OpensDialog(LangText[55]));
+
+    using OtherWindows::Has;
+    using OtherWindows::Window;
+    mnuEditProperties.Enabled(Has(Window::Properties));
+    mnuProperties.Enabled(Has(Window::Properties));
+    mnuManageList.Enabled(Has(Window::ListMaintenance));
+    mnuSettingsLocation.Enabled(Has(Window::SettingsLocation));
+    mnuIntegrate.Enabled(Has(Window::Integration));
+    mnuQuickSwitch.Enabled(Has(Window::QuickSwitch));
+    mnuAbout.Enabled(Has(Window::About));
+}
+
+void frmMain::SaveLayout() {
+    if (listLoaded_) UserStore::Set(L"Display", L"Selected", std::to_wstring(ListView1.Selected()));
+    for (int column = 0; columnsLoaded_ && column < ListView1.ColumnCount(); ++column)
+        UserStore::Set(L"Settings", L"Column" + std::to_wstring(column),
+                       std::to_wstring(ListView1.ColumnWidth(column)));
+    if (!sizeLoaded_) return;
+    const Twips size = OuterSize();
+    UserStore::Set(L"Settings", L"Height", std::to_wstring(size.Height));
+    UserStore::Set(L"Settings", L"Width", std::to_wstring(size.Width));
+}
+
+void frmMain::Form_Unload() {
+    try {
+        SaveLayout();
+    } catch (...) {
+        ErrorReport(L"frmMain: Sub Form_Unload");
+    }
+    Module1::Release_object();
+    ActEvent1.Close();
+    PostQuitMessage(0);
+}
+
+void frmMain::ActEvent1_OnActUserWantsToClose() {
+    // Only the answer belongs into the event: nothing may be released while the component is still in its call.
+    ActEvent1.AnswerUserWantsToClose(true);
+    PostMessageW(Handle(), kActIsClosing, 0, 0);
+}
+
+void frmMain::tmrClose_Timer() {
+    if (Busy::Now()) return;
+    CancelState cancel{this, false};
+    EnumThreadWindows(GetCurrentThreadId(), &CancelNext, reinterpret_cast<LPARAM>(&cancel));
+    // A cancelled dialog returns to its caller first; the next tick looks again.
+    if (cancel.found || !IsWindowEnabled(Handle())) return;
+    tmrClose.Interval(0);
+    Unload();
+}
+
+void frmMain::EndIfInvisible() {
+    const bool isAnyVisible = std::ranges::any_of(Form::Loaded(), [](const Form* form) { return form->Visible(); });
+    if (!isAnyVisible && !isClosing_) Unload();
+}

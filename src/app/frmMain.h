@@ -1,0 +1,171 @@
+#pragma once
+
+#include "act/ActEvent.h"
+#include "app/SingleInstance.h"
+#include "integration/clsToolbarIcon.h"
+#include "settings/Database.h"
+#include "ui/Button.h"
+#include "ui/ControlArray.h"
+#include "ui/Form.h"
+#include "ui/Frame.h"
+#include "ui/Label.h"
+#include "ui/ListView.h"
+#include "ui/Menu.h"
+#include "ui/Timer.h"
+
+#include <array>
+#include <string>
+
+/// The main window: the list of databases, the choice of the view to open in, and the menus. It owns the run: its load
+/// is the program's start, its unload the program's end.
+class frmMain : public Form {
+public:
+    frmMain();
+
+    /// Opens a database of the list in the running ACT! and ends the program; `viewCode` is 0 to 6. `mainHidden` tells
+    /// that this window is not on screen. Every way out without success shows this window.
+    void Open_DB(const std::wstring& name, short viewCode, bool mainHidden);
+
+    static constexpr std::size_t ViewCount = 7;
+    static constexpr std::array<Twips, ViewCount> OptionPlaces{{{180, 255, 210, 210},
+                                                                {180, 510, 210, 210},
+                                                                {180, 765, 210, 210},
+                                                                {180, 1020, 210, 210},
+                                                                {3300, 255, 210, 210},
+                                                                {3300, 510, 210, 210},
+                                                                {3300, 765, 210, 210}}};
+    static constexpr std::array<Twips, ViewCount> ViewLabelPlaces{{{450, 255, 2700, 225},
+                                                                   {450, 510, 2700, 225},
+                                                                   {450, 765, 2700, 225},
+                                                                   {450, 1020, 2700, 225},
+                                                                   {3570, 255, 2700, 225},
+                                                                   {3570, 510, 2700, 225},
+                                                                   {3570, 765, 2700, 225}}};
+
+    Line Line1{this, L"Line1", {0, 0, 8475, 15}, COLOR_BTNSHADOW};
+    Line Line2{this, L"Line2", {0, 15, 8475, 15}, COLOR_BTNHIGHLIGHT};
+    ListView ListView1{this,
+                       L"ListView1",
+                       {120, 120, 6495, 2415},
+                       {.DblClick = &frmMain::ListView1_DblClick,
+                        .ColumnClick = &frmMain::ListView1_ColumnClick,
+                        .RightClick = &frmMain::ListView1_MouseDown}};
+    Frame Frame1{this, L"Frame1", {120, 2715, 6495, 1290}};
+    ControlArray<OptionButton, ViewCount> optView{this, Frame1, L"optView", OptionPlaces, &frmMain::optView_Click};
+    ControlArray<Label, ViewCount> lblView{this, Frame1, L"lblView", ViewLabelPlaces, &frmMain::lblView_Click};
+    CommandButton cmdOpen{this, L"cmdOpen", {7100, 120, 1215, 345}, &frmMain::cmdOpen_Click, Default};
+    CommandButton cmdCancel{this, L"cmdCancel", {7100, 570, 1215, 345}, &frmMain::cmdCancel_Click, Cancel};
+    Label lblMore{this, L"lblMore", {6100, 4140, 585, 255}};
+    LinkLabel lblLink{this, L"lblLink", {6700, 4140, 1640, 255}, &frmMain::lblLink_Click};
+
+    Menu mnuFile{this, L"mnuFile"};
+    MenuItem mnuFileOpen{this, mnuFile, L"mnuFileOpen", &frmMain::mnuFileOpen_Click};
+    MenuSeparator mnuSep1{mnuFile};
+    MenuItem mnuExit{this, mnuFile, L"mnuExit", &frmMain::mnuExit_Click};
+    Menu mnuEdit{this, L"mnuEdit"};
+    MenuItem mnuEditProperties{this, mnuEdit, L"mnuEditProperties", &frmMain::mnuEditProperties_Click};
+    MenuItem mnuManageList{this, mnuEdit, L"mnuManageList", &frmMain::mnuManageList_Click};
+    Menu mnuOptions{this, L"mnuOptions"};
+    MenuItem mnuSettingsLocation{this, mnuOptions, L"mnuSettingsLocation", &frmMain::mnuSettingsLocation_Click};
+    MenuItem mnuLanguages{this, mnuOptions, L"mnuLanguages", &frmMain::mnuLanguages_Click};
+    MenuSeparator mnuSep2{mnuOptions};
+    MenuItem mnuIntegrate{this, mnuOptions, L"mnuIntegrate", &frmMain::mnuIntegrate_Click};
+    MenuItem mnuQuickSwitch{this, mnuOptions, L"mnuQuickSwitch", &frmMain::mnuQuickSwitch_Click};
+    Menu mnuHelp{this, L"mnuHelp"};
+    MenuItem mnuManual{this, mnuHelp, L"mnuManual", &frmMain::mnuManual_Click};
+    MenuItem mnuOnline{this, mnuHelp, L"mnuOnline", &frmMain::mnuOnline_Click};
+    MenuSeparator mnuSep3{mnuHelp};
+    MenuItem mnuAbout{this, mnuHelp, L"mnuAbout", &frmMain::mnuAbout_Click};
+    Menu mnuPopup{this, L"mnuPopup", Menu::Place::PopUp};
+    MenuItem mnuOpen{this, mnuPopup, L"mnuOpen", &frmMain::mnuOpen_Click};
+    MenuItem mnuProperties{this, mnuPopup, L"mnuProperties", &frmMain::mnuProperties_Click};
+    Timer tmrClose{this, L"tmrClose", &frmMain::tmrClose_Timer};
+
+private:
+    /// What ACT! answers about itself, asked once for all rows.
+    struct ActPlaces {
+        std::wstring Layouts;
+        std::wstring Macros;
+        std::wstring OpenDatabase;
+    };
+
+    // The window and its life (frmMain.cpp)
+    void Form_Load() override;
+    void Form_Resize() override;
+    void Form_Unload() override;
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void SetCaptions();
+    void SetMenuCaptions();
+    void LayOut(int width, int height);
+    void SaveLayout();
+    void ActEvent1_OnActUserWantsToClose();
+    void tmrClose_Timer();
+    void EndIfInvisible();
+
+    // Start-up (frmMainStart.cpp): each step is true when the start goes on.
+    bool StartSteps();
+    bool ClaimInstance();
+    bool LoadLanguage();
+    bool FindSettingsFile();
+    bool CheckActRuns();
+    bool UpgradeSettings();
+    bool FirstRunLanguage();
+    bool CheckUserLoggedOn();
+    void FinishStart();
+    void CreateSettingsFile();
+    void RestoreWindow();
+    void RestoreColumns();
+    void CompleteFirstRun();
+    void RecordActDefaults();
+    void FillAndSelect();
+    void ShowFirstWindow();
+
+    // The list (frmMainList.cpp)
+    void FillList();
+    void FillColumns(int row, const std::wstring& name, const ActPlaces& places);
+    void SetColumnTitles();
+    std::wstring SelectedName() const;
+    void ListView1_ColumnClick(int column);
+    void ListView1_DblClick();
+    void ListView1_MouseDown();
+
+    // Opening (frmMainOpen.cpp)
+    bool OpenInAct(const std::wstring& name, short viewCode, bool mainHidden);
+    bool OpenDatabase(const std::wstring& path);
+    static void WriteLocations(const std::wstring& name);
+    static void ShowView(short viewCode);
+    static void RunOpeningMacro(const std::wstring& macro);
+    static void PutDefaultsBack();
+    short CheckedView() const;
+
+    // Commands (frmMainCommands.cpp)
+    void cmdOpen_Click();
+    void cmdCancel_Click();
+    void lblLink_Click();
+    void lblView_Click(int index);
+    void optView_Click(int index);
+    void mnuFileOpen_Click();
+    void mnuOpen_Click();
+    void mnuExit_Click();
+    void mnuEditProperties_Click();
+    void mnuProperties_Click();
+    void mnuManageList_Click();
+    void mnuSettingsLocation_Click();
+    void mnuLanguages_Click();
+    void mnuIntegrate_Click();
+    void mnuQuickSwitch_Click();
+    void mnuManual_Click();
+    void mnuOnline_Click();
+    void mnuAbout_Click();
+
+    SingleInstance instance_;
+    ActEvent ActEvent1;
+    clsToolbarIcon toolbarIcon_;
+    int sortColumn_ = -1;
+    bool sortDescending_ = false;
+    bool reload_ = false;     ///< Form_Load runs again after a change of language
+    bool isClosing_ = false;  ///< ACT! is closing: the program follows
+    bool sizeLoaded_ = false; ///< each of these is saved only when it was loaded in this run
+    bool columnsLoaded_ = false;
+    bool listLoaded_ = false;
+};

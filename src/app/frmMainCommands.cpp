@@ -1,0 +1,57 @@
+// frmMain's buttons, labels and menu items.
+
+#include "app/frmMain.h"
+
+#include "app/OtherWindows.h"
+#include "i18n/frmLanguage.h"
+#include "i18n/modLangues.h"
+#include "support/Application.h"
+#include "support/MsgBox.h"
+#include "support/Shell.h"
+#include "support/Vendor.h"
+
+void frmMain::cmdOpen_Click() { Open_DB(SelectedName(), CheckedView(), false); }
+void frmMain::mnuFileOpen_Click() { cmdOpen_Click(); }
+void frmMain::mnuOpen_Click() { cmdOpen_Click(); }
+
+void frmMain::cmdCancel_Click() { Unload(); }
+void frmMain::mnuExit_Click() { Unload(); }
+
+void frmMain::lblView_Click(int index) {
+    for (OptionButton& option : optView) option.Value(option.Index() == index);
+    ListView1.SetFocus();
+}
+
+void frmMain::optView_Click(int) { ListView1.SetFocus(); }
+
+void frmMain::lblLink_Click() { OpenWithShell(Vendor::Site); }
+void frmMain::mnuManual_Click() { OpenWithShell(Application::FileInFolder(L"Kelmorra_manual.pdf")); }
+void frmMain::mnuOnline_Click() { OpenWithShell(Vendor::Tutorials + LangText[63] + L".htm"); }
+
+void frmMain::mnuEditProperties_Click() {
+    if (SelectedName().empty())
+        MsgBox(LangText[82]);
+    else
+        OtherWindows::Enter(OtherWindows::Window::Properties);
+}
+
+void frmMain::mnuProperties_Click() { mnuEditProperties_Click(); }
+void frmMain::mnuManageList_Click() { OtherWindows::Enter(OtherWindows::Window::ListMaintenance); }
+void frmMain::mnuSettingsLocation_Click() { OtherWindows::Enter(OtherWindows::Window::SettingsLocation); }
+void frmMain::mnuIntegrate_Click() { OtherWindows::Enter(OtherWindows::Window::Integration); }
+void frmMain::mnuAbout_Click() { OtherWindows::Enter(OtherWindows::Window::About); }
+
+void frmMain::mnuQuickSwitch_Click() {
+    OtherWindows::Enter(OtherWindows::Window::QuickSwitch);
+    EndIfInvisible();
+}
+
+void frmMain::mnuLanguages_Click() {
+    frmLanguage().ShowModal();
+    if (isClosing_) return;
+    // The load sequence restores what is stored: the window must not jump back to the size of the last run.
+    SaveLayout();
+    reload_ = true;
+    Form_Load();
+    EndIfInvisible();
+}

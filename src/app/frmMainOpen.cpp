@@ -1,0 +1,124 @@
+// frmMain's opening of a database in the running ACT!.
+
+#include "app/frmMain.h"
+
+#include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "settings/IniLib.h"
+#include "settings/RegistrySubs.h"
+#include "settings/UserStore.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+#include "support/Shell.h"
+
+namespace {
+
+constexpr wchar_t kActKey[] = L"Software\\Symantec\\ACT!";
+
+std::wstring OrRecorded(const std::wstring& layout, const wchar_t* recordedKey) {
+    return layout.empty() ? UserStore::Get(L"Settings", recordedKey) : layout;
+}
+
+} // namespace
+
+void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden) {
+    if (Program().StartActMode) {
+        Program().FriendlyName = name;
+        return;
+    }
+    if (name.empty()) {
+        if (mainHidden) Show();
+        MsgBox(LangText[82]);
+        ListView1.SetFocus();
+        return;
+    }
+    try {
+        if (OpenInAct(name, viewCode, mainHidden)) Unload();
+    } catch (...) {
+        if (!isClosing_) Show();
+        ErrorReport(L"frmMain: Sub cmdOpen_Click");
+    }
+    EndIfInvisible();
+}
+
+bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidden) {
+    const ActPreferences& preferences = Program().Preferences;
+    const DatabaseRecord record = ExtractInfo(name);
+    if (!mainHidden) Hide();
+    // Empty means "keep ACT!'s own": the last database's layout must not stay in force.
+    preferences.DefaultContactLayout(OrRecorded(record.ContactLayout, L"OriginalCL"));
+    preferences.DefaultGroupLayout(OrRecorded(record.GroupLayout, L"OriginalGL"));
+    WriteLocations(name);
+    LogonValues::CopyToLogon(name);
+    OpenWithShell(Application::FileInFolder(L"logon.exe"));
+    if (!OpenDatabase(record.Path)) return false;
+    ShowView(viewCode);
+    RunOpeningMacro(record.OpeningMacro);
+    if (!preferences.UseLastDBonStartup()) PutDefaultsBack();
+    return true;
+}
+
+void frmMain::WriteLocations(const std::wstring& name) {
+    const std::wstring lender = IniLib::GetKeyValue(name, L"UseLocationsFrom");
+    for (const wchar_t* location : LocationNames) {
+        const std::wstring folder = IniLib::GetKeyValue(lender.empty() ? name : lender, location);
+        if (folder.empty()) continue;
+        RegistrySubs::SetRegistryValue(HKEY_CURRENT_USER, kActKey, std::wstring(location) + L" File Type", folder);
+    }
+}
+
+bool frmMain::OpenDatabase(const std::wstring& path) {
+    try {
+        Program().Application.openDB(path);
+        return true;
+    } catch (const Error& error) {
+        if (!isClosing_) Show();
+        if (error.Number == BasicError::ObjectNotSet)
+            MsgBox(LangText[104] + L"\r\n\r\n" + LangText[105], MsgIcon::None, LangText[82].c_str());
+        else
+            MsgBox(LangText[106]);
+    }
+    ListView1.SetFocus();
+    try {
+        PutDefaultsBack();
+    } catch (const Error&) {
+        // The user has had the message about the failure itself.
+    }
+    return false;
+}
+
+void frmMain::ShowView(short viewCode) {
+    constexpr short kFirstCalendar = 4;
+    constexpr short kCalendarView = 5;
+    constexpr short kModeOffset = 296; // ACT!'s calendar modes are 300 to 302
+    const ActViews& views = Program().Views;
+    if (viewCode < kFirstCalendar)
+        views.Show(static_cast<short>(viewCode + 1));
+    else
+        views.Create(kCalendarView).SetCalendarMode(static_cast<short>(viewCode + kModeOffset));
+}
+
+void frmMain::RunOpeningMacro(const std::wstring& macro) {
+    if (macro.empty()) return;
+    if (macro.ends_with(L".mpr"))
+        Program().Application.RunMacro(macro);
+    else if (macro.ends_with(L".exe"))
+        OpenWithShell(macro);
+    else
+        MsgBox(std::wstring(L"Macro cannot be executed by ") + Application::Title + L".", MsgIcon::None,
+               L"Invalid Macro File");
+}
+
+void frmMain::PutDefaultsBack() {
+    const ActPreferences& preferences = Program().Preferences;
+    preferences.DefaultContactLayout(UserStore::Get(L"Settings", L"OriginalCL"));
+    preferences.DefaultGroupLayout(UserStore::Get(L"Settings", L"OriginalGL"));
+    preferences.StartupMacro(UserStore::Get(L"Settings", L"OriginalMacro"));
+}
+
+short frmMain::CheckedView() const {
+    for (std::size_t view = 0; view < ViewCount; ++view)
+        if (optView[view].Value()) return static_cast<short>(view);
+    return 0;
+}

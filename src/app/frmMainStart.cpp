@@ -1,0 +1,190 @@
+// frmMain's start-up: a list of named steps.
+
+#include "app/frmMain.h"
+
+#include "app/LinkMenuItem.h"
+#include "app/Module1.h"
+#include "app/OtherWindows.h"
+#include "i18n/MoreText.h"
+#include "i18n/frmLanguage.h"
+#include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "settings/IniLib.h"
+#include "settings/UserStore.h"
+#include "settings/modFolderFileExists.h"
+#include "settings/modUpgrade32.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+#include "support/Text.h"
+#include "win32/Owner.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr wchar_t kAlreadyRunning[] = L"An instance of this program is already running!";
+constexpr int kColumnWidths[] = {1650, 1110, 1110, 1110, 1440}; // twips
+constexpr long kWidestColumn = 100000;                          // twips; more is garbage
+
+long StoredNumber(const wchar_t* section, const wchar_t* key) {
+    return Text::WholeNumber(UserStore::Get(section, key)).value_or(0);
+}
+
+short StoredLanguage() {
+    const auto language = Text::WholeNumber(UserStore::Get(L"Options", L"Language"));
+    return language && *language >= 0 && *language <= 2 ? static_cast<short>(*language) : short{0};
+}
+
+bool IsFirstRun() { return StoredNumber(L"Settings", L"Installed") == 0; }
+
+bool OpensQuickSwitchAtStart() {
+    const auto wanted = Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0"));
+    return wanted.value_or(0) == 1 && !IniLib::GetKeyValue(L"General", L"Quickswitch").empty();
+}
+
+} // namespace
+
+bool frmMain::StartSteps() {
+    if (!ClaimInstance() || !LoadLanguage() || !FindSettingsFile()) return false;
+    if (!reload_)
+        if (!CheckActRuns() || !UpgradeSettings() || !Module1::Create_object() || !FirstRunLanguage()) return false;
+    return CheckUserLoggedOn();
+}
+
+bool frmMain::ClaimInstance() {
+    if (instance_.Claim()) return true;
+    short language = StoredLanguage();
+    modLangues::Init_Language(language);
+    MsgBox(language == 0 ? kAlreadyRunning : LangText[7]);
+    return false;
+}
+
+bool frmMain::LoadLanguage() {
+    short language = StoredLanguage();
+    modLangues::Init_Language(language);
+    return true;
+}
+
+bool frmMain::FindSettingsFile() {
+    std::wstring path = UserStore::Get(L"Settings", L"IniLocation");
+    IniLib::SettingsFile(path.empty() ? Application::FileInFolder(L"Kelmorra.ini") : path);
+    return true;
+}
+
+bool frmMain::CheckActRuns() {
+    ActEvent1.Create([this] { ActEvent1_OnActUserWantsToClose(); });
+    if (ActEvent1.InstanceCount() >= 1) return true;
+    if (ActEvent1.RegistrationFailed())
+        MsgBox(LangText[10] + L"\r\n" + LangText[11]);
+    else if (!OpensQuickSwitchAtStart() || !OtherWindows::Enter(OtherWindows::Window::StartAct))
+        MsgBox(LangText[9] + Application::Title);
+    return false;
+}
+
+bool frmMain::UpgradeSettings() {
+    const std::wstring version = UserStore::Get(L"Settings", L"Version");
+    if (version == L"200") {
+        const std::wstring location = UserStore::Get(L"Settings", L"IniLocation");
+        UserStore::DeleteAll();
+        if (!location.empty()) UserStore::Set(L"Settings", L"IniLocation", location);
+    }
+    if (version != L"32" && version != L"3") modUpgrade32::Upgrade_to_32();
+    UserStore::Set(L"Settings", L"Version", Application::VersionDigits());
+    return true;
+}
+
+bool frmMain::FirstRunLanguage() {
+    if (!IsFirstRun()) return true;
+    frmLanguage().ShowModal();
+    if (isClosing_) return false;
+    LoadLanguage();
+    Create_LinkMenuItem(toolbarIcon_.GetACTLocation());
+    return true;
+}
+
+bool frmMain::CheckUserLoggedOn() {
+    if (!Program().Application.GetCurrentUserName().empty()) return true;
+    MsgBox(LangText[126]);
+    return false;
+}
+
+void frmMain::FinishStart() {
+    using Step = void (frmMain::*)();
+    constexpr Step kSteps[] = {&frmMain::CreateSettingsFile, &frmMain::RestoreWindow,     &frmMain::RestoreColumns,
+                               &frmMain::CompleteFirstRun,   &frmMain::RecordActDefaults, &frmMain::FillAndSelect};
+    bool isReported = false;
+    for (const Step step : kSteps) {
+        try {
+            (this->*step)();
+        } catch (...) {
+            // The window stays usable, so that for example the settings file's place can be mended. What fails
+            // further on has the same cause and is not reported again.
+            if (!isReported) ErrorReport(L"frmMain: Sub Form_Load");
+            isReported = true;
+        }
+    }
+    if (!reload_) ShowFirstWindow();
+}
+
+void frmMain::CreateSettingsFile() {
+    const std::wstring path = IniLib::SettingsFile();
+    if (modFolderFileExists::FileExists(path)) return;
+    const FileHandle file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    constexpr char kBlankLine[] = " \r\n";
+    DWORD written = 0;
+    if (!file || !WriteFile(file.Get(), kBlankLine, sizeof kBlankLine - 1, &written, nullptr))
+        throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(GetLastError())) + L" " + path);
+}
+
+void frmMain::RestoreWindow() {
+    const auto width = Text::Measure(UserStore::Get(L"Settings", L"Width"));
+    const auto height = Text::Measure(UserStore::Get(L"Settings", L"Height"));
+    const Twips design = OuterSize();
+    const int widest = ToTwips(GetSystemMetrics(SM_CXMAXTRACK), Dpi());
+    const int highest = ToTwips(GetSystemMetrics(SM_CYMAXTRACK), Dpi());
+    OuterSize(std::min<int>(width.value_or(design.Width), widest),
+              std::min<int>(height.value_or(design.Height), highest));
+    sizeLoaded_ = true;
+    if (!reload_) Center(nullptr);
+    if (!reload_) optView[0].Value(true);
+    SetCaptions();
+}
+
+void frmMain::RestoreColumns() {
+    for (int column = 0; column < 5; ++column) {
+        if (ListView1.ColumnCount() <= column) ListView1.AddColumn({}, kColumnWidths[column]);
+        const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + std::to_wstring(column)));
+        if (width && *width >= 0 && *width <= kWidestColumn) ListView1.ColumnWidth(column, static_cast<int>(*width));
+    }
+    columnsLoaded_ = true;
+    SetColumnTitles();
+}
+
+void frmMain::CompleteFirstRun() {
+    if (!IsFirstRun()) return;
+    Create_LinkMenuItem(toolbarIcon_.GetACTLocation());
+    UserStore::Set(L"Settings", L"Installed", L"1");
+}
+
+void frmMain::RecordActDefaults() {
+    ProgramState& program = Program();
+    UserStore::Set(L"Settings", L"OriginalCL", program.Preferences.DefaultContactLayout());
+    UserStore::Set(L"Settings", L"OriginalGL", program.Preferences.DefaultGroupLayout());
+    UserStore::Set(L"Settings", L"OriginalMacro", program.Preferences.StartupMacro());
+    program.DefaultDatabaseLocation = program.Preferences.GetDefaultLocation(DefaultLocation::Databases);
+}
+
+void frmMain::FillAndSelect() {
+    if (reload_) return;
+    FillList();
+    listLoaded_ = true;
+    ListView1.Select(static_cast<int>(StoredNumber(L"Display", L"Selected")));
+}
+
+void frmMain::ShowFirstWindow() {
+    if (isClosing_) return;
+    if (!OpensQuickSwitchAtStart() || !OtherWindows::Enter(OtherWindows::Window::QuickSwitch)) Show();
+    if (Visible() && DatabaseList::IsLongerThanShown()) MsgBox(Translated(MoreText::ListTooLong), MsgIcon::Information);
+}

@@ -1,0 +1,42 @@
+#include "act/MessageFilter.h"
+#include "app/frmMain.h"
+#include "i18n/modLangues.h"
+#include "support/ErrorReport.h"
+#include "win32/Windows.h"
+
+namespace {
+
+/// The single-threaded apartment that late-bound calls and OLE controls need.
+class Apartment {
+public:
+    Apartment() : entered_(SUCCEEDED(OleInitialize(nullptr))) {}
+    ~Apartment() {
+        if (entered_) OleUninitialize();
+    }
+    Apartment(const Apartment&) = delete;
+    Apartment& operator=(const Apartment&) = delete;
+
+private:
+    bool entered_;
+};
+
+std::wstring SupportSentence() { return LangText[108]; }
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls,
+                                             ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    InitCommonControlsEx(&kControls);
+    SetSupportSentence(&SupportSentence);
+    const Apartment apartment;
+    const MessageFilter filter;
+    try {
+        frmMain mainWindow;
+        mainWindow.Load();
+        return Form::RunMessageLoop();
+    } catch (...) {
+        ErrorReport(L"frmMain: Sub Form_Load");
+        return 1;
+    }
+}

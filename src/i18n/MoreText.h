@@ -1,0 +1,9 @@
+#pragma once
+
+#include <string>
+
+/// Texts for situations that the numbered table knows nothing of.
+enum class MoreText { ListTooLong };
+
+/// A text in the current language.
+std::wstring Translated(MoreText text);

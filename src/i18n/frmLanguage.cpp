@@ -1,0 +1,45 @@
+#include "i18n/frmLanguage.h"
+
+#include "i18n/modLangues.h"
+#include "settings/UserStore.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/Text.h"
+
+namespace {
+
+// Both languages: none is chosen yet.
+constexpr wchar_t kFirstRunPrompt[] = L"Pick your language/Choisissez une langue :";
+
+bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(L"Settings", L"Installed")).value_or(0) == 0; }
+
+} // namespace
+
+frmLanguage::frmLanguage()
+    : Form({L"frmLanguage", 3990, 1680, Border::Dialog, !IsFirstRun()}), isFirstRun_(IsFirstRun()) {}
+
+void frmLanguage::Form_Load() try {
+    if (isFirstRun_) {
+        Caption(Application::Title);
+        Label1.Text(kFirstRunPrompt);
+        cmdOK.Text(L"&OK");
+        cmdCancel.Text(L"&Cancel");
+        cmdCancel.Enabled(false);
+    } else {
+        Caption(LangText[65]);
+        Label1.Text(LangText[64] + L":");
+        cmdOK.Text(LangText[1]);
+        cmdCancel.Text(LangText[2]);
+    }
+    for (const wchar_t* language : {L"English", L"Français", L"Deutsch"}) cmbLanguage.AddItem(language);
+    cmbLanguage.ListIndex(CurrentLanguage);
+} catch (...) {
+    ErrorReport(L"frmLanguage: Sub Form_Load");
+}
+
+void frmLanguage::cmdOK_Click() {
+    UserStore::Set(L"Options", L"Language", std::to_wstring(cmbLanguage.ListIndex()));
+    Unload();
+}
+
+void frmLanguage::cmdCancel_Click() { Unload(); }

@@ -1,0 +1,6 @@
+#include "program/Program.h"
+
+ProgramState& Program() {
+    static ProgramState state;
+    return state;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "act/ActApplication.h"
+#include "settings/Database.h"
+
+#include <string>
+#include <vector>
+
+/// State that lives as long as the process, owned by the main window.
+struct ProgramState {
+    ActApplication Application;
+    ActViews Views;
+    ActPreferences Preferences;
+    std::wstring DefaultDatabaseLocation;    ///< ACT!'s default folder for databases
+    std::wstring FriendlyName;               ///< the database being edited or opened
+    std::vector<std::wstring> DatabaseNames; ///< the list, in the order of "Sort"
+    std::wstring OpenDatabaseNames;          ///< the databases that ACT! has open, each as "|" + name + "|"
+    bool StartActMode = false;               ///< ACT! was not running: Open_DB only records the chosen name
+};
+
+ProgramState& Program();
