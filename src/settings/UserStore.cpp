@@ -8,6 +8,7 @@
 
 namespace {
 
+constexpr DWORD kCharacterSize = sizeof(wchar_t);
 constexpr size_t kLongestValueName = 16384; // 16383 characters and the zero
 constexpr size_t kLongestKeyName = 256;     // 255 characters and the zero
 
@@ -64,8 +65,8 @@ std::wstring Get(const std::wstring& section, const std::wstring& key, const std
     DWORD size = 0;
     if (RegQueryValueExW(opened.Get(), key.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ)
         return defaultText;
-    std::wstring text((size + 1) / sizeof(wchar_t), L'\0');
-    size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    std::wstring text((size + 1) / kCharacterSize, L'\0');
+    size = static_cast<DWORD>(text.size()) * kCharacterSize;
     BYTE* const bytes = reinterpret_cast<BYTE*>(text.data());
     if (RegQueryValueExW(opened.Get(), key.c_str(), nullptr, nullptr, bytes, &size) != ERROR_SUCCESS)
         return defaultText;
@@ -80,7 +81,7 @@ bool Set(const std::wstring& section, const std::wstring& key, const std::wstrin
     if (RegCreateKeyExW(HKEY_CURRENT_USER, SectionPath(section).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                         KEY_SET_VALUE, nullptr, opened.Receive(), nullptr) != ERROR_SUCCESS)
         return false;
-    const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    const DWORD size = static_cast<DWORD>(text.size() + 1) * kCharacterSize;
     return RegSetValueExW(opened.Get(), key.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), size) ==
            ERROR_SUCCESS;
 }
