@@ -1,0 +1,50 @@
+#include "server/Objects.h"
+#include "server/Session.h"
+
+namespace {
+
+constexpr long kCloseCommand = 150;
+
+Variant OpenFile(Automation&, const Arguments& arguments) {
+    const std::wstring path = arguments[0].AsText();
+    if (!path.empty()) Session::OpenDatabase(path);
+    return {};
+}
+
+Variant Views(Automation&, const Arguments&) { return Variant::Object(MakeViews()); }
+
+Variant Preferences(Automation&, const Arguments&) { return Variant::Object(MakePreferences()); }
+
+Variant OpenDB(Automation&, const Arguments& arguments) {
+    Session::OpenDatabase(arguments[0].AsText());
+    return {};
+}
+
+Variant RunMacro(Automation&, const Arguments& arguments) {
+    Session::RunMacro(arguments[0].AsText());
+    return {};
+}
+
+Variant GetOpenDBName(Automation&, const Arguments&) { return Variant::Text(Session::Current().Database); }
+
+Variant GetCurrentUserName(Automation&, const Arguments&) { return Variant::Text(Session::User()); }
+
+Variant Command(Automation&, const Arguments& arguments) {
+    if (arguments[0].AsNumber() == kCloseCommand) Session::RequestClose();
+    return {};
+}
+
+constexpr Member kMembers[] = {
+    {L"OpenFile", kMethod, {VT_BSTR}, OpenFile, nullptr},
+    {L"Views", kProperty, {}, Views, nullptr},
+    {L"Preferences", kProperty, {}, Preferences, nullptr},
+    {L"openDB", kMethod, {VT_BSTR}, OpenDB, nullptr},
+    {L"RunMacro", kMethod, {VT_BSTR}, RunMacro, nullptr},
+    {L"GetOpenDBName", kEither, {}, GetOpenDBName, nullptr},
+    {L"GetCurrentUserName", kEither, {}, GetCurrentUserName, nullptr},
+    {L"Command", kMethod, {VT_I4}, Command, nullptr},
+};
+
+} // namespace
+
+ComPtr<IDispatch> MakeAppObject() { return ComPtr<IDispatch>(new Automation(L"APPOBJECT", kMembers)); }

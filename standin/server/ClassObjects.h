@@ -1,0 +1,18 @@
+#pragma once
+
+#include "win32/Windows.h"
+
+/// The class objects through which COM reaches this process. They must be revoked on every way out: rpcss keeps the
+/// entry of a server that dies, and every later creation fails until it is restarted.
+namespace ClassObjects {
+
+HRESULT Register();
+/// May be called more than once.
+void Revoke();
+/// Revokes and ends the process on the spot, as a crash would.
+void RevokeAndDie();
+
+/// Registers the filter that rejects calls with SERVERCALL_RETRYLATER while a fault orders it.
+void FilterCalls();
+
+} // namespace ClassObjects

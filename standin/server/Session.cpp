@@ -1,0 +1,66 @@
+#include "server/Session.h"
+
+#include "common/Automation.h"
+#include "common/State.h"
+#include "server/Installation.h"
+#include "support/Text.h"
+
+#include <array>
+
+namespace {
+
+Session::Facts facts;
+void (*closeRequest)() = nullptr;
+
+constexpr WORD kObjectNotSet = 91;
+constexpr WORD kFileNotFound = 53;
+
+bool IsFile(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::wstring FullPath(const std::wstring& path) {
+    std::array<wchar_t, 32768> full{};
+    const DWORD length = GetFullPathNameW(path.c_str(), full.size(), full.data(), nullptr);
+    return length > 0 && length < full.size() ? std::wstring(full.data(), length) : path;
+}
+
+} // namespace
+
+namespace Session {
+
+const Facts& Current() { return facts; }
+
+void OpenDatabase(const std::wstring& path) {
+    if (path.empty()) Fail(kObjectNotSet, L"Object variable or With block variable not set");
+    if (!IsFile(path)) Fail(kFileNotFound, L"The database \"" + path + L"\" cannot be opened: file not found");
+    facts.Database = FullPath(path);
+    Installation::RecordLastDatabase(facts.Database);
+}
+
+std::wstring User() {
+    if (facts.Database.empty()) return {};
+    for (const std::wstring& key : {facts.Database, Text::AfterLast(facts.Database, L'\\'), std::wstring(L"default")})
+        if (std::optional<std::wstring> user = State::Text(L"Users", key)) return *user;
+    return L"Chris Sample";
+}
+
+void ShowView(int view) { facts.View = view; }
+
+void SetCalendarMode(int mode) { facts.CalendarMode = mode; }
+
+void RunMacro(const std::wstring& path) { facts.LastMacro = path; }
+
+void UseLayouts(const std::wstring& contact, const std::wstring& group) {
+    facts.ContactLayout = contact;
+    facts.GroupLayout = group;
+}
+
+void RequestClose() {
+    if (closeRequest) closeRequest();
+}
+
+void SetCloseRequest(void (*request)()) { closeRequest = request; }
+
+} // namespace Session

@@ -1,0 +1,85 @@
+' Speaks to the ACT! stand-in as any late-bound client would. Arguments: state file, database, missing database.
+Option Explicit
+Dim database, missing, app, aux, views, view, prefs, ev, failures
+database = WScript.Arguments(0)
+missing = WScript.Arguments(1)
+failures = 0
+
+Sub Check(what, got, wanted)
+  If TypeName(got) = TypeName(wanted) And CStr(got) = CStr(wanted) Then Exit Sub
+  failures = failures + 1
+  WScript.Echo "FAILED " & what & ": got " & TypeName(got) & " '" & got & "', wanted " & TypeName(wanted) & " '" & wanted & "'"
+End Sub
+
+Sub CheckError(what, wanted)
+  Dim number, description
+  number = Err.Number
+  description = Err.Description
+  Err.Clear
+  If number = wanted Then Exit Sub
+  failures = failures + 1
+  WScript.Echo "FAILED " & what & ": got error " & number & " (" & description & "), wanted " & wanted
+End Sub
+
+Set ev = CreateObject("ACTEVENTLib.ActEvent")
+Check "no instance yet", ev.InstanceCount, CLng(0)
+Check "registration", ev.RegistrationFailed, False
+
+Set app = CreateObject("ACTOLE.APPOBJECT")
+Check "one instance", ev.InstanceCount, CLng(1)
+app.OpenFile ""
+Check "no database", app.GetOpenDBName, ""
+Check "no user", app.GetCurrentUserName, ""
+
+app.openDB database
+Check "database", app.GetOpenDBName(), database
+Check "user", app.getcurrentusername, "Jo Preset"
+
+Set views = app.Views
+Set view = views.Create(4, "V")
+view.SetCalendarMode 301
+
+Set prefs = app.Preferences
+prefs.DefaultContactLayout = "C:\Layouts\A ""b"".cly"
+Check "contact layout", prefs.DefaultContactLayout, "C:\Layouts\A ""b"".cly"
+Check "group layout", prefs.DefaultGroupLayout, ""
+Check "use last", prefs.UseLastDBonStartup, True
+Check "databases", prefs.GetDefaultLocation(0), "C:\Data\"
+Check "macros", prefs.GetDefaultLocation("7"), "D:\Macros"
+
+Set aux = CreateObject("ACTOLE.AUXCMDS")
+Check "same server", ev.InstanceCount, CLng(1)
+Check "command", aux.AuxCommandExists("Kelmorra"), False
+Check "add", aux.AddAuxCommand("Kelmorra", "k.exe", "", "", "", "tip", "", 8), 0
+Check "command added", aux.AuxCommandExists("Kelmorra"), True
+Check "to toolbar", aux.AddAuxCommandToToolbar(6, "Kelmorra"), 0
+Check "in toolbar", aux.AuxCommandExistsInToolbar(6, "Kelmorra"), True
+Check "in other toolbar", aux.AuxCommandExistsInToolbar(5, "Kelmorra"), False
+Check "from toolbar", aux.RemoveAuxCommandFromToolbar(6, "Kelmorra"), 0
+Check "no longer in toolbar", aux.AuxCommandExistsInToolbar(6, "Kelmorra"), False
+Check "ordered result", aux.AddAuxCommandToToolsMenu(1, "Kelmorra"), 5
+Check "not in menu", aux.AuxCommandExistsInToolsMenu(1, "Kelmorra"), False
+
+On Error Resume Next
+app.openDB missing
+CheckError "missing file", 53
+app.openDB ""
+CheckError "no database meant", 91
+Check "database stays", app.GetOpenDBName, database
+app.openDB 1, 2
+CheckError "argument count", 450
+app.NoSuchThing
+CheckError "unknown member", 438
+views.Create 6, "V"
+CheckError "unknown view", 5
+app.RunMacro "C:\Macros\Morning.mpr"
+CheckError "scode on order", 91
+app.RunMacro "C:\Macros\Morning.mpr"
+CheckError "only the first call fails", 0
+app.Command "x"
+CheckError "argument type", 13
+On Error GoTo 0
+
+ev.Close
+app.Command 150
+If failures > 0 Then WScript.Quit 1
