@@ -161,6 +161,7 @@ STDMETHODIMP Automation::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*
     Journal::Entry entry{
         {}, name_, member ? member->Name : std::to_wstring(id), FlagText(flags), ArgumentText(*parameters), {}};
     try {
+        if (Faults::Rejecting()) throw Failure{.Code = RPC_E_SERVERCALL_RETRYLATER};
         const Faults::Fault fault = Faults::Take(entry.Member);
         if (fault.Is == Faults::Kind::Die) {
             entry.Result = L"-> died";

@@ -72,7 +72,7 @@ void Strike(const Fault& fault, const std::wstring& member) {
 
 bool Rejecting() {
     if (busyFor != 0 && GetTickCount() - busySince >= busyFor) busyFor = 0;
-    return busyFor != 0 || State::Flag(L"Presets", L"RejectCalls");
+    return busyFor != 0;
 }
 
 void SetDeath(void (*die)()) { death = die; }

@@ -20,10 +20,11 @@ struct Fault {
 /// The fault that a call of a member is to meet. Counts the call: "first N" ends with the N-th call to a process.
 Fault Take(const std::wstring& member);
 
-/// Makes the fault happen: throws a Failure, or hangs, or lets the server reject calls from now on.
+/// Makes the fault happen: throws a Failure, or hangs, or lets the server reject the calls that follow.
 void Strike(const Fault& fault, const std::wstring& member);
 
-/// True while calls from outside are to be rejected: after a "busy" fault, or while [Presets] RejectCalls is 1.
+/// True for the time that a "busy" fault has ordered. Calls are then answered with RPC_E_SERVERCALL_RETRYLATER: a
+/// message filter would be the natural way, but Wine 8 hands a filter's rejection to the client as success.
 bool Rejecting();
 
 /// Names what ends the process in a "die" fault. Without it (a component inside its client) the fault is E_FAIL.

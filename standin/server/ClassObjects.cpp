@@ -1,7 +1,5 @@
 #include "server/ClassObjects.h"
 
-#include "common/Faults.h"
-#include "common/Journal.h"
 #include "common/Protocol.h"
 #include "server/Objects.h"
 
@@ -41,28 +39,6 @@ Served served[] = {
     {ClassIds::AuxCommands, Factory(MakeAuxCommands), 0},
 };
 
-class Filter final : public IMessageFilter {
-public:
-    virtual ~Filter() = default;
-
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        const bool known = iid == IID_IUnknown || iid == IID_IMessageFilter;
-        *object = known ? this : nullptr;
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
-    STDMETHODIMP_(ULONG) Release() override { return 1; }
-    STDMETHODIMP_(DWORD) HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) override {
-        if (!Faults::Rejecting()) return SERVERCALL_ISHANDLED;
-        Journal::Note(L"Reject", {}, L"SERVERCALL_RETRYLATER");
-        return SERVERCALL_RETRYLATER;
-    }
-    STDMETHODIMP_(DWORD) RetryRejectedCall(HTASK, DWORD, DWORD) override { return static_cast<DWORD>(-1); }
-    STDMETHODIMP_(DWORD) MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
-};
-
-Filter filter;
-
 LONG WINAPI RevokeAfterCrash(EXCEPTION_POINTERS*) {
     ClassObjects::Revoke();
     return EXCEPTION_EXECUTE_HANDLER;
@@ -91,7 +67,5 @@ void RevokeAndDie() {
     Revoke();
     TerminateProcess(GetCurrentProcess(), 1);
 }
-
-void FilterCalls() { CoRegisterMessageFilter(&filter, nullptr); }
 
 } // namespace ClassObjects

@@ -12,7 +12,4 @@ void Revoke();
 /// Revokes and ends the process on the spot, as a crash would.
 void RevokeAndDie();
 
-/// Registers the filter that rejects calls with SERVERCALL_RETRYLATER while a fault orders it.
-void FilterCalls();
-
 } // namespace ClassObjects

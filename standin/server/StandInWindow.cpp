@@ -118,7 +118,6 @@ int StandInWindow::Scaled(int pixels) const {
 
 void StandInWindow::MakeFonts() {
     NONCLIENTMETRICSW metrics{};
-    // XP does not know the member that Vista added at the end.
     metrics.cbSize = sizeof(metrics);
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
     font_.Reset(CreateFontIndirectW(&metrics.lfMessageFont));
@@ -174,10 +173,10 @@ void StandInWindow::Refresh() {
     const std::wstring title =
         L"ACT! stand-in - " + (database.empty() ? L"no database" : Text::AfterLast(database, L'\\'));
     SetWindowTextW(window_, title.c_str());
-    const std::wstring status =
-        notice_.IsOpen() ? std::wstring(L"Waiting for the answer to the close notice\u2026")
-                         : std::to_wstring(ListView_GetItemCount(calls_)) + L" calls received, " +
-                               std::to_wstring(CloseNotice::AttachedComponents()) + L" event components attached";
+    const std::wstring status = notice_.IsOpen() ? std::wstring(L"Waiting for the answer to the close notice\u2026")
+                                                 : std::to_wstring(ListView_GetItemCount(calls_)) +
+                                                       L" lines, event components attached: " +
+                                                       std::to_wstring(CloseNotice::AttachedComponents());
     SetWindowTextW(status_, status.c_str());
 }
 

@@ -96,7 +96,6 @@ int Serve(const CommandLine& line) {
     StandInWindow window;
     Journal::Note(L"Start", line.Embedding ? L"Embedding" : line.Database);
     OpenAtStart(line);
-    ClassObjects::FilterCalls();
     const HRESULT registered = ClassObjects::Register();
     if (SUCCEEDED(registered)) window.Run();
     ClassObjects::Revoke();
