@@ -1,0 +1,117 @@
+// Opens that fail, and an ACT! that is busy or gone.
+
+#include "support/Journey.h"
+
+namespace {
+
+using JourneyStores::User;
+
+constexpr wchar_t kNotAccessible[] = L"This database is not accessible. Please choose another database.";
+
+/// One database, selected, in a running ACT! with layouts of its own.
+HWND StartWithOne(Journey& journey) {
+    journey.StartAct(journey.ListRealDatabase(L"Customers"));
+    journey.Ini(L"Customers", L"CLY", L"C:\\Layouts\\Customers.cly");
+    journey.Act(L"Preferences", L"DefaultContactLayout", L"C:\\Act\\Own.cly");
+    User(L"Display", L"Selected", L"0");
+    return journey.StartToMainWindow();
+}
+
+bool IsHidden(HWND window) { return !IsWindowVisible(window); }
+
+} // namespace
+
+TEST_CASE_FIXTURE(Journey, "a database that does not open leaves the window usable and ACT! with its own defaults") {
+    struct Case {
+        const wchar_t* fault;
+        const wchar_t* title;
+        const wchar_t* text;
+    };
+    constexpr wchar_t kSelectFirst[] =
+        L"You need to select a database first.\r\n\r\nIf your list of databases is empty, click on the Edit List "
+        L"button to add databases to it.";
+    const Case cases[] = {{L"wCode 91", L"No database selected!", kSelectFirst},
+                          {L"scode 0x800A005B", L"No database selected!", kSelectFirst},
+                          {L"wCode 3044", L"Kelmorra", kNotAccessible},
+                          {L"hresult 0x80004005", L"Kelmorra", kNotAccessible}};
+    HWND window = StartWithOne(*this);
+    for (const Case& expected : cases) {
+        CAPTURE(expected.fault);
+        Act(L"Faults", L"openDB", expected.fault);
+        JourneyWindow::Click(window, L"cmdOpen");
+        const JourneyWindow::Box box = Box(Program());
+        CHECK(box.Title == expected.title);
+        CHECK(box.Text == expected.text);
+        CHECK(IsWindowVisible(window));
+        CHECK(Act(L"Preferences", L"DefaultContactLayout") == L"C:\\Layouts\\Customers.cly");
+        JourneyWindow::Dismiss(box);
+        CHECK(Within([&] { return JourneyWindow::HasFocus(JourneyWindow::Control(window, L"ListView1")); }));
+        CHECK(Within([&] { return Act(L"Preferences", L"DefaultContactLayout") == L"C:\\Act\\Own.cly"; }));
+    }
+    Act(L"Faults", L"openDB", L"");
+    JourneyWindow::Click(window, L"cmdOpen");
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(Count(L"VIEWS", L"Create") == 1);
+}
+
+TEST_CASE_FIXTURE(Journey, "with no row selected the user is asked for one") {
+    StartAct(ListRealDatabase(L"Customers"));
+    HWND window = StartToMainWindow();
+    const size_t calls = CallCount();
+    JourneyWindow::Click(window, L"cmdOpen");
+    const JourneyWindow::Box box = AnswerBox();
+    CHECK(box.Title == L"Kelmorra");
+    CHECK(box.Text == L"No database selected!");
+    CHECK(Within([&] { return JourneyWindow::HasFocus(JourneyWindow::Control(window, L"ListView1")); }));
+    CHECK(CallCount() == calls);
+}
+
+TEST_CASE_FIXTURE(Journey,
+                  "an ACT! that dies while it opens the database counts as a database that is not accessible") {
+    HWND window = StartWithOne(*this);
+    Act(L"Faults", L"openDB", L"die");
+    JourneyWindow::Click(window, L"cmdOpen");
+    CHECK(AnswerBox().Text == kNotAccessible);
+    CHECK(ActHasEnded());
+    CHECK(IsWindowVisible(window));
+    Close();
+}
+
+TEST_CASE_FIXTURE(Journey, "an ACT! that dies after the open is reported with the place of the call") {
+    HWND window = StartWithOne(*this);
+    Act(L"Faults", L"Create", L"die");
+    JourneyWindow::Click(window, L"cmdOpen");
+    const JourneyWindow::Box box = AnswerBox();
+    CHECK(box.Title == L"Kelmorra error");
+    CAPTURE(box.Text);
+    CHECK(box.Text.starts_with(L"Error 462: '"));
+    CHECK(box.Text.find(L"'\rin frmMain: Sub cmdOpen_Click - Line # ") != std::wstring::npos);
+    CHECK(box.Text.ends_with(L"\r\rPlease contact support@varnholtine.example with this error message."));
+    CHECK(IsWindowVisible(window));
+    Close();
+}
+
+TEST_CASE_FIXTURE(Journey, "a busy ACT! is waited for without a box of the system's") {
+    HWND window = StartWithOne(*this);
+    // The puts of the layouts are answered, the calls behind them refused for a while.
+    Act(L"Faults", L"DefaultGroupLayout", L"busy 1500 first 2");
+    JourneyWindow::Click(window, L"cmdOpen");
+    REQUIRE(Within([&] { return IsHidden(window); }));
+    CHECK_FALSE(JourneyWindow::MessageBoxOf(Program().Id()));
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(Count(L"VIEWS", L"Create") == 1);
+}
+
+TEST_CASE_FIXTURE(Journey, "while ACT! takes its time to open a database no command does anything") {
+    HWND window = StartWithOne(*this);
+    Act(L"Faults", L"openDB", L"hang 1500");
+    JourneyWindow::Click(window, L"cmdOpen");
+    REQUIRE(Within([&] { return Count(L"STANDIN", L"Hang") == 1; }));
+    JourneyWindow::ClickMenu(window, L"mnuLanguages");
+    JourneyWindow::ClickMenu(window, L"mnuExit");
+    JourneyWindow::Click(window, L"cmdOpen");
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(Count(L"APPOBJECT", L"openDB") == 1);
+    CHECK(Count(L"VIEWS", L"Create") == 1);
+}

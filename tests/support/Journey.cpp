@@ -1,0 +1,232 @@
+#include "support/Journey.h"
+
+#include "support/Text.h"
+
+#include <array>
+#include <filesystem>
+
+namespace {
+
+constexpr wchar_t kStandInClass[] = L"ActStandIn";
+
+std::wstring FolderOfRun() {
+    return std::filesystem::temp_directory_path() / (L"Kelmorra journeys " + std::to_wstring(GetCurrentProcessId()));
+}
+
+/// ACT! as it is installed for all journeys of a run.
+class Installation {
+public:
+    Installation() {
+        // Wine's desktop belongs to the first program that asks for it, and must outlive every journey.
+        GetDesktopWindow();
+        std::filesystem::create_directories(Folder());
+        for (const wchar_t* file : {L"ActStandIn.exe", L"ActEvent.dll"})
+            std::filesystem::copy_file(std::filesystem::path(STANDIN_FOLDER) / file, Folder() + L'\\' + file);
+        Run(L"/register");
+    }
+    ~Installation() {
+        try {
+            Run(L"/unregister");
+            std::filesystem::remove_all(FolderOfRun());
+        } catch (const std::exception&) {
+            // What stays behind is a folder of temporary files.
+        }
+    }
+    Installation(const Installation&) = delete;
+    Installation& operator=(const Installation&) = delete;
+
+    static std::wstring Folder() { return FolderOfRun() + L"\\ACT"; }
+    static void Run(const wchar_t* option) {
+        const ProcessGroup group;
+        Process(group, Folder() + L"\\ActStandIn.exe", option).ExitCode();
+    }
+};
+
+std::wstring NewFolder() {
+    static int count = 0;
+    const std::wstring folder = FolderOfRun() + L'\\' + std::to_wstring(++count);
+    std::filesystem::create_directories(folder + L"\\Kelmorra");
+    std::filesystem::copy_file(std::filesystem::path(KELMORRA_FOLDER) / L"Kelmorra.exe",
+                               folder + L"\\Kelmorra\\Kelmorra.exe");
+    return folder;
+}
+
+std::wstring FromUtf8(const std::string& bytes) {
+    const int size = static_cast<int>(bytes.size());
+    std::wstring text(bytes.size(), L'\0');
+    text.resize(static_cast<size_t>(
+        MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+std::wstring ReadProfile(const std::wstring& file, const std::wstring& section, const std::wstring& key) {
+    std::array<wchar_t, 2048> value{};
+    GetPrivateProfileStringW(section.c_str(), key.c_str(), L"", value.data(), value.size(), file.c_str());
+    return value.data();
+}
+
+/// What the stand-in notes about itself and its event component is no call into ACT!.
+bool IsCall(const Journey::Call& call) { return call.Object != L"STANDIN" && call.Object != L"EVENT"; }
+
+} // namespace
+
+Journey::Journey() {
+    static const Installation installation;
+    folder_ = NewFolder();
+    JourneyStores::DeleteTree(JourneyStores::UserRoot);
+    JourneyStores::DeleteTree(L"Software\\Symantec");
+    SetEnvironmentVariableW(L"ACT_STANDIN_LOG", File(L"act.log").c_str());
+    SetEnvironmentVariableW(L"ACT_STANDIN_STATE", File(L"act.ini").c_str());
+    JourneyStores::User(L"Settings", L"Installed", L"1");
+    JourneyStores::User(L"Settings", L"Version", L"32");
+}
+
+Journey::~Journey() {
+    CheckNoneInvisible();
+    CloseWhatIsLeft();
+    EndAct();
+    if (isUnregistered_) Installation::Run(L"/register");
+    CHECK_MESSAGE(Within([this] { return group_.Alive() == 0; }), "a program of the journey goes on");
+}
+
+void Journey::CheckNoneInvisible() const {
+    for (const Process& program : programs_)
+        CHECK_MESSAGE(Within([&] { return !program.Running() || !JourneyWindow::Visible(program.Id()).empty(); }),
+                      "a process without a visible window is left");
+}
+
+void Journey::CloseWhatIsLeft() const {
+    for (const Process& program : programs_) {
+        const bool isClosed = Within([&] {
+            const std::vector<HWND> windows = JourneyWindow::Visible(program.Id());
+            if (!windows.empty()) PostMessageW(windows.front(), WM_CLOSE, 0, 0);
+            return program.ExitCode(100).has_value();
+        });
+        CHECK_MESSAGE(isClosed, "the program cannot be closed");
+        if (!isClosed) program.Terminate();
+    }
+}
+
+void Journey::EndAct() const {
+    if (!act_) return;
+    if (HWND window = JourneyWindow::Find(act_->Id(), kStandInClass)) PostMessageW(window, WM_CLOSE, 0, 0);
+    const bool isClosed = act_->ExitCode().has_value();
+    CHECK_MESSAGE(isClosed, "the ACT! stand-in cannot be closed");
+    if (!isClosed) act_->Terminate();
+}
+
+std::wstring Journey::ActFile(const std::wstring& name) { return Installation::Folder() + L'\\' + name; }
+
+void Journey::UnregisterAct() {
+    isUnregistered_ = true;
+    Installation::Run(L"/unregister");
+}
+
+void Journey::Ini(const std::wstring& section, const std::wstring& key, const std::wstring& value) const {
+    WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), SettingsFile().c_str());
+}
+
+void Journey::List(const std::wstring& name, const std::wstring& path) {
+    const std::wstring before = ReadProfile(SettingsFile(), L"General", L"Sort");
+    Ini(L"General", L"Sort", before.empty() ? name : before + L';' + name);
+    Ini(name, L"Path", path);
+}
+
+std::wstring Journey::ListRealDatabase(const std::wstring& name) {
+    const std::wstring path = File(name + L".dbf");
+    JourneyStores::FileBytes(path, "dBASE");
+    List(name, path);
+    return path;
+}
+
+void Journey::StartAct(const std::wstring& database) {
+    Act(L"Presets", L"OpenDatabase", database);
+    act_ = std::make_unique<Process>(group_, ActFile(L"ActStandIn.exe"));
+    // Its window answers once its message loop turns, and that is after it has begun to serve.
+    REQUIRE(Within([this] {
+        HWND window = JourneyWindow::Find(act_->Id(), kStandInClass);
+        return window && Count(L"STANDIN", L"Start") > 0 &&
+               SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, JourneyPatience, nullptr);
+    }));
+}
+
+void Journey::Act(const std::wstring& section, const std::wstring& key, const std::wstring& value) const {
+    WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), File(L"act.ini").c_str());
+}
+
+std::wstring Journey::Act(const std::wstring& section, const std::wstring& key) const {
+    return ReadProfile(File(L"act.ini"), section, key);
+}
+
+void Journey::ActUserCloses() const { PostMessageW(JourneyWindow::Find(act_->Id(), kStandInClass), WM_CLOSE, 0, 0); }
+
+std::vector<Journey::Call> Journey::Log() const {
+    std::vector<Call> calls;
+    const std::wstring log = Text::Replace(FromUtf8(JourneyStores::FileBytes(File(L"act.log"))), L"\r\n", L"\n");
+    for (const std::wstring& line : Text::Split(log, L'\n')) {
+        const std::vector<std::wstring> fields = Text::Split(line, L'\t');
+        if (fields.size() == 6) calls.push_back({fields[1], fields[2], fields[3], fields[4], fields[5]});
+    }
+    return calls;
+}
+
+size_t Journey::Count(const std::wstring& object, const std::wstring& member) const {
+    size_t count = 0;
+    for (const Call& call : Log())
+        if (call.Object == object && call.Member == member) ++count;
+    return count;
+}
+
+std::wstring Journey::Calls(size_t skip) const {
+    std::wstring lines;
+    for (const Call& call : Log()) {
+        if (!IsCall(call)) continue;
+        if (skip > 0) {
+            --skip;
+            continue;
+        }
+        lines += call.Object + L' ' + call.Member + L' ' + call.Flags;
+        lines += (call.Arguments.empty() ? L"" : L' ' + call.Arguments) + L'\n';
+    }
+    return lines;
+}
+
+size_t Journey::CallCount() const {
+    size_t count = 0;
+    for (const Call& call : Log())
+        if (IsCall(call)) ++count;
+    return count;
+}
+
+const Process& Journey::Start() { return programs_.emplace_back(group_, ProgramFile(L"Kelmorra.exe")); }
+
+HWND Journey::Window(const Process& program, const wchar_t* className) {
+    HWND window = nullptr;
+    const bool isShown = Within([&] {
+        window = JourneyWindow::Find(program.Id(), className);
+        return window && IsWindowVisible(window);
+    });
+    if (const auto box = JourneyWindow::MessageBoxOf(program.Id()); !isShown && box) CAPTURE(box->Text);
+    REQUIRE(isShown);
+    return window;
+}
+
+HWND Journey::MainWindow(const Process& program) const { return Window(program, L"frmMain"); }
+
+JourneyWindow::Box Journey::Box(const Process& program) const {
+    std::optional<JourneyWindow::Box> box;
+    REQUIRE(Within([&] { return (box = JourneyWindow::MessageBoxOf(program.Id())).has_value(); }));
+    return *box;
+}
+
+JourneyWindow::Box Journey::AnswerBox() const {
+    const JourneyWindow::Box box = Box(Program());
+    JourneyWindow::Dismiss(box);
+    REQUIRE(Within([&] { return !IsWindow(box.Window); }));
+    return box;
+}
+
+void Journey::Close() const {
+    JourneyWindow::Click(JourneyWindow::Find(Program().Id(), L"frmMain"), L"cmdCancel");
+    CHECK(Program().ExitCode() == 0u);
+}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "support/JourneyProcess.h"
+#include "support/JourneyStores.h"
+#include "support/JourneyWindow.h"
+#include "support/Wide.h"
+
+#include <list>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// One user's session: empty stores, a folder of its own with a copy of the program, and an ACT! stand-in with its own
+/// log and state. Unless told otherwise the program has run before, in English.
+///
+/// At the end no process of the program may be left without a visible window, and no process at all once the windows
+/// have been closed as by their user.
+class Journey {
+public:
+    Journey();
+    ~Journey();
+    Journey(const Journey&) = delete;
+    Journey& operator=(const Journey&) = delete;
+
+    /// Full path of a file in the journey's folder, or in the program's.
+    std::wstring File(const std::wstring& name) const { return folder_ + L'\\' + name; }
+    std::wstring ProgramFile(const std::wstring& name) const { return File(L"Kelmorra\\" + name); }
+    /// Full path of a file in the folder of ACT!'s program.
+    static std::wstring ActFile(const std::wstring& name);
+
+    // The settings file
+    std::wstring SettingsFile() const { return ProgramFile(L"Kelmorra.ini"); }
+    void Ini(const std::wstring& section, const std::wstring& key, const std::wstring& value) const;
+    /// Puts a database with that path, which need not exist, at the end of the list.
+    void List(const std::wstring& name, const std::wstring& path);
+    /// The same with a database file that ACT! can open; returns its path.
+    std::wstring ListRealDatabase(const std::wstring& name);
+
+    // ACT!
+    /// Takes ACT! out of the registry until the end of the journey.
+    void UnregisterAct();
+    /// Starts ACT! with a database open, or with none; it serves when this returns.
+    void StartAct(const std::wstring& database);
+    /// Sets a preset or fault of the stand-in.
+    void Act(const std::wstring& section, const std::wstring& key, const std::wstring& value) const;
+    std::wstring Act(const std::wstring& section, const std::wstring& key) const;
+    /// ACT!'s user closes it: the event component is asked first.
+    void ActUserCloses() const;
+    bool ActHasEnded() const { return !act_ || act_->ExitCode(); }
+
+    struct Call {
+        std::wstring Object, Member, Flags, Arguments, Result;
+    };
+    /// What the stand-in's log holds.
+    std::vector<Call> Log() const;
+    size_t Count(const std::wstring& object, const std::wstring& member) const;
+    /// The calls into ACT! after the first `skip` of them, one per line: object, member, flags and arguments.
+    std::wstring Calls(size_t skip = 0) const;
+    size_t CallCount() const;
+
+    // The program
+    const Process& Start();
+    /// The main window, once it is on the screen; the running test ends when it does not come.
+    HWND MainWindow(const Process& program) const;
+    HWND StartToMainWindow() { return MainWindow(Start()); }
+    const Process& Program() const { return programs_.back(); }
+    /// The next message box of a program; the running test ends when none comes.
+    JourneyWindow::Box Box(const Process& program) const;
+    /// The same for the program started last, with its box dismissed and gone.
+    JourneyWindow::Box AnswerBox() const;
+    /// A visible window of a program by its class; the running test ends when it does not come.
+    static HWND Window(const Process& program, const wchar_t* className);
+    /// Closes the main window by its Cancel button and waits for the end of the program.
+    void Close() const;
+
+    const ProcessGroup& Group() const { return group_; }
+
+private:
+    void CheckNoneInvisible() const;
+    void CloseWhatIsLeft() const;
+    void EndAct() const;
+
+    std::wstring folder_;
+    ProcessGroup group_;
+    std::list<Process> programs_;
+    std::unique_ptr<Process> act_;
+    bool isUnregistered_ = false;
+};

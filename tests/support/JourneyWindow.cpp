@@ -1,0 +1,201 @@
+#include "support/JourneyWindow.h"
+
+#include "win32/Owner.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace {
+
+constexpr UINT kAnswerMilliseconds = 5000;
+
+DWORD ProcessOf(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
+}
+
+bool HasClass(HWND window, const wchar_t* className) {
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    return name.data() == std::wstring(className);
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM windows) {
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+    return TRUE;
+}
+
+std::vector<HWND> TopLevel(DWORD process) {
+    std::vector<HWND> windows;
+    EnumWindows(&Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [process](HWND window) { return ProcessOf(window) != process; });
+    return windows;
+}
+
+/// A message that must be answered: a window that hangs gives 0 after a while.
+LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerMilliseconds, &answer);
+    return static_cast<LRESULT>(answer);
+}
+
+void MouseInput(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+} // namespace
+
+namespace JourneyWindow {
+
+std::vector<HWND> Visible(DWORD process) {
+    std::vector<HWND> windows = TopLevel(process);
+    std::erase_if(windows, [](HWND window) { return !IsWindowVisible(window); });
+    return windows;
+}
+
+HWND Find(DWORD process, const wchar_t* className) {
+    for (HWND window : TopLevel(process))
+        if (HasClass(window, className)) return window;
+    return nullptr;
+}
+
+HWND Control(HWND form, const wchar_t* name, int index) {
+    std::vector<HWND> controls;
+    EnumChildWindows(form, &Collect, reinterpret_cast<LPARAM>(&controls));
+    for (HWND control : controls)
+        if (reinterpret_cast<INT_PTR>(GetPropW(control, name)) == index + 1) return control;
+    return nullptr;
+}
+
+std::wstring Text(HWND window) {
+    std::array<wchar_t, 2048> text{};
+    Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    return text.data();
+}
+
+void Click(HWND form, const wchar_t* control, int index) {
+    PostMessageW(Control(form, control, index), BM_CLICK, 0, 0);
+}
+
+void ClickMenu(HWND form, const wchar_t* item) {
+    PostMessageW(form, WM_COMMAND, reinterpret_cast<WPARAM>(GetPropW(form, item)), 0);
+}
+
+bool Checked(HWND option) { return Ask(option, BM_GETCHECK) == BST_CHECKED; }
+
+bool HasFocus(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) && info.hwndFocus == window;
+}
+
+void DoubleClick(HWND window, POINT place) {
+    ClientToScreen(window, &place);
+    SetCursorPos(place.x, place.y);
+    for (int click = 0; click < 2; ++click) {
+        MouseInput(MOUSEEVENTF_LEFTDOWN);
+        MouseInput(MOUSEEVENTF_LEFTUP);
+    }
+}
+
+std::optional<Box> MessageBoxOf(DWORD process) {
+    constexpr int kTextId = 0xFFFF;
+    for (HWND window : Visible(process)) {
+        HWND text = HasClass(window, L"#32770") ? GetDlgItem(window, kTextId) : nullptr;
+        if (text) return Box{window, Text(window), Text(text)};
+    }
+    return std::nullopt;
+}
+
+void Dismiss(const Box& box) { PostMessageW(box.Window, WM_CLOSE, 0, 0); }
+
+} // namespace JourneyWindow
+
+namespace {
+
+constexpr size_t kTextSize = 1024; // characters behind the structure in the foreign memory
+constexpr size_t kTextOffset = 256;
+constexpr size_t kMemorySize = kTextOffset + kTextSize * sizeof(wchar_t);
+
+} // namespace
+
+ForeignList::ForeignList(HWND list)
+    : list_(list),
+      process_(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, ProcessOf(list))),
+      memory_(VirtualAllocEx(process_, nullptr, kMemorySize, MEM_COMMIT, PAGE_READWRITE)) {
+    if (!memory_) throw std::runtime_error("the list's process gives no memory");
+}
+
+ForeignList::~ForeignList() {
+    VirtualFreeEx(process_, memory_, 0, MEM_RELEASE);
+    const KernelHandle closed(process_);
+}
+
+bool ForeignList::Put(const void* data, size_t size) const {
+    return WriteProcessMemory(process_, memory_, data, size, nullptr) != FALSE;
+}
+
+bool ForeignList::Take(void* data, size_t size, size_t offset) const {
+    return ReadProcessMemory(process_, static_cast<char*>(memory_) + offset, data, size, nullptr) != FALSE;
+}
+
+int ForeignList::Rows() const { return static_cast<int>(Ask(list_, LVM_GETITEMCOUNT)); }
+
+std::wstring ForeignList::Cell(int row, int column) const {
+    LVITEMW query{};
+    query.iSubItem = column;
+    query.pszText = reinterpret_cast<wchar_t*>(static_cast<char*>(memory_) + kTextOffset);
+    query.cchTextMax = kTextSize;
+    std::array<wchar_t, kTextSize> text{};
+    if (!Put(&query, sizeof query)) return {};
+    Ask(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory_));
+    Take(text.data(), sizeof text, kTextOffset);
+    return text.data();
+}
+
+std::wstring ForeignList::ColumnTitle(int column) const {
+    LVCOLUMNW query{};
+    query.mask = LVCF_TEXT;
+    query.pszText = reinterpret_cast<wchar_t*>(static_cast<char*>(memory_) + kTextOffset);
+    query.cchTextMax = kTextSize;
+    std::array<wchar_t, kTextSize> text{};
+    if (!Put(&query, sizeof query)) return {};
+    Ask(list_, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(memory_));
+    Take(text.data(), sizeof text, kTextOffset);
+    return text.data();
+}
+
+int ForeignList::ColumnWidth(int column) const {
+    return static_cast<int>(Ask(list_, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
+}
+
+void ForeignList::ColumnWidth(int column, int pixels) const {
+    Ask(list_, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), pixels);
+}
+
+int ForeignList::Selected() const {
+    return static_cast<int>(Ask(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void ForeignList::Select(int row) const {
+    LVITEMW state{};
+    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    state.state = state.stateMask;
+    if (Put(&state, sizeof state))
+        Ask(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory_));
+}
+
+RECT ForeignList::CellPlace(int row, int column) const {
+    RECT place{};
+    place.top = column;
+    place.left = column == 0 ? LVIR_LABEL : LVIR_BOUNDS;
+    if (!Put(&place, sizeof place)) return {};
+    const UINT message = column == 0 ? LVM_GETITEMRECT : LVM_GETSUBITEMRECT;
+    Ask(list_, message, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory_));
+    Take(&place, sizeof place);
+    return place;
+}

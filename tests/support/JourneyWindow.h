@@ -1,0 +1,69 @@
+#pragma once
+
+#include "win32/Windows.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Windows of another process, found as a tool for screen automation would find them. Clicks are posted: one that
+/// opens a modal box must not hold the test up.
+namespace JourneyWindow {
+
+/// The process's visible top-level windows, topmost first.
+std::vector<HWND> Visible(DWORD process);
+/// A top-level window by its class, visible or not; null when there is none.
+HWND Find(DWORD process, const wchar_t* className);
+
+/// A control by its name and, in a control array, its index; null when there is none.
+HWND Control(HWND form, const wchar_t* name, int index = 0);
+/// Caption of a window or text of a control.
+std::wstring Text(HWND window);
+void Click(HWND form, const wchar_t* control, int index = 0);
+void ClickMenu(HWND form, const wchar_t* item);
+/// Whether an option button is checked.
+bool Checked(HWND option);
+/// Whether the window has the keyboard focus of its thread.
+bool HasFocus(HWND window);
+/// Presses and releases the left button twice at a place of the window, as a user's mouse does.
+void DoubleClick(HWND window, POINT place);
+
+/// A message box on the screen.
+struct Box {
+    HWND Window = nullptr;
+    std::wstring Title;
+    std::wstring Text;
+};
+/// The topmost message box of a process, if any.
+std::optional<Box> MessageBoxOf(DWORD process);
+/// The text of a box's button is pressed by closing it: every box met here has an OK button only.
+void Dismiss(const Box& box);
+
+} // namespace JourneyWindow
+
+/// A list view of another process.
+class ForeignList {
+public:
+    explicit ForeignList(HWND list);
+    ~ForeignList();
+    ForeignList(const ForeignList&) = delete;
+    ForeignList& operator=(const ForeignList&) = delete;
+
+    int Rows() const;
+    std::wstring Cell(int row, int column) const;
+    std::wstring ColumnTitle(int column) const;
+    int ColumnWidth(int column) const;
+    void ColumnWidth(int column, int pixels) const;
+    int Selected() const;
+    void Select(int row) const;
+    /// The place of a cell in the list's client area.
+    RECT CellPlace(int row, int column) const;
+
+private:
+    bool Put(const void* data, size_t size) const;
+    bool Take(void* data, size_t size, size_t offset = 0) const;
+
+    HWND list_;
+    HANDLE process_;
+    void* memory_; ///< in the list's process
+};
