@@ -6,10 +6,32 @@
 
 namespace {
 
+constexpr DWORD kBusyRetryMilliseconds = 200;
+constexpr DWORD kBusyLimitMilliseconds = 600000; // opening a database may take minutes
+
 std::wstring TakeText(BSTR& text) {
     std::wstring copy = text ? std::wstring(text, SysStringLen(text)) : std::wstring();
     SysFreeString(std::exchange(text, nullptr));
     return copy;
+}
+
+bool IsBusy(HRESULT code) { return code == RPC_E_SERVERCALL_RETRYLATER || code == RPC_E_CALL_REJECTED; }
+
+/// Waits while the windows of the program stay alive.
+void WaitPumping(DWORD milliseconds) {
+    const DWORD start = GetTickCount();
+    for (DWORD passed = 0; passed < milliseconds; passed = GetTickCount() - start) {
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds - passed, QS_ALLINPUT);
+    }
 }
 
 } // namespace
@@ -56,8 +78,16 @@ void Dispatch::Invoke(const Member& member, WORD flags, std::span<const Variant>
         parameters.cNamedArgs = 1;
     }
     EXCEPINFO exception{};
-    UINT badArgument = 0;
-    const HRESULT code = object_->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
-                                         result ? result->Receive() : nullptr, &exception, &badArgument);
+    const auto call = [&] {
+        UINT badArgument = 0;
+        return object_->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
+                               result ? result->Receive() : nullptr, &exception, &badArgument);
+    };
+    HRESULT code = call();
+    // Where the message filter has not dealt with it already: a busy ACT! is asked again.
+    for (DWORD waited = 0; IsBusy(code) && waited < kBusyLimitMilliseconds; waited += kBusyRetryMilliseconds) {
+        WaitPumping(kBusyRetryMilliseconds);
+        code = call();
+    }
     if (FAILED(code)) throw AutomationError(code, exception, member.At);
 }

@@ -80,14 +80,14 @@ bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& res
     }
     case kActIsClosing:
         isClosing_ = true;
-        SilenceMessages();
+        SilenceMessages(true);
         EndMenu();
         tmrClose.Interval(kCloseRetryMilliseconds);
         return true;
     case WM_QUERYENDSESSION: result = TRUE; return true;
     case WM_ENDSESSION:
         if (wParam) {
-            SilenceMessages();
+            SilenceMessages(true);
             SaveLayout();
         }
         return true;

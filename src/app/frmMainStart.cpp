@@ -27,16 +27,12 @@ constexpr wchar_t kAlreadyRunning[] = L"An instance of this program is already r
 constexpr int kColumnWidths[] = {1650, 1110, 1110, 1110, 1440}; // twips
 constexpr long kWidestColumn = 100000;                          // twips; more is garbage
 
-long StoredNumber(const wchar_t* section, const wchar_t* key) {
-    return Text::WholeNumber(UserStore::Get(section, key)).value_or(0);
-}
-
 short StoredLanguage() {
     const auto language = Text::WholeNumber(UserStore::Get(L"Options", L"Language"));
     return language && *language >= 0 && *language <= 2 ? static_cast<short>(*language) : short{0};
 }
 
-bool IsFirstRun() { return StoredNumber(L"Settings", L"Installed") == 0; }
+bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(L"Settings", L"Installed")).value_or(0) == 0; }
 
 bool OpensQuickSwitchAtStart() {
     const auto wanted = Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0"));
@@ -180,7 +176,9 @@ void frmMain::FillAndSelect() {
     if (reload_) return;
     FillList();
     listLoaded_ = true;
-    ListView1.Select(static_cast<int>(StoredNumber(L"Display", L"Selected")));
+    constexpr long kNone = -1;
+    const auto selected = Text::WholeNumber(UserStore::Get(L"Display", L"Selected"));
+    ListView1.Select(static_cast<int>(selected.value_or(kNone)));
 }
 
 void frmMain::ShowFirstWindow() {

@@ -27,6 +27,8 @@ std::wstring SupportSentence() { return LangText[108]; }
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls,
                                              ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    // A dead drive or share answers with an error, not with a box that asks for a disk.
+    SetErrorMode(SEM_FAILCRITICALERRORS);
     InitCommonControlsEx(&kControls);
     SetSupportSentence(&SupportSentence);
     const Apartment apartment;

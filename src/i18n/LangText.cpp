@@ -27,7 +27,7 @@ constexpr auto kGermanContact =
 constexpr std::array<LangTextRow, LangTextRows> LangTextTable{{
     {1, L"&OK", L"&OK", L"&OK"},
     {2, L"&Cancel", L"&Annuler", L"&Abbrechen"},
-    {3, L"More at", L"Plus sur", L"Mehr auf"},
+    {3, L"More at", L"Voir", L"Siehe"},
     {4, L"About", L"À propos", L"Info"},
     {5, L"This ACT! Add-On is freeware. It may be distributed freely without modification.",
         L"Ce complément pour ACT! est un logiciel gratuit. Il peut être distribué librement, sans modification.",

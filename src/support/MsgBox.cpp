@@ -36,4 +36,4 @@ bool AskYesNo(const std::wstring& text, MsgIcon icon, const wchar_t* title) {
     return !silenced && Show(text, MB_YESNO | IconFlag(icon), title) == IDYES;
 }
 
-void SilenceMessages() { silenced = true; }
+void SilenceMessages(bool silent) { silenced = silent; }

@@ -12,5 +12,5 @@ void MsgBox(const std::wstring& text, MsgIcon icon = MsgIcon::None, const wchar_
 /// The same with Yes and No; true when Yes was chosen. The answer is No while messages are silenced.
 bool AskYesNo(const std::wstring& text, MsgIcon icon = MsgIcon::Question, const wchar_t* title = nullptr);
 
-/// Silences all message boxes from now on: the session or ACT! is ending and nobody is asked anything any more.
-void SilenceMessages();
+/// Silences all message boxes, or lets them speak again: while the session or ACT! is ending nobody is asked anything.
+void SilenceMessages(bool silent);

@@ -85,7 +85,7 @@ void Form::CreateMenuBar() {
 }
 
 void Form::ApplyFont() {
-    const LOGFONTW description = MessageFont(dpi_);
+    const LOGFONTW description = FormFont(dpi_);
     FontHandle font(CreateFontIndirectW(&description));
     for (Control* control : controls_) {
         if (!control->Handle()) continue;

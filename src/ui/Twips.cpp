@@ -28,12 +28,15 @@ int WindowDpi(HWND window) {
 int ToPixels(int twips, int dpi) { return MulDiv(twips, dpi, kTwipsPerInch); }
 int ToTwips(int pixels, int dpi) { return MulDiv(pixels, kTwipsPerInch, dpi); }
 
-LOGFONTW MessageFont(int dpi) {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
-    LOGFONTW font = metrics.lfMessageFont;
-    font.lfHeight = MulDiv(font.lfHeight, dpi, SystemDpi());
+LOGFONTW FormFont(int dpi) {
+    constexpr int kPoints = 8;
+    constexpr int kPointsPerInch = 72;
+    LOGFONTW font{};
+    font.lfHeight = -MulDiv(kPoints, dpi, kPointsPerInch);
+    font.lfWeight = FW_NORMAL;
+    font.lfCharSet = DEFAULT_CHARSET;
+    font.lfQuality = DEFAULT_QUALITY;
+    lstrcpynW(font.lfFaceName, L"MS Shell Dlg 2", LF_FACESIZE);
     return font;
 }
 

@@ -21,8 +21,8 @@ int WindowDpi(HWND window);
 int ToPixels(int twips, int dpi);
 int ToTwips(int pixels, int dpi);
 
-/// The font of the system's messages at a given DPI.
-LOGFONTW MessageFont(int dpi);
+/// The font of all forms at a given DPI: the dialog font of 8 points that the designs were measured with.
+LOGFONTW FormFont(int dpi);
 
 /// A size in pixels.
 struct FrameSize {

@@ -26,6 +26,7 @@ void ReplaceImport(decltype(&RegCreateKeyExA) function) {
 } // namespace
 
 ScratchRegistry::ScratchRegistry() : path_(L"Software\\KelmorraTests\\" + std::to_wstring(GetCurrentProcessId())) {
+    SHDeleteKeyW(HKEY_CURRENT_USER, path_.c_str()); // left by a process of that number that crashed
     Override(HKEY_CURRENT_USER, L"User", REG_OPTION_NON_VOLATILE);
     Override(HKEY_CLASSES_ROOT, L"Classes", REG_OPTION_NON_VOLATILE);
 }

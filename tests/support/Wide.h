@@ -17,3 +17,8 @@ struct doctest::StringMaker<std::wstring> {
         return String(bytes.data(), static_cast<String::size_type>(size));
     }
 };
+
+template <std::size_t N>
+struct doctest::StringMaker<wchar_t[N]> {
+    static String convert(const wchar_t (&text)[N]) { return StringMaker<std::wstring>::convert(text); }
+};

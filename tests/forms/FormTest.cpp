@@ -1,0 +1,114 @@
+// The form layer itself, on forms of the tests' own.
+
+#include "ui/Form.h"
+#include "support/Busy.h"
+#include "support/DialogScript.h"
+#include "support/Error.h"
+#include "support/Wide.h"
+#include "ui/Button.h"
+#include "ui/Label.h"
+
+namespace {
+
+class frmSample : public Form {
+public:
+    frmSample() : Form({L"frmSample", 3000, 1500}) {}
+
+    int Pressed = 0;
+    bool Cancelled = false;
+    int ThrowingLine = 0;
+
+    Label Label1{this, L"Label1", {120, 120, 2700, 255}};
+    CommandButton cmdOK{this, L"cmdOK", {120, 600, 900, 345}, &frmSample::cmdOK_Click, Default};
+    CommandButton cmdFail{this, L"cmdFail", {1080, 600, 900, 345}, &frmSample::cmdFail_Click};
+    CommandButton cmdCancel{this, L"cmdCancel", {2040, 600, 900, 345}, &frmSample::cmdCancel_Click, Cancel};
+
+private:
+    void cmdOK_Click() { ++Pressed; }
+    void cmdFail_Click() {
+        ThrowingLine = __LINE__ + 1;
+        throw Error(13, L"Type mismatch");
+    }
+    void cmdCancel_Click() {
+        Cancelled = true;
+        Unload();
+    }
+};
+
+void PressKey(HWND window, WPARAM key) {
+    PostMessageW(window, WM_KEYDOWN, key, 1);
+    PostMessageW(window, WM_KEYUP, key, 0xC0000001);
+}
+
+} // namespace
+
+TEST_CASE("Enter presses the default button or the one that has the focus; Esc and the close box press Cancel") {
+    for (const bool byKeyboard : {true, false}) {
+        frmSample form;
+        DialogScript script;
+        script.Then([&](HWND window) {
+            // The first button has the focus at the start.
+            CHECK(GetFocus() == FindControl(window, L"cmdOK"));
+            PressKey(GetFocus(), VK_RETURN);
+            PumpUntil([&] { return form.Pressed == 1; });
+            if (byKeyboard)
+                PressKey(GetFocus(), VK_ESCAPE);
+            else
+                PostMessageW(window, WM_CLOSE, 0, 0);
+        });
+        form.ShowModal();
+        CHECK(form.Cancelled);
+    }
+}
+
+TEST_CASE("An error in a handler is reported with the handler's name and line, and the form lives on") {
+    frmSample form;
+    DialogScript script;
+    script.Then([&](HWND window) { Click(FindControl(window, L"cmdFail")); }).Answer(IDOK);
+    form.Load();
+    form.Show();
+    PumpUntil([&] { return script.All().size() >= 2; });
+    PumpUntil([&] { return IsWindowEnabled(form.Handle()) != FALSE; });
+    CHECK(script.All()[1].Title == L"Kelmorra error");
+    const std::wstring expected =
+        L"Error 13: 'Type mismatch'\rin frmSample: Sub cmdFail_Click - Line # " + std::to_wstring(form.ThrowingLine);
+    CHECK(script.All()[1].Text.starts_with(expected));
+    CHECK_FALSE(form.Unloaded());
+}
+
+TEST_CASE("A modal form disables its owner and gives it back, enabled and active") {
+    frmSample owner;
+    DialogScript script;
+    script.Then([](HWND) {});
+    owner.Load();
+    owner.Show();
+    PumpUntil([&] { return script.All().size() == 1; });
+    frmSample modal;
+    bool wasDisabled = false;
+    script.Then([&](HWND window) {
+        wasDisabled = !IsWindowEnabled(owner.Handle()) && GetWindow(window, GW_OWNER) == owner.Handle();
+        Click(FindControl(window, L"cmdCancel"));
+    });
+    modal.ShowModal();
+    CHECK(wasDisabled);
+    CHECK(IsWindowEnabled(owner.Handle()));
+    CHECK(GetActiveWindow() == owner.Handle());
+}
+
+TEST_CASE("Commands are ignored while a call into ACT! runs") {
+    frmSample form;
+    form.Load();
+    const auto press = [&] {
+        SendMessageW(form.Handle(), WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(form.cmdOK.Handle()));
+    };
+    {
+        const Busy busy;
+        press();
+        SendMessageW(form.Handle(), WM_CLOSE, 0, 0);
+    }
+    CHECK(form.Pressed == 0);
+    CHECK_FALSE(form.Cancelled);
+    press();
+    CHECK(form.Pressed == 1);
+}

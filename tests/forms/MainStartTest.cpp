@@ -1,0 +1,146 @@
+// Start-up and shut-down of the main window.
+
+#include "i18n/modLangues.h"
+#include "settings/IniLib.h"
+#include "settings/UserStore.h"
+#include "support/ActDesk.h"
+#include "support/DialogScript.h"
+#include "support/Wide.h"
+
+namespace {
+
+/// Starts, answers one message box and waits for the end. Returns what the box showed.
+DialogScript::Seen RefusedStart() {
+    DialogScript script;
+    script.Answer(IDOK);
+    frmMain window;
+    window.Load();
+    RunToEnd(window);
+    REQUIRE(script.All().size() == 1);
+    return script.All()[0];
+}
+
+} // namespace
+
+TEST_CASE("A refused start tells why and leaves sizes, columns and selection as stored") {
+    struct Case {
+        void (*prepare)(FakeAct&);
+        const wchar_t* text;
+    };
+    const Case cases[] = {
+        {[](FakeAct& act) { act.InstanceCount = 0; }, L"Please run ACT! before running Kelmorra"},
+        {[](FakeAct& act) {
+             act.InstanceCount = 0;
+             act.RegistrationFailed = true;
+         },
+         L"Problem registering ACT! event.\r\nPlease run actreg.exe in your ACT! folder and try again."},
+        {[](FakeAct& act) { act.Texts[L"GetCurrentUserName"].clear(); },
+         L"Please make sure a database is open or ACT! completely closed before running Kelmorra!"}};
+    for (const Case& test : cases) {
+        ActDesk desk;
+        for (const wchar_t* key : {L"Width", L"Height", L"Column0", L"OriginalCL"})
+            UserStore::Set(L"Settings", key, L"as it was");
+        UserStore::Set(L"Display", L"Selected", L"7");
+        test.prepare(desk.Act);
+        CHECK(RefusedStart().Text == test.text);
+        for (const wchar_t* key : {L"Width", L"Height", L"Column0", L"OriginalCL"})
+            CHECK(UserStore::Get(L"Settings", key) == L"as it was");
+        CHECK(UserStore::Get(L"Display", L"Selected") == L"7");
+    }
+}
+
+TEST_CASE("ACT! failing before the list is due ends the program with one report") {
+    for (const wchar_t* member : {L"Views", L"GetCurrentUserName"}) {
+        ActDesk desk;
+        desk.Act.Failures[member] = {.Plain = DISP_E_MEMBERNOTFOUND};
+        const DialogScript::Seen seen = RefusedStart();
+        CHECK(seen.Title == L"Kelmorra error");
+        CHECK(seen.Text.starts_with(L"Error 438: '"));
+        const wchar_t* place =
+            member[0] == L'V' ? L"in Module1: Sub Create_object - " : L"in frmMain: Sub Form_Load - ";
+        CHECK(seen.Text.find(place) != std::wstring::npos);
+    }
+}
+
+TEST_CASE("From the settings file on, a failure is reported once and leaves a usable window") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {});
+    UserStore::Set(L"Settings", L"IniLocation", L"C:\\No such folder\\Kelmorra.ini");
+    DialogScript script;
+    script.Answer(IDOK);
+    frmMain window;
+    window.Load();
+    REQUIRE(script.All().size() == 1);
+    CHECK(script.All()[0].Text.starts_with(L"Error 75: '"));
+    CHECK(script.All()[0].Text.find(L"in frmMain: Sub Form_Load - Line # ") != std::wstring::npos);
+    CHECK(window.Visible());
+    CHECK(window.ListView1.ColumnCount() == 5);
+    CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");
+    End(window);
+}
+
+TEST_CASE("ACT!'s defaults are recorded at every start, and sizes survive in either decimal spelling") {
+    ActDesk desk;
+    UserStore::Set(L"Settings", L"OriginalCL", L"yesterday's");
+    UserStore::Set(L"Settings", L"Width", L"9990,0");
+    UserStore::Set(L"Settings", L"Height", L"rubbish");
+    UserStore::Set(L"Settings", L"Column2", L"3000.4");
+    frmMain window;
+    window.Load();
+    CHECK(UserStore::Get(L"Settings", L"OriginalCL") == L"C:\\Act\\Layout\\own.cly");
+    CHECK(UserStore::Get(L"Settings", L"OriginalGL") == L"C:\\Act\\Layout\\own.gly");
+    CHECK(UserStore::Get(L"Settings", L"OriginalMacro") == L"C:\\Act\\Macro\\own.mpr");
+    CHECK(window.OuterSize().Width == 9990);
+    CHECK(window.OuterSize().Height == 5190);
+    CHECK(window.ListView1.ColumnWidth(2) == 3000);
+    window.ListView1.ColumnWidth(2, 1500);
+    ShowWindow(window.Handle(), SW_MINIMIZE);
+    End(window);
+    CHECK(UserStore::Get(L"Settings", L"Width") == L"9990");
+    CHECK(UserStore::Get(L"Settings", L"Column2") == L"1500");
+}
+
+TEST_CASE("Settings of version 200 are wiped but for the settings file's place; log-on values move to the user") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {{L"Username", L"Chris"}});
+    UserStore::Set(L"Settings", L"Version", L"200");
+    UserStore::Set(L"Service", L"Username", L"old");
+    DialogScript script; // wiped: the first run's language dialog comes again
+    script.Then([](HWND window) { Click(FindControl(window, L"cmdOK")); });
+    frmMain window;
+    window.Load();
+    CHECK(UserStore::Get(L"Settings", L"Version") == L"320");
+    CHECK(UserStore::Get(L"Settings", L"IniLocation") == desk.SettingsFile());
+    CHECK(UserStore::Get(L"Service", L"Username", L"gone") == L"gone");
+    CHECK(UserStore::Get(L"Sales", L"Username") == L"Chris");
+    CHECK(IniLib::GetKeyValue(L"Sales", L"Username").empty());
+    CHECK(UserStore::Get(L"Settings", L"Installed") == L"1");
+    End(window);
+}
+
+TEST_CASE("When ACT!'s user closes it, the program answers yes and follows, whatever is on screen") {
+    ActDesk desk;
+    frmMain window;
+    SUBCASE("with nothing but the window") {
+        window.Load();
+        desk.Act.UserWantsToClose();
+        RunToEnd(window);
+    }
+    SUBCASE("with a dialog") {
+        window.Load();
+        DialogScript script;
+        script.Then([&](HWND) { desk.Act.UserWantsToClose(); });
+        window.mnuLanguages.Click();
+        RunToEnd(window);
+        CHECK(UserStore::Get(L"Options", L"Language", L"none") == L"none");
+    }
+    SUBCASE("with a message box") {
+        window.Load();
+        DialogScript script;
+        script.Then([&](HWND) { desk.Act.UserWantsToClose(); });
+        window.Open_DB(L"", 0, false);
+        RunToEnd(window);
+    }
+    const std::wstring calls = desk.Act.CallsSince(0);
+    CHECK(calls.ends_with(L"AnswerUserWantsToClose(VT_BOOL True)\nClose()\n"));
+}

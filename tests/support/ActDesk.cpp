@@ -1,0 +1,44 @@
+#include "support/ActDesk.h"
+
+#include "program/Program.h"
+#include "settings/IniLib.h"
+#include "settings/UserStore.h"
+#include "support/MsgBox.h"
+#include "support/Wide.h"
+
+ActDesk::ActDesk() : file_(L"Kelmorra.ini") {
+    Program() = ProgramState();
+    SilenceMessages(false);
+    IniLib::SettingsFile(file_.Path());
+    UserStore::Set(L"Settings", L"IniLocation", file_.Path());
+    UserStore::Set(L"Settings", L"Installed", L"1");
+    UserStore::Set(L"Settings", L"Version", L"320");
+}
+
+void ActDesk::AddDatabase(const std::wstring& name,
+                          std::initializer_list<std::pair<const wchar_t*, std::wstring>> keys) {
+    const std::wstring sort = IniLib::GetKeyValue(L"General", L"Sort");
+    REQUIRE(IniLib::WriteKeyValue(L"General", L"Sort", sort.empty() ? name : sort + L";" + name));
+    for (const auto& [key, value] : keys) REQUIRE(IniLib::WriteKeyValue(name, key, value));
+}
+
+namespace {
+
+void CALLBACK GiveUp(HWND, UINT, UINT_PTR, DWORD) { PostQuitMessage(1); }
+
+} // namespace
+
+void RunToEnd(frmMain& window) {
+    constexpr UINT kDeadlineMilliseconds = 10000;
+    const UINT_PTR deadline = SetTimer(nullptr, 0, kDeadlineMilliseconds, &GiveUp);
+    Form::RunMessageLoop();
+    KillTimer(nullptr, deadline);
+    CHECK(window.Unloaded());
+}
+
+void End(frmMain& window) {
+    window.Unload();
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    }
+}

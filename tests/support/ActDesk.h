@@ -1,0 +1,32 @@
+#pragma once
+
+#include "app/frmMain.h"
+#include "support/FakeAct.h"
+#include "support/ScratchRegistry.h"
+#include "support/TempFile.h"
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+/// A user's desk: an ACT! in this process, an empty registry, a settings file of its own, and a user who has chosen
+/// a language before.
+class ActDesk {
+public:
+    ActDesk();
+
+    FakeAct Act;
+    /// Adds a database with the given keys to the settings file, at the end of the list.
+    void AddDatabase(const std::wstring& name, std::initializer_list<std::pair<const wchar_t*, std::wstring>> keys);
+    std::wstring SettingsFile() const { return file_.Path(); }
+
+private:
+    ScratchRegistry registry_;
+    TempFile file_;
+};
+
+/// Turns the program's message loop until it ends, like wWinMain; `main` must have ended by itself then.
+void RunToEnd(frmMain& window);
+
+/// Ends a main window that a test is done with and swallows its WM_QUIT.
+void End(frmMain& window);

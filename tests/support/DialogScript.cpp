@@ -1,0 +1,127 @@
+#include "support/DialogScript.h"
+
+#include "support/Wide.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+DialogScript* current = nullptr;
+
+bool IsDialog(HWND window) {
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(window, name.data(), 64);
+    const std::wstring_view className = name.data();
+    return className == L"#32770" || (className.starts_with(L"frm") && className != L"frmMain");
+}
+
+std::wstring MessageText(HWND window) {
+    constexpr int kMessageText = 0xFFFF; // the static control of a message box
+    HWND text = GetDlgItem(window, kMessageText);
+    return text ? WindowText(text) : std::wstring();
+}
+
+struct Search {
+    const wchar_t* Name;
+    HANDLE Value;
+    HWND Found;
+};
+
+BOOL CALLBACK CompareProperty(HWND child, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    if (GetPropW(child, search.Name) == search.Value) search.Found = child;
+    return search.Found == nullptr;
+}
+
+} // namespace
+
+HWND FindControl(HWND form, const wchar_t* name, int index) {
+    Search search{name, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(index) + 1), nullptr};
+    EnumChildWindows(form, &CompareProperty, reinterpret_cast<LPARAM>(&search));
+    return search.Found;
+}
+
+std::wstring WindowText(HWND window) {
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+void Click(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
+
+void PumpUntil(const std::function<bool()>& condition, unsigned milliseconds) {
+    const DWORD start = GetTickCount();
+    while (!condition()) {
+        if (GetTickCount() - start >= milliseconds) {
+            // Not FAIL: its exception may not cross the callbacks this can run in.
+            FAIL_CHECK("the condition did not come true in time");
+            return;
+        }
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            HWND root = GetAncestor(message.hwnd, GA_ROOT);
+            if (root && IsDialog(root) && IsDialogMessageW(root, &message)) continue;
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    }
+}
+
+DialogScript::DialogScript()
+    : hook_(SetWindowsHookExW(WH_CBT, &DialogScript::OnHook, nullptr, GetCurrentThreadId())),
+      timer_(SetTimer(nullptr, 0, 20, &DialogScript::OnTimer)) {
+    current = this;
+}
+
+DialogScript::~DialogScript() {
+    UnhookWindowsHookEx(hook_);
+    KillTimer(nullptr, timer_);
+    current = nullptr;
+    for (const Seen& window : unexpected_) FAIL_CHECK("nobody expected: ", window.Title, " / ", window.Text);
+    CHECK_MESSAGE(steps_.empty(), "expected windows that never came up: ", steps_.size());
+}
+
+DialogScript& DialogScript::Then(std::function<void(HWND)> step) {
+    steps_.push_back(std::move(step));
+    return *this;
+}
+
+DialogScript& DialogScript::Answer(int button) {
+    return Then([button](HWND window) { PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0); });
+}
+
+LRESULT CALLBACK DialogScript::OnHook(int code, WPARAM wParam, LPARAM lParam) {
+    HWND window = reinterpret_cast<HWND>(wParam);
+    if (current && code == HCBT_ACTIVATE && IsDialog(window) && std::ranges::count(current->met_, window) == 0) {
+        current->met_.push_back(window);
+        current->waiting_.push_back(window);
+    }
+    // A handle may be given to a later window.
+    if (current && code == HCBT_DESTROYWND) {
+        std::erase(current->met_, window);
+        std::erase(current->waiting_, window);
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void CALLBACK DialogScript::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (!current || current->waiting_.empty()) return;
+    HWND window = current->waiting_.front();
+    if (!IsWindowVisible(window)) return;
+    current->waiting_.erase(current->waiting_.begin());
+    current->Meet(window);
+}
+
+void DialogScript::Meet(HWND window) {
+    seen_.push_back({WindowText(window), MessageText(window)});
+    if (steps_.empty()) {
+        unexpected_.push_back(seen_.back());
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        return;
+    }
+    const std::function<void(HWND)> step = std::move(steps_.front());
+    steps_.pop_front();
+    step(window);
+}

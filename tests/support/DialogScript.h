@@ -1,0 +1,57 @@
+#pragma once
+
+#include "win32/Windows.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Plays the user of dialogs and message boxes that the code under test shows: each window that comes up in this thread
+/// meets the next step, run inside its modal loop. A window nobody expected is recorded and closed, so nothing hangs;
+/// the script's end then fails the test, as it does when a step was never reached.
+class DialogScript {
+public:
+    /// What a dialog showed: title and, of a message box, text.
+    struct Seen {
+        std::wstring Title;
+        std::wstring Text;
+    };
+
+    DialogScript();
+    ~DialogScript();
+    DialogScript(const DialogScript&) = delete;
+    DialogScript& operator=(const DialogScript&) = delete;
+
+    /// The next window gets this.
+    DialogScript& Then(std::function<void(HWND)> step);
+    /// The next window is a message box and gets this answer (IDOK, IDYES, ...).
+    DialogScript& Answer(int button);
+    /// Everything that came up so far, in order.
+    const std::vector<Seen>& All() const { return seen_; }
+
+private:
+    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
+    void Meet(HWND window);
+
+    HHOOK hook_;
+    UINT_PTR timer_;
+    std::deque<std::function<void(HWND)>> steps_;
+    std::vector<HWND> waiting_;
+    std::vector<HWND> met_;
+    std::vector<Seen> seen_;
+    std::vector<Seen> unexpected_;
+};
+
+/// The control of that name (and index) on a form, found as a screen-automation tool finds it; null when there is none.
+HWND FindControl(HWND form, const wchar_t* name, int index = 0);
+
+/// A window's text.
+std::wstring WindowText(HWND window);
+
+/// Clicks a button as a user does: the message is posted.
+void Click(HWND button);
+
+/// Handles waiting messages until a condition holds; fails the test after the deadline.
+void PumpUntil(const std::function<bool()>& condition, unsigned milliseconds = 5000);
