@@ -87,6 +87,7 @@ Journey::~Journey() {
     EndAct();
     if (isUnregistered_) Installation::Run(L"/register");
     CHECK_MESSAGE(Within([this] { return group_.Alive() == 0; }), "a program of the journey goes on");
+    CHECK_MESSAGE(!FindWindowW(kStandInClass, nullptr), "the program has started an ACT! of its own");
 }
 
 void Journey::CheckNoneInvisible() const {

@@ -7,8 +7,17 @@
 
 #include <list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
+
+/// Lets a failed assertion show a value that may be missing.
+template <>
+struct doctest::StringMaker<std::optional<std::wstring>> {
+    static String convert(const std::optional<std::wstring>& text) {
+        return text ? StringMaker<std::wstring>::convert(*text) : String("(none)");
+    }
+};
 
 /// One user's session: empty stores, a folder of its own with a copy of the program, and an ACT! stand-in with its own
 /// log and state. Unless told otherwise the program has run before, in English.

@@ -40,6 +40,35 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<LRESULT>(answer);
 }
 
+/// A part of the screen as it looks at this moment.
+class Picture {
+public:
+    Picture(POINT corner, int width, int height) : screen_(GetDC(nullptr)), memory_(CreateCompatibleDC(screen_)) {
+        bitmap_.Reset(CreateCompatibleBitmap(screen_, width, height));
+        old_ = SelectObject(memory_, bitmap_.Get());
+        BitBlt(memory_, 0, 0, width, height, screen_, corner.x, corner.y, SRCCOPY);
+    }
+    ~Picture() {
+        SelectObject(memory_, old_);
+        DeleteDC(memory_);
+        ReleaseDC(nullptr, screen_);
+    }
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    /// Smoothed letters have a red heart and pale edges.
+    bool IsRed(int x, int y) const {
+        const COLORREF color = GetPixel(memory_, x, y);
+        return GetRValue(color) > 200 && GetGValue(color) < 60 && GetBValue(color) < 60;
+    }
+
+private:
+    HDC screen_;
+    HDC memory_;
+    Owner<owners::Gdi<HBITMAP>> bitmap_;
+    HGDIOBJ old_ = nullptr;
+};
+
 void MouseInput(DWORD flags) {
     INPUT input{};
     input.type = INPUT_MOUSE;
@@ -100,6 +129,29 @@ void DoubleClick(HWND window, POINT place) {
         MouseInput(MOUSEEVENTF_LEFTDOWN);
         MouseInput(MOUSEEVENTF_LEFTUP);
     }
+}
+
+void Press(WORD key) {
+    for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.dwFlags = flags;
+        SendInput(1, &input, sizeof input);
+    }
+}
+
+int RedPixels(HWND window, const RECT& part) {
+    POINT corner{part.left, part.top};
+    ClientToScreen(window, &corner);
+    const int width = part.right - part.left;
+    const int height = part.bottom - part.top;
+    const Picture picture(corner, width, height);
+    int count = 0;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            if (picture.IsRed(x, y)) ++count;
+    return count;
 }
 
 std::optional<Box> MessageBoxOf(DWORD process) {

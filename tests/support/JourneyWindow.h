@@ -28,6 +28,12 @@ bool HasFocus(HWND window);
 /// Presses and releases the left button twice at a place of the window, as a user's mouse does.
 void DoubleClick(HWND window, POINT place);
 
+/// Presses and releases a key, as a user's keyboard does: it goes to the window in the foreground.
+void Press(WORD key);
+
+/// How many pixels in a part of the window's client area are red on the screen.
+int RedPixels(HWND window, const RECT& part);
+
 /// A message box on the screen.
 struct Box {
     HWND Window = nullptr;
@@ -36,7 +42,7 @@ struct Box {
 };
 /// The topmost message box of a process, if any.
 std::optional<Box> MessageBoxOf(DWORD process);
-/// The text of a box's button is pressed by closing it: every box met here has an OK button only.
+/// Presses OK, the only button of every box met here: closing the box does the same.
 void Dismiss(const Box& box);
 
 } // namespace JourneyWindow

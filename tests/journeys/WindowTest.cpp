@@ -1,0 +1,142 @@
+// The main window: what it keeps from one run to the next, and how the open database looks.
+
+#include "support/Journey.h"
+
+namespace {
+
+using JourneyStores::User;
+
+constexpr int kTwipsPerPixel = 15; // journeys run at 96 DPI
+constexpr int kDesignWidth = 8475 / kTwipsPerPixel;
+constexpr int kDesignHeight = 5190 / kTwipsPerPixel;
+
+SIZE SizeOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return {place.right - place.left, place.bottom - place.top};
+}
+
+void Resize(HWND window, int width, int height) {
+    SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+    REQUIRE(Within([&] { return SizeOf(window).cx == width && SizeOf(window).cy == height; }));
+}
+
+HWND ListOf(HWND window) { return JourneyWindow::Control(window, L"ListView1"); }
+
+DWORD_PTR Answer(HWND window, UINT message, WPARAM wParam) {
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(window, message, wParam, 0, SMTO_ABORTIFHUNG, JourneyPatience, &answer);
+    return answer;
+}
+
+void StartActWithTwo(Journey& journey) {
+    const std::wstring open = journey.ListRealDatabase(L"Customers");
+    journey.ListRealDatabase(L"Suppliers");
+    journey.StartAct(open);
+}
+
+} // namespace
+
+TEST_CASE_FIXTURE(Journey, "size, columns and selection are there again at the next start") {
+    StartActWithTwo(*this);
+    HWND window = StartToMainWindow();
+    CHECK(ForeignList(ListOf(window)).Selected() == -1);
+    Resize(window, 800, 600);
+    {
+        const ForeignList list(ListOf(window));
+        list.ColumnWidth(0, 200);
+        list.ColumnWidth(4, 150);
+        list.Select(1);
+    }
+    Close();
+    CHECK(User(L"Settings", L"Width") == std::to_wstring(800 * kTwipsPerPixel));
+    CHECK(User(L"Settings", L"Height") == std::to_wstring(600 * kTwipsPerPixel));
+    CHECK(User(L"Settings", L"Column0") == std::to_wstring(200 * kTwipsPerPixel));
+    CHECK(User(L"Settings", L"Column4") == std::to_wstring(150 * kTwipsPerPixel));
+    CHECK(User(L"Display", L"Selected") == L"1");
+
+    window = StartToMainWindow();
+    CHECK(SizeOf(window).cx == 800);
+    CHECK(SizeOf(window).cy == 600);
+    const ForeignList list(ListOf(window));
+    CHECK(list.ColumnWidth(0) == 200);
+    CHECK(list.ColumnWidth(4) == 150);
+    CHECK(list.Selected() == 1);
+}
+
+TEST_CASE_FIXTURE(Journey, "stored garbage gives the design's measures") {
+    StartActWithTwo(*this);
+    HWND window = StartToMainWindow();
+    const int designColumn = ForeignList(ListOf(window)).ColumnWidth(0);
+    Close();
+    User(L"Settings", L"Width", L"wide");
+    User(L"Settings", L"Height", L"");
+    User(L"Settings", L"Column0", L"-30");
+    User(L"Settings", L"Column1", L"1500,4");
+    User(L"Display", L"Selected", L"99");
+    window = StartToMainWindow();
+    CHECK(SizeOf(window).cx == kDesignWidth);
+    CHECK(SizeOf(window).cy == kDesignHeight);
+    const ForeignList list(ListOf(window));
+    CHECK(list.ColumnWidth(0) == designColumn);
+    CHECK(list.ColumnWidth(1) == 1500 / kTwipsPerPixel);
+    CHECK(list.Selected() == -1);
+}
+
+TEST_CASE_FIXTURE(Journey, "closed while minimised, the window keeps the size it had before") {
+    StartActWithTwo(*this);
+    HWND window = StartToMainWindow();
+    Resize(window, 750, 450);
+    PostMessageW(window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    REQUIRE(Within([&] { return IsIconic(window) != FALSE; }));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(User(L"Settings", L"Width") == std::to_wstring(750 * kTwipsPerPixel));
+    CHECK(User(L"Settings", L"Height") == std::to_wstring(450 * kTwipsPerPixel));
+}
+
+TEST_CASE_FIXTURE(Journey, "Esc closes the window and opens nothing") {
+    StartActWithTwo(*this);
+    HWND window = StartToMainWindow();
+    REQUIRE(Within([&] { return GetForegroundWindow() == window; }));
+    JourneyWindow::Press(VK_ESCAPE);
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(Count(L"APPOBJECT", L"openDB") == 0);
+}
+
+TEST_CASE_FIXTURE(Journey, "every cell of the open database is red, and no other") {
+    StartActWithTwo(*this);
+    for (const wchar_t* name : {L"Customers", L"Suppliers"}) {
+        Ini(name, L"CLY", L"C:\\MMMM.cly");
+        Ini(name, L"GLY", L"C:\\MMMM.gly");
+        Ini(name, L"StartupMacro", L"C:\\MMMM.mpr");
+    }
+    HWND list = ListOf(StartToMainWindow());
+    const ForeignList cells(list);
+    for (int column = 0; column < 5; ++column) {
+        CAPTURE(column);
+        CHECK(Within([&] { return JourneyWindow::RedPixels(list, cells.CellPlace(0, column)) > 10; }));
+        CHECK(JourneyWindow::RedPixels(list, cells.CellPlace(1, column)) == 0);
+    }
+}
+
+TEST_CASE_FIXTURE(Journey, "when Windows ends the session the window is saved without a word") {
+    StartActWithTwo(*this);
+    for (const bool hasBox : {false, true}) {
+        CAPTURE(hasBox);
+        const std::wstring width = hasBox ? L"10500" : L"9750";
+        HWND window = StartToMainWindow();
+        Resize(window, std::stoi(width) / kTwipsPerPixel, 400);
+        if (hasBox) JourneyWindow::Click(window, L"cmdOpen");
+        if (hasBox) CHECK(Box(Program()).Text == L"No database selected!");
+        const size_t windows = JourneyWindow::Visible(Program().Id()).size();
+        CHECK(Answer(window, WM_QUERYENDSESSION, 0) == TRUE);
+        Answer(window, WM_ENDSESSION, FALSE);
+        CHECK(User(L"Settings", L"Width") != width);
+        Answer(window, WM_ENDSESSION, TRUE);
+        CHECK(User(L"Settings", L"Width") == width);
+        CHECK(JourneyWindow::Visible(Program().Id()).size() == windows);
+        if (hasBox) AnswerBox();
+        Close();
+    }
+}
