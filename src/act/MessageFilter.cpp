@@ -12,7 +12,7 @@ public:
     DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK, DWORD, DWORD rejectType) override {
         // 100 and more: call again after so many milliseconds; the largest number: give up.
         constexpr DWORD kRetryMilliseconds = 200;
-        constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
+        constexpr auto kGiveUp = static_cast<DWORD>(-1);
         return rejectType == SERVERCALL_RETRYLATER || rejectType == SERVERCALL_REJECTED ? kRetryMilliseconds : kGiveUp;
     }
     DWORD STDMETHODCALLTYPE MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }

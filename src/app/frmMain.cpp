@@ -71,13 +71,8 @@ void frmMain::Form_Load() try {
     Unload();
 }
 
-bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
     switch (message) {
-    case WM_GETMINMAXINFO: {
-        auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
-        limits.ptMinTrackSize = {ToPixels(kDesignWidth, Dpi()), ToPixels(kDesignHeight, Dpi())};
-        return true;
-    }
     case kActIsClosing:
         isClosing_ = true;
         SilenceMessages(true);
@@ -116,8 +111,8 @@ void frmMain::LayOut(int width, int height) {
     Line2.Move({0, 15, width, 15});
     ListView1.Move({120, 120, width - 1980, height - 2775});
     Frame1.Move({120, 2715 + growth, width - 1980, 1290});
-    cmdOpen.Move({width - 1375, 120, 1215, 345});
-    cmdCancel.Move({width - 1375, 570, 1215, 345});
+    cmdOpen.Move({width - 1375, 120, 1135, 345});
+    cmdCancel.Move({width - 1375, 570, 1135, 345});
     lblMore.Move({width - 2375, 4140 + growth, 585, 255});
     lblLink.Move({width - 1775, 4140 + growth, 1640, 255});
     InvalidateRect(Handle(), nullptr, TRUE);
@@ -131,7 +126,7 @@ void frmMain::SetCaptions() {
     lblLink.Text(Vendor::SiteName);
     Frame1.Text(LangText[46]);
     for (std::size_t view = 0; view < ViewCount; ++view) {
-        const std::wstring caption = LangText[47 + static_cast<int>(view)];
+        const std::wstring& caption = LangText[47 + static_cast<int>(view)];
         lblView[view].Text(caption);
         // Too narrow to be seen: for screen readers.
         optView[view].Text(caption);
@@ -161,10 +156,6 @@ void frmMain::SetMenuCaptions() {
 
     using OtherWindows::Has;
     using OtherWindows::Window;
-    mnuEditProperties.Enabled(Has(Window::Properties));
-    mnuProperties.Enabled(Has(Window::Properties));
-    mnuManageList.Enabled(Has(Window::ListMaintenance));
-    mnuSettingsLocation.Enabled(Has(Window::SettingsLocation));
     mnuIntegrate.Enabled(Has(Window::Integration));
     mnuQuickSwitch.Enabled(Has(Window::QuickSwitch));
     mnuAbout.Enabled(Has(Window::About));

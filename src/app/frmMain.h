@@ -3,6 +3,7 @@
 #include "act/ActEvent.h"
 #include "app/SingleInstance.h"
 #include "integration/clsToolbarIcon.h"
+#include "program/MainWindow.h"
 #include "settings/Database.h"
 #include "ui/Button.h"
 #include "ui/ControlArray.h"
@@ -18,13 +19,17 @@
 
 /// The main window: the list of databases, the choice of the view to open in, and the menus. It owns the run: its load
 /// is the program's start, its unload the program's end.
-class frmMain : public Form {
+class frmMain : public Form, public MainWindow {
 public:
     frmMain();
 
     /// Opens a database of the list in the running ACT! and ends the program; `viewCode` is 0 to 6. `mainHidden` tells
     /// that this window is not on screen. Every way out without success shows this window.
     void Open_DB(const std::wstring& name, short viewCode, bool mainHidden);
+
+    int SelectedIndex() const override { return ListView1.Selected(); }
+    void SelectedIndex(int index) override;
+    void ReplaceRow(const std::wstring& name) override;
 
     static constexpr std::size_t ViewCount = 7;
     static constexpr std::array<Twips, ViewCount> OptionPlaces{{{180, 255, 210, 210},
@@ -53,8 +58,8 @@ public:
     Frame Frame1{this, L"Frame1", {120, 2715, 6495, 1290}};
     ControlArray<OptionButton, ViewCount> optView{this, Frame1, L"optView", OptionPlaces, &frmMain::optView_Click};
     ControlArray<Label, ViewCount> lblView{this, Frame1, L"lblView", ViewLabelPlaces, &frmMain::lblView_Click};
-    CommandButton cmdOpen{this, L"cmdOpen", {7100, 120, 1215, 345}, &frmMain::cmdOpen_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {7100, 570, 1215, 345}, &frmMain::cmdCancel_Click, Cancel};
+    CommandButton cmdOpen{this, L"cmdOpen", {7100, 120, 1135, 345}, &frmMain::cmdOpen_Click, Default};
+    CommandButton cmdCancel{this, L"cmdCancel", {7100, 570, 1135, 345}, &frmMain::cmdCancel_Click, Cancel};
     Label lblMore{this, L"lblMore", {6100, 4140, 585, 255}};
     LinkLabel lblLink{this, L"lblLink", {6700, 4140, 1640, 255}, &frmMain::lblLink_Click};
 
@@ -121,7 +126,10 @@ private:
     void ShowFirstWindow();
 
     // The list (frmMainList.cpp)
+    ActPlaces AskPlaces() const;
     void FillList();
+    void ReloadList();
+    void CollectOpenNames();
     void FillColumns(int row, const std::wstring& name, const ActPlaces& places);
     void SetColumnTitles();
     std::wstring SelectedName() const;

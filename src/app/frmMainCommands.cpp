@@ -3,8 +3,12 @@
 #include "app/frmMain.h"
 
 #include "app/OtherWindows.h"
+#include "dialogs/frmListMaintenance.h"
+#include "dialogs/frmLocations.h"
+#include "dialogs/frmProperties.h"
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
+#include "program/Program.h"
 #include "support/Application.h"
 #include "support/MsgBox.h"
 #include "support/Shell.h"
@@ -29,15 +33,35 @@ void frmMain::mnuManual_Click() { OpenWithShell(Application::FileInFolder(L"Kelm
 void frmMain::mnuOnline_Click() { OpenWithShell(Vendor::Tutorials + LangText[63] + L".htm"); }
 
 void frmMain::mnuEditProperties_Click() {
-    if (SelectedName().empty())
+    const std::wstring name = SelectedName();
+    if (name.empty()) {
         MsgBox(LangText[82]);
-    else
-        OtherWindows::Enter(OtherWindows::Window::Properties);
+        ListView1.SetFocus();
+        return;
+    }
+    Program().FriendlyName = name;
+    frmProperties properties(this);
+    properties.IsNew(false);
+    properties.ShowModal();
+    EndIfInvisible();
 }
 
 void frmMain::mnuProperties_Click() { mnuEditProperties_Click(); }
-void frmMain::mnuManageList_Click() { OtherWindows::Enter(OtherWindows::Window::ListMaintenance); }
-void frmMain::mnuSettingsLocation_Click() { OtherWindows::Enter(OtherWindows::Window::SettingsLocation); }
+
+void frmMain::mnuManageList_Click() {
+    frmListMaintenance(*this).ShowModal();
+    if (!isClosing_) ReloadList();
+    EndIfInvisible();
+}
+
+void frmMain::mnuSettingsLocation_Click() {
+    frmLocations locations;
+    locations.ShowModal();
+    if (locations.LocationChanged())
+        MsgBox(L"Please close and restart Kelmorra for the changes to take effect.", MsgIcon::Information);
+    EndIfInvisible();
+}
+
 void frmMain::mnuIntegrate_Click() { OtherWindows::Enter(OtherWindows::Window::Integration); }
 void frmMain::mnuAbout_Click() { OtherWindows::Enter(OtherWindows::Window::About); }
 

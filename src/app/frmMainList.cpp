@@ -4,6 +4,7 @@
 
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "settings/UserStore.h"
 #include "support/Text.h"
 
 namespace {
@@ -18,15 +19,19 @@ std::wstring ShownName(const std::wstring& path, const std::wstring& actFolder) 
 
 } // namespace
 
+frmMain::ActPlaces frmMain::AskPlaces() const {
+    const ProgramState& program = Program();
+    return {program.Preferences.GetDefaultLocation(DefaultLocation::Layouts),
+            program.Preferences.GetDefaultLocation(DefaultLocation::Macros), program.Application.GetOpenDBName()};
+}
+
 void frmMain::FillList() {
     ProgramState& program = Program();
-    const ActPlaces places{program.Preferences.GetDefaultLocation(DefaultLocation::Layouts),
-                           program.Preferences.GetDefaultLocation(DefaultLocation::Macros),
-                           program.Application.GetOpenDBName()};
+    const ActPlaces places = AskPlaces();
     program.DatabaseNames = DatabaseList::ReadSort();
-    program.OpenDatabaseNames.clear();
     ListView1.Clear();
     for (const std::wstring& name : program.DatabaseNames) FillColumns(ListView1.Add(name), name, places);
+    CollectOpenNames();
     if (sortColumn_ >= 0) ListView1.Sort(sortColumn_, sortDescending_);
 }
 
@@ -36,9 +41,32 @@ void frmMain::FillColumns(int row, const std::wstring& name, const ActPlaces& pl
     ListView1.Cell(row, 2, ShownName(record.GroupLayout, places.Layouts));
     ListView1.Cell(row, 3, ShownName(record.OpeningMacro, places.Macros));
     ListView1.Cell(row, 4, record.Path);
-    if (!Text::SamePath(record.Path, places.OpenDatabase)) return;
-    ListView1.RowColor(row, kOpenInAct);
-    Program().OpenDatabaseNames += L"|" + name + L"|";
+    ListView1.RowColor(row, Text::SamePath(record.Path, places.OpenDatabase) ? kOpenInAct : CLR_DEFAULT);
+}
+
+void frmMain::CollectOpenNames() {
+    std::wstring& names = Program().OpenDatabaseNames;
+    names.clear();
+    for (int row = 0; row < ListView1.RowCount(); ++row)
+        if (ListView1.RowColor(row) == kOpenInAct) names += L"|" + ListView1.Cell(row, 0) + L"|";
+}
+
+void frmMain::ReloadList() {
+    FillList();
+    ListView1.Select(static_cast<int>(Text::WholeNumber(UserStore::Get(L"Display", L"Selected")).value_or(-1)));
+}
+
+void frmMain::SelectedIndex(int index) { UserStore::Set(L"Display", L"Selected", std::to_wstring(index)); }
+
+void frmMain::ReplaceRow(const std::wstring& name) {
+    const int row = ListView1.Selected();
+    if (row < 0) return;
+    ListView1.Cell(row, 0, name);
+    FillColumns(row, name, AskPlaces());
+    ListView1.Cell(row, 4, name);
+    CollectOpenNames();
+    Program().DatabaseNames = DatabaseList::ReadSort();
+    ListView1.Select(row);
 }
 
 void frmMain::SetColumnTitles() {
@@ -51,7 +79,7 @@ void frmMain::SetColumnTitles() {
 
 std::wstring frmMain::SelectedName() const {
     const int row = ListView1.Selected();
-    return row < 0 ? std::wstring() : Program().DatabaseNames.at(static_cast<size_t>(row));
+    return row < 0 ? std::wstring() : ListView1.Cell(row, 0);
 }
 
 void frmMain::ListView1_ColumnClick(int column) {

@@ -24,7 +24,7 @@
 namespace {
 
 constexpr wchar_t kAlreadyRunning[] = L"An instance of this program is already running!";
-constexpr int kColumnWidths[] = {1650, 1110, 1110, 1110, 1440}; // twips
+constexpr int kColumnWidths[] = {1290, 1290, 1290, 1290, 1275}; // twips
 constexpr long kWidestColumn = 100000;                          // twips; more is garbage
 
 short StoredLanguage() {
@@ -124,7 +124,7 @@ void frmMain::FinishStart() {
 }
 
 void frmMain::CreateSettingsFile() {
-    const std::wstring path = IniLib::SettingsFile();
+    const std::wstring& path = IniLib::SettingsFile();
     if (modFolderFileExists::FileExists(path)) return;
     const FileHandle file(
         CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -174,11 +174,8 @@ void frmMain::RecordActDefaults() {
 
 void frmMain::FillAndSelect() {
     if (reload_) return;
-    FillList();
+    ReloadList();
     listLoaded_ = true;
-    constexpr long kNone = -1;
-    const auto selected = Text::WholeNumber(UserStore::Get(L"Display", L"Selected"));
-    ListView1.Select(static_cast<int>(selected.value_or(kNone)));
 }
 
 void frmMain::ShowFirstWindow() {

@@ -15,6 +15,7 @@ struct ProgramState {
     std::wstring FriendlyName;               ///< the database being edited or opened
     std::vector<std::wstring> DatabaseNames; ///< the list, in the order of "Sort"
     std::wstring OpenDatabaseNames;          ///< the databases that ACT! has open, each as "|" + name + "|"
+    bool AskForUsername = false;             ///< the properties dialog is to ask for the user name
     bool StartActMode = false;               ///< ACT! was not running: Open_DB only records the chosen name
 };
 

@@ -21,12 +21,7 @@ std::wstring ProgramPath() {
 
 namespace Application {
 
-std::wstring Folder() {
-    const std::wstring path = ProgramPath();
-    const size_t slash = path.rfind(L'\\');
-    const bool isRoot = slash == 2 && path[1] == L':';
-    return slash == std::wstring::npos ? std::wstring() : path.substr(0, isRoot ? slash + 1 : slash);
-}
+std::wstring Folder() { return Text::ExtractPath(ProgramPath()); }
 
 std::wstring ProgramName() {
     std::wstring name = Text::AfterLast(ProgramPath(), L'\\');

@@ -68,6 +68,13 @@ std::wstring AfterLast(std::wstring_view text, wchar_t separator) {
     return std::wstring(found == std::wstring_view::npos ? text : text.substr(found + 1));
 }
 
+std::wstring ExtractPath(std::wstring_view path) {
+    const size_t slash = path.rfind(L'\\');
+    if (slash == std::wstring_view::npos) return {};
+    const bool isRoot = slash == 2 && path[1] == L':';
+    return std::wstring(path.substr(0, isRoot ? slash + 1 : slash));
+}
+
 std::wstring JoinPath(std::wstring_view folder, std::wstring_view name) {
     return std::wstring(WithoutTrailingSlash(folder)).append(L"\\").append(name);
 }

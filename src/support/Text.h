@@ -21,6 +21,9 @@ std::wstring Replace(std::wstring_view text, std::wstring_view from, std::wstrin
 /// What follows the last `separator`, or the whole text when there is none.
 std::wstring AfterLast(std::wstring_view text, wchar_t separator);
 
+/// The folder part of a path, without a trailing "\" unless it is a drive's root; "" when there is none.
+std::wstring ExtractPath(std::wstring_view path);
+
 /// A folder and a name joined by exactly one "\", whether or not the folder ends in one.
 std::wstring JoinPath(std::wstring_view folder, std::wstring_view name);
 

@@ -8,8 +8,10 @@ DWORD StyleOf(ButtonRole role) { return (role == ButtonRole::Default ? BS_DEFPUS
 
 } // namespace
 
-CommandButton::CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role)
-    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}), click_(std::move(click)), role_(role) {}
+CommandButton::CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role,
+                             Frame* container, int index)
+    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}, container, index), click_(std::move(click)),
+      role_(role) {}
 
 int CommandButton::Identifier(int ordinal) const {
     if (role_ == ButtonRole::Default) return IDOK;
@@ -18,6 +20,22 @@ int CommandButton::Identifier(int ordinal) const {
 
 void CommandButton::OnCommand(WORD notification) {
     if (notification == BN_CLICKED && Enabled()) Raise(L"Click", click_);
+}
+
+CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click)
+    : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, &container),
+      click_(std::move(click)) {}
+
+bool CheckBox::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+void CheckBox::Value(bool checked) {
+    if (checked == Value()) return;
+    SendMessageW(Handle(), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+    Raise(L"Click", click_);
+}
+
+void CheckBox::OnCommand(WORD notification) {
+    if (notification == BN_CLICKED) Raise(L"Click", click_);
 }
 
 OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Action click)

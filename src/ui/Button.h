@@ -13,7 +13,15 @@ public:
     template <class F>
     CommandButton(F* form, const wchar_t* name, Twips place, void (F::*click)(), ButtonRole role = ButtonRole::Plain)
         : CommandButton(static_cast<Form*>(form), name, place, Bind(form, click), role) {}
-    CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role);
+    /// A button inside a frame; of several with one name, the handler gets the index.
+    template <class F>
+    CommandButton(F* form, Frame& container, const wchar_t* name, Twips place, void (F::*click)())
+        : CommandButton(form, name, place, Bind(form, click), ButtonRole::Plain, &container) {}
+    template <class F>
+    CommandButton(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
+        : CommandButton(form, name, place, BindElement(form, click, index), ButtonRole::Plain, &container, index) {}
+    CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role,
+                  Frame* container = nullptr, int index = 0);
 
 private:
     int Identifier(int ordinal) const override;
@@ -23,13 +31,30 @@ private:
     ButtonRole role_;
 };
 
+/// A box to check.
+class CheckBox : public Control {
+public:
+    template <class F>
+    CheckBox(F* form, Frame& container, const wchar_t* name, Twips place, void (F::*click)())
+        : CheckBox(static_cast<Form*>(form), container, name, place, Bind(form, click)) {}
+    CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click = {});
+
+    bool Value() const;
+    /// Checks or unchecks and, when that changes it, runs the handler as a click does.
+    void Value(bool checked);
+
+private:
+    void OnCommand(WORD notification) override;
+
+    Action click_;
+};
+
 /// One of several options of which exactly one is chosen. The first of a group is the one with index 0.
 class OptionButton : public Control {
 public:
     template <class F>
     OptionButton(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
-        : OptionButton(static_cast<Form*>(form), container, name, place, index,
-                       [form, click, index] { (form->*click)(index); }) {}
+        : OptionButton(static_cast<Form*>(form), container, name, place, index, BindElement(form, click, index)) {}
     OptionButton(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Action click);
 
     bool Value() const;

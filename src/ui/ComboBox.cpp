@@ -1,7 +1,10 @@
 #include "ui/ComboBox.h"
 
-ComboBox::ComboBox(Form* form, const wchar_t* name, Twips place)
-    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}) {}
+#include <utility>
+
+ComboBox::ComboBox(Form* form, const wchar_t* name, Twips place, Action click, Frame* container)
+    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, container),
+      click_(std::move(click)) {}
 
 void ComboBox::AddItem(const std::wstring& text) {
     SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
@@ -16,4 +19,26 @@ Twips ComboBox::WindowPlace() const {
     Twips place = Control::WindowPlace();
     place.Height += kOpenedList;
     return place;
+}
+
+std::wstring ComboBox::Item(int index) const {
+    const LRESULT length = SendMessageW(Handle(), CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
+    if (length == CB_ERR) return {};
+    std::wstring text(static_cast<size_t>(length) + 1, L'\0');
+    SendMessageW(Handle(), CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back();
+    return text;
+}
+
+std::wstring ComboBox::SelectedText() const { return Item(ListIndex()); }
+
+void ComboBox::Select(const std::wstring& text) {
+    const auto count = static_cast<int>(SendMessageW(Handle(), CB_GETCOUNT, 0, 0));
+    int index = 0;
+    while (index < count && Item(index) != text) ++index;
+    ListIndex(index < count ? index : -1);
+}
+
+void ComboBox::OnCommand(WORD notification) {
+    if (notification == CBN_SELCHANGE) Raise(L"Click", click_);
 }

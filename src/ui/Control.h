@@ -55,6 +55,8 @@ private:
     /// The control's command identifier.
     virtual int Identifier(int ordinal) const { return ordinal; }
     virtual void OnCreated() {}
+    /// True for a surface that other controls lie on.
+    virtual bool LiesBehind() const { return false; }
     virtual void OnCommand(WORD) {}
     virtual LRESULT OnNotify(NMHDR&) { return 0; }
     virtual void OnContextMenu(POINT) {}

@@ -4,15 +4,17 @@
 
 #include <array>
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
-/// Several controls of one kind and name inside a frame, told apart by their index, with one handler that gets it.
+/// Several controls of one kind and name inside a frame, told apart by their index, with one handler (or none)
+/// that gets it.
 template <class T, std::size_t N>
 class ControlArray {
 public:
     template <class F>
     ControlArray(F* form, Frame& container, const wchar_t* name, const std::array<Twips, N>& places,
-                 void (F::*handler)(int))
+                 std::type_identity_t<void (F::*)(int)> handler)
         : ControlArray(form, container, name, places, handler, std::make_index_sequence<N>()) {}
 
     T& operator[](std::size_t index) { return controls_.at(index); }

@@ -13,6 +13,13 @@ Action Bind(F* form, void (F::*handler)()) {
     return [form, handler] { (form->*handler)(); };
 }
 
+/// The handler of one element of a control array: it gets the element's index.
+template <class F>
+Action BindElement(F* form, void (F::*handler)(int), int index) {
+    if (!handler) return {};
+    return [form, handler, index] { (form->*handler)(index); };
+}
+
 template <class F>
 IndexAction Bind(F* form, void (F::*handler)(int)) {
     if (!handler) return {};

@@ -16,6 +16,7 @@ std::vector<Form*> loadedForms;
 
 DWORD StyleOf(const FormDesign& design) {
     if (design.Frame == Border::Sizable) return WS_OVERLAPPEDWINDOW;
+    if (design.Frame == Border::SizableDialog) return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
     return WS_POPUP | WS_CAPTION | (design.HasCloseBox ? WS_SYSMENU : 0);
 }
 
@@ -58,6 +59,10 @@ void Form::Load() {
     CreateFrame(owner_);
     CreateMenuBar();
     for (size_t index = 0; index < controls_.size(); ++index) controls_[index]->Create(static_cast<int>(index) + 100);
+    // Pages lie on the tab control that was declared before them, and everything else on the pages.
+    for (auto control = controls_.rbegin(); control != controls_.rend(); ++control)
+        if ((*control)->LiesBehind())
+            SetWindowPos((*control)->Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ApplyFont();
     ApplyDesignSize();
     Form_Load();
@@ -65,7 +70,7 @@ void Form::Load() {
 
 void Form::CreateFrame(HWND owner) {
     RegisterWindowClass(design_.Name, &Form::WindowProcedure);
-    const DWORD exStyle = design_.Frame == Border::Dialog ? WS_EX_DLGMODALFRAME : 0;
+    const DWORD exStyle = design_.Frame == Border::Sizable ? 0 : WS_EX_DLGMODALFRAME;
     loadedForms.push_back(this);
     unloaded_ = false;
     HWND window = CreateWindowExW(exStyle, design_.Name, L"", StyleOf(design_), CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
@@ -96,15 +101,20 @@ void Form::ApplyFont() {
 }
 
 void Form::ApplyDesignSize() {
-    int width = design_.Width;
-    int height = design_.Height;
-    if (design_.Frame == Border::Dialog) {
-        const FrameSize excess = ExcessFrame();
-        width += ToTwips(excess.Width, dpi_);
-        height += ToTwips(excess.Height, dpi_);
-    }
-    OuterSize(width, height);
+    const Twips size = DesignSize();
+    OuterSize(size.Width, size.Height);
     Center(owner_);
+}
+
+Twips Form::DesignSize() const {
+    if (design_.Frame == Border::Sizable) return {0, 0, design_.Width, design_.Height};
+    const FrameSize excess = ExcessFrame();
+    return {0, 0, design_.Width + ToTwips(excess.Width, dpi_), design_.Height + ToTwips(excess.Height, dpi_)};
+}
+
+void Form::LimitSize(MINMAXINFO& limits) const {
+    const Twips least = DesignSize();
+    limits.ptMinTrackSize = {ToPixels(least.Width, dpi_), ToPixels(least.Height, dpi_)};
 }
 
 FrameSize Form::ExcessFrame() const {
@@ -134,6 +144,12 @@ Twips Form::LayoutSize() const {
     const FrameSize excess = ExcessFrame();
     return {0, 0, ToTwips(outer.right - outer.left - excess.Width, dpi_),
             ToTwips(outer.bottom - outer.top - excess.Height, dpi_)};
+}
+
+Twips Form::InnerSize() const {
+    RECT client{};
+    GetClientRect(window_, &client);
+    return {0, 0, ToTwips(client.right, dpi_), ToTwips(client.bottom, dpi_)};
 }
 
 void Form::Center(HWND over) {

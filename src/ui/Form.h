@@ -13,8 +13,9 @@ class Timer;
 
 /// The frame of a form.
 enum class Border {
-    Sizable, ///< resizable, with minimise and maximise boxes; the size in twips is the outer one
-    Dialog,  ///< fixed; grows by what today's frame is larger than the classic one, so that its contents fit
+    Sizable,       ///< resizable, with minimise and maximise boxes; the size in twips is the outer one and the minimum
+    Dialog,        ///< fixed; grows by what today's frame is larger than the classic one, so that its contents fit
+    SizableDialog, ///< the same, but resizable; the design size is the minimum
 };
 
 /// Name (also the window class), outer size in twips (caption and menu bar included) and frame of a form.
@@ -58,6 +59,8 @@ public:
     void OuterSize(int width, int height);
     /// The outer size less what today's frame is larger than the classic one: the size that layouts count with.
     Twips LayoutSize() const;
+    /// The size of the area inside the frame, in twips.
+    Twips InnerSize() const;
 
     /// The form that owns a window, or null when the window is not one of ours.
     static Form* FromWindow(HWND window);
@@ -93,6 +96,8 @@ private:
     void ApplyDesignSize();
     void FocusFirst();
     FrameSize ExcessFrame() const;
+    Twips DesignSize() const;
+    void LimitSize(MINMAXINFO& limits) const;
 
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Dispatch(UINT message, WPARAM wParam, LPARAM lParam);

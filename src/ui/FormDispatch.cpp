@@ -73,6 +73,10 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         if (!Busy::Now()) CloseAsByUser();
         return 0;
     case kDpiChanged: OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
+    case WM_GETMINMAXINFO:
+        if (design_.Frame == Border::Dialog) break;
+        LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
+        return 0;
     case DM_GETDEFID: return DefaultIdentifier();
     case WM_NCDESTROY:
         Forget(this);

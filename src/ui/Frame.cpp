@@ -4,3 +4,8 @@ void Frame::Move(const Twips& place) {
     Control::Move(place);
     for (const Control* content : contents_) content->PlaceWindow();
 }
+
+void Frame::Visible(bool visible) {
+    Control::Visible(visible);
+    for (Control* content : contents_) content->Visible(visible);
+}

@@ -1,5 +1,6 @@
 #include "ui/Label.h"
 
+#include <cstdlib>
 #include <utility>
 
 Label::Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index)
@@ -11,8 +12,23 @@ void Label::OnCommand(WORD notification) {
     if (notification == STN_CLICKED || notification == STN_DBLCLK) Raise(L"Click", click_);
 }
 
+namespace {
+
+int Brightness(COLORREF color) { return GetRValue(color) * 3 + GetGValue(color) * 6 + GetBValue(color); }
+
+/// The system's colour for links, unless a theme has made it unreadable on a form.
+COLORREF LinkColor() {
+    constexpr COLORREF kBlue = RGB(0, 0x66, 0xCC);
+    constexpr int kReadable = 1000; // of the 2550 between black and white
+    const COLORREF system = GetSysColor(COLOR_HOTLIGHT);
+    const int distance = Brightness(system) - Brightness(GetSysColor(COLOR_BTNFACE));
+    return std::abs(distance) >= kReadable ? system : kBlue;
+}
+
+} // namespace
+
 HBRUSH LinkLabel::OnColor(HDC canvas) {
-    SetTextColor(canvas, GetSysColor(COLOR_HOTLIGHT));
+    SetTextColor(canvas, LinkColor());
     SetBkMode(canvas, TRANSPARENT);
     return GetSysColorBrush(COLOR_BTNFACE);
 }

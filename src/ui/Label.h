@@ -10,11 +10,13 @@ public:
     template <class F>
     Label(F* form, const wchar_t* name, Twips place, void (F::*click)())
         : Label(form, name, place, Bind(form, click), nullptr) {}
+    /// A label inside a frame.
+    Label(Form* form, Frame& container, const wchar_t* name, Twips place)
+        : Label(form, name, place, Action{}, &container) {}
     /// An element of a control array inside a frame; its handler gets its index.
     template <class F>
     Label(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
-        : Label(
-              form, name, place, [form, click, index] { (form->*click)(index); }, &container, index) {}
+        : Label(form, name, place, BindElement(form, click, index), &container, index) {}
 
 protected:
     Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index = 0);

@@ -1,0 +1,57 @@
+#include "dialogs/frmLocations.h"
+
+#include "i18n/modLangues.h"
+#include "settings/IniLib.h"
+#include "settings/UserStore.h"
+#include "settings/modFolderFileExists.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+#include "support/Text.h"
+#include "ui/CommonDialogs.h"
+
+frmLocations::frmLocations() : Form({L"frmLocations", 5940, 1875}) {}
+
+void frmLocations::Form_Activate() try {
+    // Coming back from the file dialog or a message is no new beginning.
+    if (isActivated_) return;
+    isActivated_ = true;
+    Caption(LangText[122]);
+    Label1.Text(LangText[122] + L":");
+    cmdOK.Text(LangText[1]);
+    cmdCancel.Text(LangText[2]);
+    cmdBrowse.Text(L"...");
+    pathAtActivation_ = IniLib::SettingsFile();
+    txtPath.Text(pathAtActivation_);
+    txtPath.SelectAll();
+} catch (...) {
+    ErrorReport(L"frmLocations: Sub Form_Activate");
+}
+
+void frmLocations::cmdBrowse_Click() try {
+    std::wstring folder = Text::ExtractPath(txtPath.Text());
+    if (folder.empty()) folder = Application::Folder();
+    pickedFile_ = PickFile(Handle(), L"ini Files (*.ini)|*.ini", folder).value_or(pickedFile_);
+    txtPath.Text(pickedFile_);
+} catch (...) {
+    ErrorReport(L"frmLocations: Sub cmdBrowse_Click");
+}
+
+void frmLocations::cmdOK_Click() try {
+    const std::wstring path = txtPath.Text();
+    if (!modFolderFileExists::FileExists(path)) {
+        MsgBox(L"Invalid file specified!");
+        txtPath.SetFocus();
+        return;
+    }
+    UserStore::Set(L"Settings", L"IniLocation", path);
+    if (path != pathAtActivation_) {
+        IniLib::SettingsFile(path);
+        locationChanged_ = true;
+    }
+    Unload();
+} catch (...) {
+    ErrorReport(L"frmLocations: Sub cmdOK_Click");
+}
+
+void frmLocations::cmdCancel_Click() { Unload(); }

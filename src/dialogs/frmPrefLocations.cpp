@@ -1,0 +1,77 @@
+#include "dialogs/frmPrefLocations.h"
+
+#include "i18n/modLangues.h"
+#include "settings/Database.h"
+#include "settings/IniLib.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+#include "ui/CommonDialogs.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int kFirstRowText = 109; // the row texts follow one another in the order of LocationNames
+constexpr int kTypeColumn = 2100;  // twips
+constexpr int kLocationCount = static_cast<int>(LocationNames.size());
+
+const wchar_t* KeyOf(int row) { return LocationNames.at(static_cast<size_t>(row)); }
+
+} // namespace
+
+frmPrefLocations::frmPrefLocations(std::wstring currentName, std::wstring typedName)
+    : Form({L"frmPrefLocations", 7200, 4500, Border::SizableDialog}), currentName_(std::move(currentName)),
+      typedName_(std::move(typedName)) {}
+
+void frmPrefLocations::Form_Load() try {
+    Caption(LangText[124]);
+    cmdOK.Text(LangText[1]);
+    cmdCancel.Text(LangText[2]);
+    cmdEditlocation.Text(LangText[125] + L"...");
+    cmdClear.Text(L"Clear");
+    lvwPref.AddColumn(LangText[147], kTypeColumn);
+    lvwPref.AddColumn(LangText[148], lvwPref.Place().Width - kTypeColumn - 120);
+    for (int row = 0; row < kLocationCount; ++row) {
+        lvwPref.Add(LangText[kFirstRowText + row]);
+        lvwPref.Cell(row, 1, IniLib::GetKeyValue(currentName_, KeyOf(row)));
+    }
+    lvwPref.Select(0);
+} catch (...) {
+    ErrorReport(L"frmPrefLocations: Sub Form_Load");
+}
+
+void frmPrefLocations::Form_Resize() {
+    const Twips inner = InnerSize();
+    for (CommandButton* button : {&cmdOK, &cmdCancel, &cmdEditlocation, &cmdClear}) {
+        const Twips place = button->Place();
+        button->Move({inner.Width - 1450, place.Top, place.Width, place.Height});
+    }
+    const Twips list = lvwPref.Place();
+    lvwPref.Move({list.Left, list.Top, inner.Width - 2000, inner.Height - 1000});
+}
+
+void frmPrefLocations::lvwPref_DblClick() { cmdEditlocation_Click(); }
+
+void frmPrefLocations::cmdEditlocation_Click() {
+    const int row = lvwPref.Selected();
+    if (row < 0) return;
+    if (const auto folder = PickFolder(Handle(), lvwPref.Cell(row, 1))) lvwPref.Cell(row, 1, *folder);
+}
+
+void frmPrefLocations::cmdClear_Click() try {
+    const int row = lvwPref.Selected();
+    if (row < 0 || !AskYesNo(LangText[149] + lvwPref.Cell(row, 0) + L"?")) return;
+    IniLib::DeleteKey(currentName_, KeyOf(row));
+    lvwPref.Cell(row, 1, {});
+} catch (...) {
+    ErrorReport(L"frmPrefLocations: Sub cmdClear_Click");
+}
+
+void frmPrefLocations::cmdOK_Click() try {
+    for (int row = 0; row < kLocationCount; ++row) IniLib::WriteKeyValue(typedName_, KeyOf(row), lvwPref.Cell(row, 1));
+    Unload();
+} catch (...) {
+    ErrorReport(L"frmPrefLocations: Sub cmdOK_Click");
+}
+
+void frmPrefLocations::cmdCancel_Click() { Unload(); }

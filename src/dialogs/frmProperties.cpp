@@ -1,0 +1,187 @@
+#include "dialogs/frmProperties.h"
+
+#include "dialogs/frmPrefLocations.h"
+#include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "settings/IniLib.h"
+#include "settings/RegistrySubs.h"
+#include "settings/UserStore.h"
+#include "settings/modEnCrypt.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+#include "support/Text.h"
+#include "ui/CommonDialogs.h"
+
+#include <algorithm>
+
+namespace {
+
+enum Tab { General, Locations, Logon };
+enum LocationChoice { FromOther, Specific };
+
+/// One browse button: what it offers, where it starts, and the box that it fills.
+struct BrowseTarget {
+    const wchar_t* Filter;
+    long StartKind;
+    TextBox frmProperties::*Box;
+};
+
+constexpr BrowseTarget kBrowseTargets[] = {
+    {L"Contact Layouts (*.cly)|*.cly", DefaultLocation::Layouts, &frmProperties::txtCL},
+    {L"Group Layouts (*.gly)|*.gly", DefaultLocation::Layouts, &frmProperties::txtGL},
+    {L"Macros (*.mpr)|*.mpr|Programs (*.exe)|*.exe", DefaultLocation::Macros, &frmProperties::txtMacro},
+    {L"ACT! Database (*.dbf)|*.dbf", DefaultLocation::Databases, &frmProperties::txtPath},
+};
+
+bool IsChecked(const std::wstring& name, const wchar_t* key) {
+    return Text::WholeNumber(UserStore::Get(name, key)).value_or(0) != 0;
+}
+
+} // namespace
+
+frmProperties::frmProperties(MainWindow* mainWindow) : Form({L"frmProperties", 6990, 4980}), mainWindow_(mainWindow) {}
+
+std::wstring frmProperties::GetACTSetting(int index) {
+    const std::wstring name = std::wstring(LocationNames.at(static_cast<size_t>(index))) + L" File Type";
+    const auto value = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, L"Software\\Symantec\\ACT!", name);
+    const auto* folder = std::get_if<std::wstring>(&value);
+    return folder ? *folder : std::wstring();
+}
+
+void frmProperties::Form_Load() try {
+    ProgramState& program = Program();
+    cancelled_ = false;
+    if (isNew_) program.FriendlyName.clear();
+    OldName_ = program.FriendlyName;
+    SetCaptions();
+    ShowPage(Tab::General);
+    if (!OldName_.empty()) LoadRecord();
+    txtPassword.Enabled(chkPassword.Value());
+    LoadLocations();
+} catch (...) {
+    ErrorReport(L"frmProperties: Sub Form_Load");
+}
+
+void frmProperties::SetCaptions() {
+    Caption(OldName_.empty() ? LangText[83] : LangText[83] + L": " + OldName_);
+    Label1.Text(LangText[84] + L":");
+    Label2.Text(LangText[85] + L":");
+    Label3.Text(LangText[86] + L":");
+    Label4.Text(LangText[92] + L":");
+    Label5.Text(LangText[91] + L":");
+    for (const int row : {131, 132, 133}) mstOptions.AddTab(LangText[row]);
+    optLocations[FromOther].Text(LangText[134]);
+    optLocations[Specific].Text(LangText[135]);
+    cmdEditLocations.Text(LangText[124] + L"...");
+    lblUsername.Text(LangText[136] + L":");
+    chkPassword.Text(LangText[137] + L":");
+    chkNotAtACTLaunch.Text(LangText[152]);
+    cmdOK.Text(LangText[1]);
+    cmdCancel.Text(LangText[2]);
+    for (CommandButton* browse : {&cmdBrowse0, &cmdBrowse1, &cmdBrowse2, &cmdBrowse3}) browse->Text(L"...");
+}
+
+void frmProperties::LoadRecord() {
+    const DatabaseRecord record = ExtractInfo(OldName_);
+    txtName.Text(OldName_);
+    txtPath.Text(record.Path);
+    txtCL.Text(record.ContactLayout);
+    txtGL.Text(record.GroupLayout);
+    txtMacro.Text(record.OpeningMacro);
+    txtUsername.Text(UserStore::Get(OldName_, L"Username"));
+    txtPassword.Text(modEnCrypt::DecryptText(UserStore::Get(OldName_, L"Password"), Application::Title));
+    chkPassword.Value(IsChecked(OldName_, L"UsePassword"));
+    chkNotAtACTLaunch.Value(IsChecked(OldName_, L"NoPasswordAtACTStartup"));
+}
+
+void frmProperties::LoadLocations() {
+    for (const std::wstring& name : Program().DatabaseNames)
+        if (name != OldName_) cboDB.AddItem(name);
+    const std::wstring lender = OldName_.empty() ? L"" : IniLib::GetKeyValue(OldName_, L"UseLocationsFrom");
+    optLocations[lender.empty() ? Specific : FromOther].Value(true);
+    if (!lender.empty()) cboDB.Select(lender);
+}
+
+void frmProperties::Form_Activate() {
+    if (Program().AskForUsername) {
+        ShowTab(Tab::Logon);
+        txtUsername.SetFocus();
+    }
+}
+
+void frmProperties::ShowTab(int tab) {
+    if (tab == mstOptions.Tab()) SkipTabCheck_ = false;
+    mstOptions.Tab(tab);
+}
+
+void frmProperties::ShowPage(int tab) {
+    Frame* const pages[] = {&fraGeneral, &fraLocations, &fraLogon};
+    for (int page = 0; page < 3; ++page) pages[page]->Visible(page == tab);
+}
+
+void frmProperties::mstOptions_Click(int previousTab) {
+    ShowPage(mstOptions.Tab());
+    if (previousTab == Tab::General && !SkipTabCheck_) NameValid_ = Check_Name();
+    SkipTabCheck_ = false;
+}
+
+bool frmProperties::Check_Name() {
+    txtName.Text(Text::Trim(txtName.Text()));
+    const std::wstring name = txtName.Text();
+    bool isTaken = false;
+    if (name != OldName_) {
+        Program().DatabaseNames = DatabaseList::ReadSort();
+        isTaken = std::ranges::count(Program().DatabaseNames, name) > 0;
+    }
+    if (name.empty() || isTaken) return RefuseName();
+    if (txtPath.Text().empty()) {
+        // Reported, but not refused.
+        MsgBox(LangText[123]);
+        ShowTab(Tab::General);
+        txtPath.SetFocus();
+    }
+    if (!txtCL.Text().empty()) return true;
+    MsgBox(LangText[93]);
+    ShowTab(Tab::General);
+    txtCL.SetFocus();
+    return false;
+}
+
+bool frmProperties::RefuseName() {
+    txtName.Text(OldName_);
+    MsgBox(LangText[121], MsgIcon::Exclamation);
+    SkipTabCheck_ = true;
+    ShowTab(Tab::General);
+    txtName.SetFocus();
+    txtName.SelectAll();
+    return false;
+}
+
+void frmProperties::cboDB_Click() {
+    optLocations[FromOther].Value(true);
+    optLocations[Specific].Value(false);
+}
+
+void frmProperties::chkPassword_Click() { txtPassword.Enabled(chkPassword.Value()); }
+
+void frmProperties::cmdBrowse_Click(int index) try {
+    const BrowseTarget& target = kBrowseTargets[index];
+    TextBox& box = this->*target.Box;
+    const std::wstring folder =
+        mainWindow_ ? Program().Preferences.GetDefaultLocation(target.StartKind) : Text::ExtractPath(box.Text());
+    if (const auto file = PickFile(Handle(), target.Filter, folder)) box.Text(*file);
+} catch (...) {
+    ErrorReport(L"frmProperties: Sub cmdBrowse_Click");
+}
+
+void frmProperties::cmdEditLocations_Click() try {
+    frmPrefLocations(Program().FriendlyName, Text::Trim(txtName.Text())).ShowModal();
+} catch (...) {
+    ErrorReport(L"frmProperties: Sub cmdEditLocations_Click");
+}
+
+void frmProperties::cmdCancel_Click() {
+    cancelled_ = true;
+    Unload();
+}

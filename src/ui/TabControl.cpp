@@ -1,0 +1,30 @@
+#include "ui/TabControl.h"
+
+#include <utility>
+
+TabControl::TabControl(Form* form, const wchar_t* name, Twips place, IndexAction click)
+    : Control(form, name, place, {WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP}), click_(std::move(click)) {}
+
+void TabControl::AddTab(const std::wstring& caption) {
+    std::wstring text = caption;
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text.data();
+    const auto count = static_cast<WPARAM>(SendMessageW(Handle(), TCM_GETITEMCOUNT, 0, 0));
+    SendMessageW(Handle(), TCM_INSERTITEMW, count, reinterpret_cast<LPARAM>(&item));
+}
+
+void TabControl::Tab(int tab) {
+    if (tab == tab_) return;
+    SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(tab), 0);
+    const int previous = std::exchange(tab_, tab);
+    Raise(L"Click", [this, previous] { click_(previous); });
+}
+
+LRESULT TabControl::OnNotify(NMHDR& header) {
+    if (header.code == TCN_SELCHANGE) {
+        const int previous = std::exchange(tab_, static_cast<int>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0)));
+        Raise(L"Click", [this, previous] { click_(previous); });
+    }
+    return 0;
+}

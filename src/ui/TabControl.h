@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <string>
+
+/// A row of tabs. Showing the page that belongs to the selected one is up to its form.
+class TabControl : public Control {
+public:
+    /// The handler gets the tab that is left.
+    template <class F>
+    TabControl(F* form, const wchar_t* name, Twips place, void (F::*click)(int previousTab))
+        : TabControl(static_cast<Form*>(form), name, place, Bind(form, click)) {}
+
+    void AddTab(const std::wstring& caption);
+    /// The selected tab, from 0.
+    int Tab() const { return tab_; }
+    /// Selects a tab and runs the handler as a click does; the tab that is selected already runs nothing.
+    void Tab(int tab);
+
+private:
+    TabControl(Form* form, const wchar_t* name, Twips place, IndexAction click);
+    LRESULT OnNotify(NMHDR& header) override;
+    bool LiesBehind() const override { return true; }
+
+    IndexAction click_;
+    int tab_ = 0;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/Control.h"
+
+/// A box for one line of text.
+class TextBox : public Control {
+public:
+    enum class Kind { Plain, Password };
+
+    TextBox(Form* form, const wchar_t* name, Twips place) : TextBox(form, name, place, Kind::Plain, nullptr) {}
+    TextBox(Form* form, Frame& container, const wchar_t* name, Twips place, Kind kind = Kind::Plain)
+        : TextBox(form, name, place, kind, &container) {}
+
+    void SelectAll();
+
+private:
+    TextBox(Form* form, const wchar_t* name, Twips place, Kind kind, Frame* container);
+    void OnCreated() override;
+};
