@@ -107,8 +107,9 @@ void frmMain::Form_Resize() {
 
 void frmMain::LayOut(int width, int height) {
     const int growth = height - kDesignHeight;
-    Line1.Move({0, 0, width, 15});
-    Line2.Move({0, 15, width, 15});
+    const int inner = InnerSize().Width;
+    Line1.Move({0, 0, inner, 15});
+    Line2.Move({0, 15, inner, 15});
     ListView1.Move({120, 120, width - 1980, height - 2775});
     Frame1.Move({120, 2715 + growth, width - 1980, 1290});
     cmdOpen.Move({width - 1375, 120, 1135, 345});

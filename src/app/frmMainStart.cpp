@@ -24,7 +24,7 @@
 namespace {
 
 constexpr wchar_t kAlreadyRunning[] = L"An instance of this program is already running!";
-constexpr int kColumnWidths[] = {1290, 1290, 1290, 1290, 1275}; // twips
+constexpr int kColumnWidths[] = {1125, 1230, 1290, 1380, 1380}; // twips
 constexpr long kWidestColumn = 100000;                          // twips; more is garbage
 
 short StoredLanguage() {

@@ -1,77 +1,11 @@
-// What the main window looks like: places, captions, nothing cut off.
+// How the main window follows its size and its labels.
 
-#include "i18n/modLangues.h"
-#include "settings/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
+#include "support/Look.h"
 #include "support/Wide.h"
 
 #include <algorithm>
-
-namespace {
-
-/// Width in pixels of a control's caption in its own font, access key marker not counted.
-int CaptionWidth(HWND window) {
-    HDC canvas = GetDC(window);
-    const HGDIOBJ before = SelectObject(canvas, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
-    const std::wstring text = WindowText(window);
-    RECT extent{};
-    DrawTextW(canvas, text.c_str(), -1, &extent, DT_CALCRECT | DT_SINGLELINE);
-    SelectObject(canvas, before);
-    ReleaseDC(window, canvas);
-    return extent.right;
-}
-
-RECT PlaceOf(HWND control) {
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
-struct Overflow {
-    std::wstring Found;
-};
-
-BOOL CALLBACK CheckCaption(HWND control, LPARAM parameter) {
-    wchar_t className[32]{};
-    GetClassNameW(control, className, 32);
-    const std::wstring kind = className;
-    const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
-    const bool isOption = kind == L"Button" && (style & BS_TYPEMASK) == BS_AUTORADIOBUTTON; // captioned by its label
-    if ((kind != L"Static" && kind != L"Button") || isOption) return TRUE;
-    const RECT place = PlaceOf(control);
-    const int margin = kind == L"Button" ? 8 : 0;
-    if (CaptionWidth(control) + margin > place.right - place.left)
-        reinterpret_cast<Overflow*>(parameter)->Found += WindowText(control) + L": " +
-                                                         std::to_wstring(CaptionWidth(control)) + L" in " +
-                                                         std::to_wstring(place.right - place.left) + L"; ";
-    return TRUE;
-}
-
-} // namespace
-
-TEST_CASE("No caption of the main window is cut off in any language, and nothing leaves the window") {
-    for (const short language : {short{0}, short{1}, short{2}}) {
-        ActDesk desk;
-        UserStore::Set(L"Options", L"Language", std::to_wstring(language));
-        frmMain window;
-        window.Load();
-        Overflow overflow;
-        EnumChildWindows(window.Handle(), &CheckCaption, reinterpret_cast<LPARAM>(&overflow));
-        CHECK(overflow.Found == L"");
-        RECT client{};
-        GetClientRect(window.Handle(), &client);
-        for (const Control* control :
-             std::initializer_list<const Control*>{&window.lblLink, &window.lblMore, &window.cmdOpen, &window.Frame1}) {
-            const RECT place = PlaceOf(control->Handle());
-            CHECK(place.right <= client.right);
-            CHECK(place.bottom <= client.bottom);
-        }
-        End(window);
-    }
-    modLangues::Init_Language(short{0});
-}
 
 TEST_CASE("Growing the window grows the list and keeps the distances to the right and lower edge") {
     ActDesk desk;

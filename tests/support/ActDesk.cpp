@@ -1,5 +1,6 @@
 #include "support/ActDesk.h"
 
+#include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "settings/IniLib.h"
 #include "settings/UserStore.h"
@@ -9,6 +10,8 @@
 ActDesk::ActDesk() : file_(L"Kelmorra.ini") {
     Program() = ProgramState();
     SilenceMessages(false);
+    file_.Bytes(" \r\n");
+    modLangues::Init_Language(short{0});
     IniLib::SettingsFile(file_.Path());
     UserStore::Set(L"Settings", L"IniLocation", file_.Path());
     UserStore::Set(L"Settings", L"Installed", L"1");

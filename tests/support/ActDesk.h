@@ -19,6 +19,8 @@ public:
     /// Adds a database with the given keys to the settings file, at the end of the list.
     void AddDatabase(const std::wstring& name, std::initializer_list<std::pair<const wchar_t*, std::wstring>> keys);
     std::wstring SettingsFile() const { return file_.Path(); }
+    /// The settings file as it lies on disk.
+    std::string SettingsBytes() const { return file_.Bytes(); }
 
 private:
     ScratchRegistry registry_;

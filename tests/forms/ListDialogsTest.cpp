@@ -1,0 +1,190 @@
+// List maintenance, preference locations and the settings file's place.
+
+#include "dialogs/frmListMaintenance.h"
+#include "dialogs/frmLocations.h"
+#include "dialogs/frmPrefLocations.h"
+#include "i18n/modLangues.h"
+#include "settings/IniLib.h"
+#include "settings/UserStore.h"
+#include "support/ActDesk.h"
+#include "support/DialogScript.h"
+#include "support/Wide.h"
+
+namespace {
+
+class SelectedRow : public MainWindow {
+public:
+    explicit SelectedRow(int row) : Row(row) {}
+    int SelectedIndex() const override { return Row; }
+    void SelectedIndex(int index) override { Row = index; }
+    void ReplaceRow(const std::wstring&) override {}
+    int Row;
+};
+
+std::wstring Sort() { return IniLib::GetKeyValue(L"General", L"Sort"); }
+
+void Press(HWND dialog, const wchar_t* name) {
+    HWND button = FindControl(dialog, name);
+    SendMessageW(GetParent(button), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(button), BN_CLICKED),
+                 reinterpret_cast<LPARAM>(button));
+}
+
+bool IsEnabled(HWND dialog, const wchar_t* name) { return IsWindowEnabled(FindControl(dialog, name)) != FALSE; }
+
+LRESULT Selected(HWND dialog) { return SendMessageW(FindControl(dialog, L"lstDB"), LB_GETCURSEL, 0, 0); }
+
+/// Shows the list dialog over a list of A, B and C and plays one step in it. Returns what the main window selects.
+int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
+             const std::function<void(HWND)>& inner = {}) {
+    for (const wchar_t* name : {L"A", L"B", L"C"}) {
+        desk.AddDatabase(name, {{L"Path", L"x"}});
+        UserStore::Set(name, L"Username", L"Chris");
+    }
+    SelectedRow row(selected);
+    DialogScript script;
+    script.Then(step);
+    if (inner) script.Then(inner);
+    frmListMaintenance(row).ShowModal();
+    return row.Row;
+}
+
+} // namespace
+
+TEST_CASE("Moves are written when the dialog closes, in any way, and the moved line stays selected") {
+    ActDesk desk;
+    const int selected = Maintain(desk, 2, [](HWND dialog) {
+        CHECK(WindowText(dialog) == L"Manage List");
+        CHECK(IsEnabled(dialog, L"cmdUp"));
+        CHECK_FALSE(IsEnabled(dialog, L"cmdDown"));
+        Press(dialog, L"cmdUp");
+        Press(dialog, L"cmdUp");
+        CHECK_FALSE(IsEnabled(dialog, L"cmdUp"));
+        CHECK(Sort() == L"A;B;C");
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    CHECK(Sort() == L"C;A;B");
+    CHECK(selected == 0);
+}
+
+TEST_CASE("Removing clears both stores and the buttons at once and selects the line that moved up, or the first") {
+    ActDesk desk;
+    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;B;C;;;;;");
+    const int selected = Maintain(desk, 1, [](HWND dialog) {
+        Press(dialog, L"cmdRemove");
+        CHECK(Sort() == L"A;C");
+        CHECK(IniLib::GetKeyValue(L"B", L"Path").empty());
+        CHECK(UserStore::Get(L"B", L"Username").empty());
+        CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitch") == L"A;C;;;;;");
+        CHECK(Selected(dialog) == 1);
+        Press(dialog, L"cmdRemove");
+        CHECK(Selected(dialog) == 0);
+        CHECK_FALSE(IsEnabled(dialog, L"cmdUp"));
+        CHECK_FALSE(IsEnabled(dialog, L"cmdDown"));
+        Press(dialog, L"cmdRemove");
+        CHECK_FALSE(IsEnabled(dialog, L"cmdRemove"));
+        Press(dialog, L"cmdClose");
+    });
+    CHECK(selected == -1);
+    CHECK(Sort().empty());
+    CHECK(IniLib::GetWholeValue(L"General", L"QuickSwitch") == L";;;;");
+}
+
+TEST_CASE("An addition keeps the moves made before it and is selected") {
+    ActDesk desk;
+    Maintain(
+        desk, 0,
+        [](HWND dialog) {
+            Press(dialog, L"cmdDown");
+            Press(dialog, L"cmdAdd"); // returns when the properties dialog has ended
+            CHECK(Selected(dialog) == 3);
+            Click(FindControl(dialog, L"cmdClose"));
+        },
+        [](HWND properties) {
+            const std::pair<const wchar_t*, const wchar_t*> texts[] = {
+                {L"txtName", L"New"}, {L"txtPath", L"p"}, {L"txtCL", L"c"}, {L"txtUsername", L"u"}};
+            for (const auto& [box, text] : texts) SetWindowTextW(FindControl(properties, box), text);
+            Click(FindControl(properties, L"cmdOK"));
+        });
+    CHECK(Sort() == L"B;A;C;New");
+}
+
+TEST_CASE("Locations load and clear under the opened name and are written under the typed one") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {{L"Attached Email", L"C:\\Mail"}, {L"Spelling Dictionary", L"C:\\Words"}});
+    DialogScript script;
+    script.Then([](HWND dialog) {
+        Press(dialog, L"cmdClear"); // the first row is selected
+        Click(FindControl(dialog, L"cmdOK"));
+    });
+    script.Answer(IDYES);
+    frmPrefLocations(L"Sales", L"Leads").ShowModal();
+    CHECK(script.All()[1].Text == L"Are you sure you want to clear the location: Attached E-mail?");
+    CHECK(IniLib::GetKeyValue(L"Sales", L"Attached Email").empty());
+    CHECK(IniLib::GetKeyValue(L"Sales", L"Spelling Dictionary") == L"C:\\Words");
+    CHECK(IniLib::GetKeyValue(L"Leads", L"Spelling Dictionary") == L"C:\\Words");
+    CHECK(desk.SettingsBytes().find("Attached Email=\r\n") != std::string::npos); // written, though empty
+}
+
+TEST_CASE("Clear followed by Cancel stays cleared; No and a database without a name change nothing") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {{L"Attached Email", L"C:\\Mail"}});
+    for (const int answer : {IDNO, IDYES}) {
+        DialogScript script;
+        script.Then([](HWND dialog) {
+            Press(dialog, L"cmdClear");
+            Click(FindControl(dialog, L"cmdCancel"));
+        });
+        script.Answer(answer);
+        frmPrefLocations(L"Sales", L"Sales").ShowModal();
+        CHECK(IniLib::GetKeyValue(L"Sales", L"Attached Email").empty() == (answer == IDYES));
+    }
+    const std::string before = desk.SettingsBytes();
+    DialogScript script;
+    script.Then([](HWND dialog) { Click(FindControl(dialog, L"cmdOK")); });
+    frmPrefLocations(L"", L"").ShowModal();
+    CHECK(desk.SettingsBytes() == before);
+}
+
+TEST_CASE("Another settings file is taken over only when it exists and differs, letter case included") {
+    struct Case {
+        std::wstring typed;
+        bool isRefused;
+        bool isChange;
+    };
+    ActDesk desk;
+    const std::wstring current = desk.SettingsFile();
+    std::wstring shouted = current;
+    shouted.replace(shouted.size() - 12, 12, L"KELMORRA.INI");
+    const std::wstring folder = current.substr(0, current.rfind(L'\\'));
+    for (const Case& test : {Case{current, false, false}, Case{shouted, false, true}, Case{folder, false, true},
+                             Case{L"C:\\No such.ini", true, false}, Case{L"", true, false}}) {
+        IniLib::SettingsFile(current);
+        UserStore::Set(L"Settings", L"IniLocation", current);
+        frmLocations dialog;
+        DialogScript script;
+        script.Then([&](HWND window) {
+            SetWindowTextW(FindControl(window, L"txtPath"), test.typed.c_str());
+            Press(window, L"cmdOK");
+            if (test.isRefused) Click(FindControl(window, L"cmdCancel"));
+        });
+        if (test.isRefused) script.Answer(IDOK);
+        dialog.ShowModal();
+        if (test.isRefused) CHECK(script.All()[1].Text == L"Invalid file specified!");
+        CHECK(dialog.LocationChanged() == test.isChange);
+        CHECK(UserStore::Get(L"Settings", L"IniLocation") == (test.isRefused ? current : test.typed));
+        CHECK(IniLib::SettingsFile() == (test.isRefused ? current : test.typed));
+    }
+}
+
+TEST_CASE("Cancelling the first browse for a settings file empties the box, as it always has") {
+    ActDesk desk;
+    DialogScript script;
+    script.Then([](HWND window) {
+        Press(window, L"cmdBrowse");
+        CHECK(WindowText(FindControl(window, L"txtPath")).empty());
+        Click(FindControl(window, L"cmdCancel"));
+    });
+    script.Then([](HWND fileDialog) { PostMessageW(fileDialog, WM_COMMAND, IDCANCEL, 0); });
+    frmLocations().ShowModal();
+    CHECK(IniLib::SettingsFile() == desk.SettingsFile());
+}

@@ -1,0 +1,93 @@
+// Every window in every language: no caption cut off, nothing over the edge. With KELMORRA_PICTURES set, a picture of
+// each.
+
+#include "support/Look.h"
+#include "dialogs/frmListMaintenance.h"
+#include "dialogs/frmLocations.h"
+#include "dialogs/frmPrefLocations.h"
+#include "dialogs/frmProperties.h"
+#include "i18n/frmLanguage.h"
+#include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "settings/UserStore.h"
+#include "support/ActDesk.h"
+#include "support/DialogScript.h"
+#include "support/Wide.h"
+
+namespace {
+
+void FillDesk(ActDesk& desk) {
+    desk.Act.Texts[L"GetOpenDBName"] = L"C:\\Data\\Service.dbf";
+    desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Data\\Sales.dbf"},
+                                {L"CLY", L"C:\\Act\\Layout\\Telephone.cly"},
+                                {L"GLY", L"C:\\Act\\Layout\\Teams.gly"},
+                                {L"StartupMacro", L"C:\\Act\\Macro\\Morning.mpr"},
+                                {L"Document", L"C:\\Data\\Letters"}});
+    desk.AddDatabase(L"Service", {{L"Path", L"C:\\Data\\Service.dbf"}, {L"CLY", L"D:\\Layouts\\Service.cly"}});
+    desk.AddDatabase(L"Staff", {{L"Path", L"C:\\Data\\Staff.dbf"}, {L"UseLocationsFrom", L"Sales"}});
+    UserStore::Set(L"Sales", L"Username", L"Chris Huffman");
+    UserStore::Set(L"Display", L"Selected", L"0");
+}
+
+/// Looks at a window that has come up: language and DPI go into the picture's name.
+void Inspect(HWND window, const wchar_t* name) {
+    CHECK(CutCaptions(window) == L"");
+    CHECK(ControlsOutside(window) == L"");
+    constexpr const wchar_t* kLanguages[] = {L"en", L"fr", L"de"};
+    TakePicture(window,
+                std::wstring(name) + L"-" + kLanguages[CurrentLanguage] + L"-" + std::to_wstring(WindowDpi(window)));
+}
+
+void InspectAndCancel(HWND window, const wchar_t* name) {
+    Inspect(window, name);
+    SendMessageW(window, WM_CLOSE, 0, 0);
+}
+
+void InspectTabs(HWND window) {
+    HWND tabs = FindControl(window, L"mstOptions");
+    const wchar_t* const names[] = {L"properties-general", L"properties-locations", L"properties-logon"};
+    for (int tab = 0; tab < 3; ++tab) {
+        NMHDR change{tabs, 0, TCN_SELCHANGE};
+        SendMessageW(tabs, TCM_SETCURSEL, static_cast<WPARAM>(tab), 0);
+        SendMessageW(window, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&change));
+        Inspect(window, names[tab]);
+    }
+    SendMessageW(window, WM_CLOSE, 0, 0);
+}
+
+} // namespace
+
+TEST_CASE("No caption of any window is cut off in any language, and nothing reaches over an edge") {
+    for (const short language : {short{0}, short{1}, short{2}}) {
+        ActDesk desk;
+        FillDesk(desk);
+        UserStore::Set(L"Options", L"Language", std::to_wstring(language));
+        DialogScript script;
+        frmMain window;
+        window.Load();
+        Inspect(window.Handle(), L"main");
+        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"language"); });
+        window.mnuLanguages.Click();
+        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"list"); });
+        window.mnuManageList.Click();
+        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"settings-file"); });
+        window.mnuSettingsLocation.Click();
+        script.Then([](HWND dialog) { InspectTabs(dialog); });
+        window.mnuEditProperties.Click();
+        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"preference-locations"); });
+        frmPrefLocations(L"Sales", L"Sales").ShowModal();
+        End(window);
+    }
+    modLangues::Init_Language(short{0});
+}
+
+TEST_CASE("The first run's language dialog has nothing cut off") {
+    const ScratchRegistry registry;
+    modLangues::Init_Language(short{0});
+    DialogScript script;
+    script.Then([](HWND dialog) {
+        Inspect(dialog, L"language-first-run");
+        Click(FindControl(dialog, L"cmdOK"));
+    });
+    frmLanguage().ShowModal();
+}

@@ -1,0 +1,122 @@
+#include "support/Look.h"
+
+#include "support/DialogScript.h"
+#include "win32/Owner.h"
+
+#include <array>
+#include <vector>
+
+namespace {
+
+/// Width in pixels of a control's caption in its own font, access key marker not counted.
+int CaptionWidth(HWND window) {
+    HDC canvas = GetDC(window);
+    const HGDIOBJ before = SelectObject(canvas, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
+    const std::wstring text = WindowText(window);
+    RECT extent{};
+    DrawTextW(canvas, text.c_str(), -1, &extent, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(canvas, before);
+    ReleaseDC(window, canvas);
+    return extent.right;
+}
+
+/// What a control needs beside its caption: a button its edges, a box or option its mark. -1: it shows no caption.
+int CaptionMargin(HWND control) {
+    constexpr int kEdges = 8;
+    constexpr int kMark = 20;
+    std::array<wchar_t, 32> className{};
+    GetClassNameW(control, className.data(), 32);
+    const std::wstring_view kind = className.data();
+    if (kind == L"Static") return 0;
+    if (kind != L"Button") return -1;
+    const auto type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
+    const RECT place = PlaceOf(control);
+    const bool isBareMark =
+        type == BS_AUTORADIOBUTTON && place.right - place.left <= kMark * 2; // has a label beside it
+    if (isBareMark) return -1;
+    return type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX ? kMark : kEdges;
+}
+
+BOOL CALLBACK CheckCaption(HWND control, LPARAM parameter) {
+    const int margin = CaptionMargin(control);
+    const RECT place = PlaceOf(control);
+    const int room = place.right - place.left;
+    const int needed = CaptionWidth(control) + margin;
+    if (margin >= 0 && needed > room)
+        *reinterpret_cast<std::wstring*>(parameter) +=
+            WindowText(control) + L": " + std::to_wstring(needed) + L" in " + std::to_wstring(room) + L"; ";
+    return TRUE;
+}
+
+BOOL CALLBACK CheckEdges(HWND control, LPARAM parameter) {
+    RECT client{};
+    GetClientRect(GetParent(control), &client);
+    const RECT place = PlaceOf(control);
+    if (place.right > client.right || place.bottom > client.bottom || place.left < 0 || place.top < 0)
+        *reinterpret_cast<std::wstring*>(parameter) += WindowText(control) + L"; ";
+    return TRUE;
+}
+
+void WriteBitmap(const std::wstring& path, const BITMAPINFOHEADER& info, const std::vector<BYTE>& pixels) {
+    BITMAPFILEHEADER header{};
+    header.bfType = 0x4D42; // "BM"
+    header.bfOffBits = sizeof header + sizeof info;
+    header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
+    const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    DWORD written = 0;
+    WriteFile(file.Get(), &header, sizeof header, &written, nullptr);
+    WriteFile(file.Get(), &info, sizeof info, &written, nullptr);
+    WriteFile(file.Get(), pixels.data(), static_cast<DWORD>(pixels.size()), &written, nullptr);
+}
+
+} // namespace
+
+RECT PlaceOf(HWND control) {
+    RECT place{};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+std::wstring CutCaptions(HWND form) {
+    std::wstring found;
+    EnumChildWindows(form, &CheckCaption, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+std::wstring ControlsOutside(HWND form) {
+    std::wstring found;
+    for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        CheckEdges(child, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+void TakePicture(HWND window, const std::wstring& name) {
+    std::array<wchar_t, MAX_PATH> folder{};
+    if (!GetEnvironmentVariableW(L"KELMORRA_PICTURES", folder.data(), MAX_PATH)) return;
+    UpdateWindow(window);
+    const DWORD start = GetTickCount();
+    PumpUntil([start] { return GetTickCount() - start > 250; }); // the window manager draws its frame
+    RECT place{};
+    GetWindowRect(window, &place);
+    BITMAPINFOHEADER info{};
+    info.biSize = sizeof info;
+    info.biWidth = place.right - place.left;
+    info.biHeight = place.bottom - place.top;
+    info.biPlanes = 1;
+    info.biBitCount = 24;
+    HDC screen = GetDC(nullptr);
+    HDC memory = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, info.biWidth, info.biHeight);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, info.biWidth, info.biHeight, screen, place.left, place.top, SRCCOPY);
+    SelectObject(memory, before);
+    const auto bytesPerLine = (static_cast<size_t>(info.biWidth) * 3 + 3) / 4 * 4;
+    std::vector<BYTE> pixels(bytesPerLine * static_cast<size_t>(info.biHeight));
+    GetDIBits(memory, bitmap, 0, static_cast<UINT>(info.biHeight), pixels.data(), reinterpret_cast<BITMAPINFO*>(&info),
+              DIB_RGB_COLORS);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    WriteBitmap(std::wstring(folder.data()) + L"\\" + name + L".bmp", info, pixels);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "win32/Windows.h"
+
+#include <string>
+
+/// The controls of a form whose caption is wider than they are, each with both widths in pixels; "" when all fit.
+std::wstring CutCaptions(HWND form);
+
+/// The controls of a form that reach over its edge, by caption; "" when none does.
+std::wstring ControlsOutside(HWND form);
+
+/// Writes the window as it stands on the screen, with its frame, to a bitmap file of that name in the folder that the
+/// environment variable KELMORRA_PICTURES names. Does nothing when there is no such variable.
+void TakePicture(HWND window, const std::wstring& name);
+
+/// A control's place in its form, in pixels.
+RECT PlaceOf(HWND control);
