@@ -24,8 +24,9 @@
 namespace {
 
 constexpr wchar_t kAlreadyRunning[] = L"An instance of this program is already running!";
-constexpr int kColumnWidths[] = {1125, 1230, 1290, 1380, 1380}; // twips
-constexpr long kWidestColumn = 100000;                          // twips; more is garbage
+constexpr int kColumnCount = 5;
+constexpr int kDesignColumn = 1125;    // twips; wider where a title needs it
+constexpr long kWidestColumn = 100000; // twips; more is garbage
 
 short StoredLanguage() {
     const auto language = Text::WholeNumber(UserStore::Get(L"Options", L"Language"));
@@ -149,13 +150,18 @@ void frmMain::RestoreWindow() {
 }
 
 void frmMain::RestoreColumns() {
-    for (int column = 0; column < 5; ++column) {
-        if (ListView1.ColumnCount() <= column) ListView1.AddColumn({}, kColumnWidths[column]);
+    while (ListView1.ColumnCount() < kColumnCount) ListView1.AddColumn({}, kDesignColumn);
+    SetColumnTitles();
+    for (int column = 0; column < kColumnCount; ++column) {
         const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + std::to_wstring(column)));
-        if (width && *width >= 0 && *width <= kWidestColumn) ListView1.ColumnWidth(column, static_cast<int>(*width));
+        if (width && *width >= 0 && *width <= kWidestColumn) {
+            ListView1.ColumnWidth(column, static_cast<int>(*width));
+        } else if (!columnsLoaded_) {
+            ListView1.FitColumn(column);
+            ListView1.ColumnWidth(column, std::max(ListView1.ColumnWidth(column), kDesignColumn));
+        }
     }
     columnsLoaded_ = true;
-    SetColumnTitles();
 }
 
 void frmMain::CompleteFirstRun() {

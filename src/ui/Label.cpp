@@ -3,8 +3,10 @@
 #include <cstdlib>
 #include <utility>
 
-Label::Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index)
-    : Control(form, name, place, {L"Static", static_cast<DWORD>(SS_LEFT | (click ? SS_NOTIFY : 0))}, container, index),
+Label::Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index, Align align)
+    : Control(form, name, place,
+              {L"Static", static_cast<DWORD>((align == Align::Left ? SS_LEFT : SS_RIGHT) | (click ? SS_NOTIFY : 0))},
+              container, index),
       click_(std::move(click)) {}
 
 void Label::OnCommand(WORD notification) {

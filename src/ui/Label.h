@@ -6,7 +6,10 @@
 /// A text that the user cannot edit. With a handler it can be clicked.
 class Label : public Control {
 public:
-    Label(Form* form, const wchar_t* name, Twips place) : Label(form, name, place, Action{}, nullptr) {}
+    enum class Align { Left, Right };
+
+    Label(Form* form, const wchar_t* name, Twips place, Align align = Align::Left)
+        : Label(form, name, place, Action{}, nullptr, 0, align) {}
     template <class F>
     Label(F* form, const wchar_t* name, Twips place, void (F::*click)())
         : Label(form, name, place, Bind(form, click), nullptr) {}
@@ -19,7 +22,8 @@ public:
         : Label(form, name, place, BindElement(form, click, index), &container, index) {}
 
 protected:
-    Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index = 0);
+    Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index = 0,
+          Align align = Align::Left);
 
 private:
     void OnCommand(WORD notification) override;

@@ -76,6 +76,10 @@ void ListView::ColumnWidth(int column, int width) {
     SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), ToPixels(width, Owner().Dpi()));
 }
 
+void ListView::FitColumn(int column) {
+    SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), LVSCW_AUTOSIZE_USEHEADER);
+}
+
 void ListView::Clear() {
     SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
     rowColors_.clear();

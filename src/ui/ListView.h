@@ -32,6 +32,8 @@ public:
     void ColumnTitle(int column, const std::wstring& title);
     int ColumnWidth(int column) const; ///< twips
     void ColumnWidth(int column, int width);
+    /// Gives a column the room that its title and its texts need; the last one takes what is left of the list.
+    void FitColumn(int column);
 
     void Clear();
     /// Adds a row behind the others and returns its number, from 0.

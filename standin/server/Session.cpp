@@ -37,6 +37,9 @@ void OpenDatabase(const std::wstring& path) {
     if (!IsFile(path)) Fail(kFileNotFound, L"The database \"" + path + L"\" cannot be opened: file not found");
     facts.Database = FullPath(path);
     Installation::RecordLastDatabase(facts.Database);
+    // A database comes up in the layouts that are the defaults at that moment.
+    UseLayouts(State::Text(L"Preferences", L"DefaultContactLayout").value_or(L""),
+               State::Text(L"Preferences", L"DefaultGroupLayout").value_or(L""));
 }
 
 std::wstring User() {

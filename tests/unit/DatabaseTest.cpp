@@ -180,7 +180,8 @@ TEST_CASE_FIXTURE(Stores, "An upgrade without sections has nothing to do, and on
     CHECK(file.Bytes().empty());
     file.Bytes("[Sales]\r\nUsername=Chris\r\n");
     RefuseKeysBelow(HKEY_CURRENT_USER);
-    SilenceMessages();
+    SilenceMessages(true);
     modUpgrade32::Upgrade_to_32();
+    SilenceMessages(false);
     CHECK(file.Bytes() == "[Sales]\r\nUsername=Chris\r\n");
 }
