@@ -98,7 +98,7 @@ TEST_CASE_FIXTURE(Journey, "closed while minimised, the window keeps the size it
 TEST_CASE_FIXTURE(Journey, "Esc closes the window and opens nothing") {
     StartActWithTwo(*this);
     HWND window = StartToMainWindow();
-    REQUIRE(Within([&] { return GetForegroundWindow() == window; }));
+    REQUIRE(JourneyWindow::InFront(ListOf(window)));
     JourneyWindow::Press(VK_ESCAPE);
     CHECK(Program().ExitCode() == 0u);
     CHECK(Count(L"APPOBJECT", L"openDB") == 0);
@@ -112,6 +112,7 @@ TEST_CASE_FIXTURE(Journey, "every cell of the open database is red, and no other
         Ini(name, L"StartupMacro", L"C:\\MMMM.mpr");
     }
     HWND list = ListOf(StartToMainWindow());
+    REQUIRE(JourneyWindow::InFront(list));
     const ForeignList cells(list);
     for (int column = 0; column < 5; ++column) {
         CAPTURE(column);

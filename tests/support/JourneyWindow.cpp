@@ -1,5 +1,6 @@
 #include "support/JourneyWindow.h"
 
+#include "support/JourneyProcess.h"
 #include "win32/Owner.h"
 
 #include <array>
@@ -116,10 +117,16 @@ void ClickMenu(HWND form, const wchar_t* item) {
 
 bool Checked(HWND option) { return Ask(option, BM_GETCHECK) == BST_CHECKED; }
 
-bool HasFocus(HWND window) {
+bool HasFocus(HWND control) {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
-    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) && info.hwndFocus == window;
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(control, nullptr), &info)) return false;
+    if (!info.hwndActive) SetForegroundWindow(GetAncestor(control, GA_ROOT));
+    return info.hwndFocus == control;
+}
+
+bool InFront(HWND control) {
+    return Within([control] { return HasFocus(control) && GetForegroundWindow() == GetAncestor(control, GA_ROOT); });
 }
 
 void DoubleClick(HWND window, POINT place) {

@@ -23,8 +23,12 @@ void Click(HWND form, const wchar_t* control, int index = 0);
 void ClickMenu(HWND form, const wchar_t* item);
 /// Whether an option button is checked.
 bool Checked(HWND option);
-/// Whether the window has the keyboard focus of its thread.
-bool HasFocus(HWND window);
+/// Whether a control has the focus of its form. A form that is not active, for the window manager has preferred another
+/// one, is activated first: ask again.
+bool HasFocus(HWND control);
+/// Waits until a control has the focus of the window in the foreground, so that the screen shows it and real keys reach
+/// it; false when that does not come about.
+bool InFront(HWND control);
 /// Presses and releases the left button twice at a place of the window, as a user's mouse does.
 void DoubleClick(HWND window, POINT place);
 
