@@ -105,6 +105,8 @@ void Journey::CloseWhatIsLeft() const {
         });
         CHECK_MESSAGE(isClosed, "the program cannot be closed");
         if (!isClosed) program.Terminate();
+        const DWORD code = program.ExitCode().value_or(Process::Terminated);
+        CHECK_MESSAGE((code == 0 || code == Process::Terminated), "the program has crashed");
     }
 }
 
@@ -207,7 +209,8 @@ HWND Journey::Window(const Process& program, const wchar_t* className) {
         window = JourneyWindow::Find(program.Id(), className);
         return window && IsWindowVisible(window);
     });
-    if (const auto box = JourneyWindow::MessageBoxOf(program.Id()); !isShown && box) CAPTURE(box->Text);
+    const auto box = isShown ? std::nullopt : JourneyWindow::MessageBoxOf(program.Id());
+    CAPTURE(box ? box->Text : L"no message box");
     REQUIRE(isShown);
     return window;
 }

@@ -23,7 +23,7 @@ struct doctest::StringMaker<std::optional<std::wstring>> {
 /// log and state. Unless told otherwise the program has run before, in English.
 ///
 /// At the end no process of the program may be left without a visible window, and no process at all once the windows
-/// have been closed as by their user.
+/// have been closed as by their user. None may have crashed.
 class Journey {
 public:
     Journey();

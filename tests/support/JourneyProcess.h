@@ -35,7 +35,9 @@ public:
     bool Running() const { return WaitForSingleObject(process_.Get(), 0) == WAIT_TIMEOUT; }
     /// Waits for the end of the program: its exit code, or nothing when it goes on.
     std::optional<DWORD> ExitCode(DWORD milliseconds = JourneyPatience) const;
-    void Terminate() const { TerminateProcess(process_.Get(), 99); }
+    /// Ends the program as the task manager does; its exit code tells.
+    static constexpr DWORD Terminated = 99;
+    void Terminate() const { TerminateProcess(process_.Get(), Terminated); }
 
 private:
     KernelHandle process_;
