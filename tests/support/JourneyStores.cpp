@@ -44,6 +44,12 @@ void ReadInto(Snapshot& snapshot, const std::wstring& path) {
     for (const std::wstring& subkey : Subkeys(path)) ReadInto(snapshot, path + L'\\' + subkey);
 }
 
+RegistryKey Create(const std::wstring& path) {
+    RegistryKey key;
+    RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(), nullptr);
+    return key;
+}
+
 } // namespace
 
 Snapshot ReadTree(const std::wstring& path) {
@@ -57,6 +63,16 @@ void DeleteTree(const std::wstring& path) {
     RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
 }
 
+void WriteTree(const Snapshot& snapshot) {
+    for (const auto& [place, value] : snapshot) {
+        const size_t bar = place.find(L'|');
+        const RegistryKey key = Create(place.substr(0, bar));
+        if (bar == std::wstring::npos) continue;
+        RegSetValueExW(key.Get(), place.substr(bar + 1).c_str(), 0, value.Type, value.Data.data(),
+                       static_cast<DWORD>(value.Data.size()));
+    }
+}
+
 std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
     const RegistryKey key = Open(path, KEY_READ);
     DWORD size = 0;
@@ -68,8 +84,7 @@ std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
 }
 
 void Write(const std::wstring& path, const std::wstring& name, const std::wstring& text) {
-    RegistryKey key;
-    RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(), nullptr);
+    const RegistryKey key = Create(path);
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
     RegSetValueExW(key.Get(), name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), size);
 }
@@ -83,6 +98,18 @@ std::optional<std::wstring> User(const std::wstring& section, const std::wstring
 
 void User(const std::wstring& section, const std::wstring& key, const std::wstring& text) {
     Write(std::wstring(UserRoot) + L'\\' + section, key, text);
+}
+
+std::wstring UserSection(const std::wstring& section) {
+    const std::wstring path = std::wstring(UserRoot) + L'\\' + section;
+    const Snapshot values = ReadTree(path);
+    std::wstring text;
+    for (const auto& [place, value] : values) {
+        if (place == path) continue;
+        const std::wstring key = place.substr(path.size() + 1);
+        text += key + L'=' + User(section, key).value_or(L"(no text)") + L';';
+    }
+    return values.empty() ? L"(none)" : text;
 }
 
 std::string FileBytes(const std::wstring& path) {

@@ -23,12 +23,16 @@ using Snapshot = std::map<std::wstring, Value>;
 
 Snapshot ReadTree(const std::wstring& path);
 void DeleteTree(const std::wstring& path);
+/// Puts the keys and values of a snapshot back where they were read.
+void WriteTree(const Snapshot& snapshot);
 std::optional<Value> Read(const std::wstring& path, const std::wstring& name);
 void Write(const std::wstring& path, const std::wstring& name, const std::wstring& text);
 
 /// A value of the per-user store; nothing when it is missing or no text.
 std::optional<std::wstring> User(const std::wstring& section, const std::wstring& key);
 void User(const std::wstring& section, const std::wstring& key, const std::wstring& text);
+/// A whole section of the per-user store: "key=text;" for each value, in the order of the keys. "(none)" without one.
+std::wstring UserSection(const std::wstring& section);
 
 std::string FileBytes(const std::wstring& path);
 void FileBytes(const std::wstring& path, const std::string& bytes);

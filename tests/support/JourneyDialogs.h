@@ -1,0 +1,34 @@
+#pragma once
+
+#include "support/Journey.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+/// The dialogs about the list of databases, worked as by their user. A running test ends when a step has no effect.
+namespace JourneyDialogs {
+
+/// What stands in text boxes, by the boxes' names.
+using Texts = std::vector<std::pair<const wchar_t*, std::wstring>>;
+
+/// Starts ACT! with a database open that is not in the list.
+void StartActElsewhere(Journey& journey);
+
+/// Chooses a menu item of the main window, or clicks a button, and returns the dialog that opens.
+HWND OpenByMenu(const Journey& journey, const wchar_t* item, const wchar_t* dialogClass);
+HWND OpenByButton(const Journey& journey, HWND form, const wchar_t* button, const wchar_t* dialogClass);
+
+void Type(HWND form, const Texts& texts);
+/// Clicks a check box until it is checked, or is not.
+void Check(HWND form, const wchar_t* box, bool checked);
+void ShowTab(HWND properties, int tab);
+/// Clicks a button and waits until the dialog is gone. The window below it may still have work to do.
+void Leave(HWND dialog, const wchar_t* button);
+
+/// The lines of list maintenance, or the names in the main window, joined with ";".
+std::wstring Lines(HWND listMaintenance);
+std::wstring Rows(HWND mainWindow);
+HWND ListOf(HWND mainWindow);
+
+} // namespace JourneyDialogs
