@@ -33,7 +33,8 @@ LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT message, WPARAM wParam,
 }
 
 Control* Form::ControlOf(HWND window) {
-    if (!window || !FromWindow(GetParent(window))) return nullptr;
+    // Not GetParent: of an owned dialog that is the owner, and the dialog would be taken for a control of it.
+    if (!window || !FromWindow(GetAncestor(window, GA_PARENT))) return nullptr;
     return reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
