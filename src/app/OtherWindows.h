@@ -3,7 +3,7 @@
 /// Where the main window hands over to the windows it leads to: each is entered in one place.
 namespace OtherWindows {
 
-enum class Window { Integration, QuickSwitch, About, StartAct };
+enum class Window { Integration, About };
 
 /// True when this version has the window. Menu items that lead to one it lacks are greyed.
 bool Has(Window window);

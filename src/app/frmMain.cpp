@@ -3,6 +3,8 @@
 #include "app/Module1.h"
 #include "app/OtherWindows.h"
 #include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "quickswitch/frmQuickSwitch.h"
 #include "settings/UserStore.h"
 #include "support/Application.h"
 #include "support/Busy.h"
@@ -158,7 +160,6 @@ void frmMain::SetMenuCaptions() {
     using OtherWindows::Has;
     using OtherWindows::Window;
     mnuIntegrate.Enabled(Has(Window::Integration));
-    mnuQuickSwitch.Enabled(Has(Window::QuickSwitch));
     mnuAbout.Enabled(Has(Window::About));
 }
 
@@ -202,5 +203,14 @@ void frmMain::tmrClose_Timer() {
 
 void frmMain::EndIfInvisible() {
     const bool isAnyVisible = std::ranges::any_of(Form::Loaded(), [](const Form* form) { return form->Visible(); });
-    if (!isAnyVisible && !isClosing_) Unload();
+    if (!isAnyVisible && !isClosing_ && !Program().StartActMode) Unload();
+}
+
+void frmMain::ShowQuickSwitch() {
+    Hide();
+    frmQuickSwitch(*this).ShowModal();
+    if (Program().ExitRequested)
+        Unload();
+    else
+        EndIfInvisible();
 }

@@ -23,9 +23,8 @@ class frmMain : public Form, public MainWindow {
 public:
     frmMain();
 
-    /// Opens a database of the list in the running ACT! and ends the program; `viewCode` is 0 to 6. `mainHidden` tells
-    /// that this window is not on screen. Every way out without success shows this window.
-    void Open_DB(const std::wstring& name, short viewCode, bool mainHidden);
+    void Open_DB(const std::wstring& name, short viewCode, bool mainHidden) override;
+    void ShowMain() override { Show(); }
 
     int SelectedIndex() const override { return ListView1.Selected(); }
     void SelectedIndex(int index) override;
@@ -106,6 +105,7 @@ private:
     void ActEvent1_OnActUserWantsToClose();
     void tmrClose_Timer();
     void EndIfInvisible();
+    void ShowQuickSwitch();
 
     // Start-up (frmMainStart.cpp): each step is true when the start goes on.
     bool StartSteps();
@@ -129,8 +129,9 @@ private:
     ActPlaces AskPlaces() const;
     void FillList();
     void ReloadList();
-    void CollectOpenNames();
+    void CollectOpenNames() const;
     void FillColumns(int row, const std::wstring& name, const ActPlaces& places);
+    std::wstring ColumnTitle(int column) const;
     void SetColumnTitles();
     std::wstring SelectedName() const;
     void ListView1_ColumnClick(int column);
@@ -140,7 +141,6 @@ private:
     // Opening (frmMainOpen.cpp)
     bool OpenInAct(const std::wstring& name, short viewCode, bool mainHidden);
     bool OpenDatabase(const std::wstring& path);
-    static void WriteLocations(const std::wstring& name);
     static void ShowView(short viewCode);
     static void RunOpeningMacro(const std::wstring& macro);
     static void PutDefaultsBack();

@@ -65,10 +65,7 @@ void frmMain::mnuSettingsLocation_Click() {
 void frmMain::mnuIntegrate_Click() { OtherWindows::Enter(OtherWindows::Window::Integration); }
 void frmMain::mnuAbout_Click() { OtherWindows::Enter(OtherWindows::Window::About); }
 
-void frmMain::mnuQuickSwitch_Click() {
-    OtherWindows::Enter(OtherWindows::Window::QuickSwitch);
-    EndIfInvisible();
-}
+void frmMain::mnuQuickSwitch_Click() { ShowQuickSwitch(); }
 
 void frmMain::mnuLanguages_Click() {
     frmLanguage().ShowModal();

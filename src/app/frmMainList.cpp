@@ -44,7 +44,7 @@ void frmMain::FillColumns(int row, const std::wstring& name, const ActPlaces& pl
     ListView1.RowColor(row, Text::SamePath(record.Path, places.OpenDatabase) ? kOpenInAct : CLR_DEFAULT);
 }
 
-void frmMain::CollectOpenNames() {
+void frmMain::CollectOpenNames() const {
     std::wstring& names = Program().OpenDatabaseNames;
     names.clear();
     for (int row = 0; row < ListView1.RowCount(); ++row)
@@ -69,12 +69,14 @@ void frmMain::ReplaceRow(const std::wstring& name) {
     ListView1.Select(row);
 }
 
+std::wstring frmMain::ColumnTitle(int column) const {
+    const std::wstring& title = LangText[kColumnTitleRows[column]];
+    if (column != sortColumn_) return title;
+    return (sortDescending_ ? L"< " : L"> ") + title;
+}
+
 void frmMain::SetColumnTitles() {
-    for (int column = 0; column < ListView1.ColumnCount(); ++column) {
-        std::wstring title = LangText[kColumnTitleRows[column]];
-        if (column == sortColumn_) title.insert(0, sortDescending_ ? L"< " : L"> ");
-        ListView1.ColumnTitle(column, title);
-    }
+    for (int column = 0; column < ListView1.ColumnCount(); ++column) ListView1.ColumnTitle(column, ColumnTitle(column));
 }
 
 std::wstring frmMain::SelectedName() const {

@@ -4,8 +4,7 @@
 
 #include "i18n/modLangues.h"
 #include "program/Program.h"
-#include "settings/IniLib.h"
-#include "settings/RegistrySubs.h"
+#include "settings/ActSettings.h"
 #include "settings/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
@@ -13,8 +12,6 @@
 #include "support/Shell.h"
 
 namespace {
-
-constexpr wchar_t kActKey[] = L"Software\\Symantec\\ACT!";
 
 std::wstring OrRecorded(const std::wstring& layout, const wchar_t* recordedKey) {
     return layout.empty() ? UserStore::Get(L"Settings", recordedKey) : layout;
@@ -49,7 +46,7 @@ bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidde
     // Empty means "keep ACT!'s own": the last database's layout must not stay in force.
     preferences.DefaultContactLayout(OrRecorded(record.ContactLayout, L"OriginalCL"));
     preferences.DefaultGroupLayout(OrRecorded(record.GroupLayout, L"OriginalGL"));
-    WriteLocations(name);
+    ActSettings::WriteLocations(name);
     LogonValues::CopyToLogon(name);
     OpenWithShell(Application::FileInFolder(L"logon.exe"));
     if (!OpenDatabase(record.Path)) return false;
@@ -57,15 +54,6 @@ bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidde
     RunOpeningMacro(record.OpeningMacro);
     if (!preferences.UseLastDBonStartup()) PutDefaultsBack();
     return true;
-}
-
-void frmMain::WriteLocations(const std::wstring& name) {
-    const std::wstring lender = IniLib::GetKeyValue(name, L"UseLocationsFrom");
-    for (const wchar_t* location : LocationNames) {
-        const std::wstring folder = IniLib::GetKeyValue(lender.empty() ? name : lender, location);
-        if (folder.empty()) continue;
-        RegistrySubs::SetRegistryValue(HKEY_CURRENT_USER, kActKey, std::wstring(location) + L" File Type", folder);
-    }
 }
 
 bool frmMain::OpenDatabase(const std::wstring& path) {

@@ -4,7 +4,7 @@
 
 #include "app/LinkMenuItem.h"
 #include "app/Module1.h"
-#include "app/OtherWindows.h"
+#include "app/modStartACT.h"
 #include "i18n/MoreText.h"
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
@@ -74,7 +74,9 @@ bool frmMain::CheckActRuns() {
     if (ActEvent1.InstanceCount() >= 1) return true;
     if (ActEvent1.RegistrationFailed())
         MsgBox(LangText[10] + L"\r\n" + LangText[11]);
-    else if (!OpensQuickSwitchAtStart() || !OtherWindows::Enter(OtherWindows::Window::StartAct))
+    else if (OpensQuickSwitchAtStart())
+        modStartACT::StartACT_mode(*this, toolbarIcon_);
+    else
         MsgBox(LangText[9] + Application::Title);
     return false;
 }
@@ -157,8 +159,7 @@ void frmMain::RestoreColumns() {
         if (width && *width >= 0 && *width <= kWidestColumn) {
             ListView1.ColumnWidth(column, static_cast<int>(*width));
         } else if (!columnsLoaded_) {
-            ListView1.FitColumn(column);
-            ListView1.ColumnWidth(column, std::max(ListView1.ColumnWidth(column), kDesignColumn));
+            ListView1.ColumnWidth(column, std::max(ListView1.TitleWidth(ColumnTitle(column)), kDesignColumn));
         }
     }
     columnsLoaded_ = true;
@@ -186,6 +187,9 @@ void frmMain::FillAndSelect() {
 
 void frmMain::ShowFirstWindow() {
     if (isClosing_) return;
-    if (!OpensQuickSwitchAtStart() || !OtherWindows::Enter(OtherWindows::Window::QuickSwitch)) Show();
+    if (OpensQuickSwitchAtStart())
+        ShowQuickSwitch();
+    else
+        Show();
     if (Visible() && DatabaseList::IsLongerThanShown()) MsgBox(Translated(MoreText::ListTooLong), MsgIcon::Information);
 }

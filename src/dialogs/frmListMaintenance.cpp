@@ -32,6 +32,7 @@ void frmListMaintenance::Create_List() {
 
 void frmListMaintenance::Save_List() const {
     std::vector<std::wstring> names;
+    names.reserve(static_cast<size_t>(lstDB.ListCount()));
     for (int index = 0; index < lstDB.ListCount(); ++index) names.push_back(lstDB.List(index));
     DatabaseList::WriteSort(names);
 }

@@ -10,6 +10,11 @@ public:
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
 
+    /// Opens a database in ACT! and ends the program, or comes back to the screen with a message. `viewCode` is 0 to 6;
+    /// `mainHidden` tells that the main window is not on screen. While ACT! is being started only the name is recorded.
+    virtual void Open_DB(const std::wstring& name, short viewCode, bool mainHidden) = 0;
+    /// Brings the main window to the screen.
+    virtual void ShowMain() = 0;
     /// The number of the selected database in list order, from 0; -1 for none.
     virtual int SelectedIndex() const = 0;
     /// Names the database to select when the list is filled again.

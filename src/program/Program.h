@@ -16,6 +16,9 @@ struct ProgramState {
     std::vector<std::wstring> DatabaseNames; ///< the list, in the order of "Sort"
     std::wstring OpenDatabaseNames;          ///< the databases that ACT! has open, each as "|" + name + "|"
     bool AskForUsername = false;             ///< the properties dialog is to ask for the user name
+    bool QuickSwitchHandled = false;         ///< the palette was left in a way that does not bring the main window back
+    bool ExitRequested = false;              ///< the palette's Exit was chosen
+    bool ACTStartedByProgram = false;        ///< ACT! is being started by this program
     bool StartActMode = false;               ///< ACT! was not running: Open_DB only records the chosen name
 };
 

@@ -2,8 +2,9 @@
 
 #include <utility>
 
-ComboBox::ComboBox(Form* form, const wchar_t* name, Twips place, Action click, Frame* container)
-    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, container),
+ComboBox::ComboBox(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index)
+    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, container,
+              index),
       click_(std::move(click)) {}
 
 void ComboBox::AddItem(const std::wstring& text) {

@@ -29,7 +29,7 @@ void Control::Move(const Twips& place) {
 }
 
 void Control::Raise(const wchar_t* event, const Action& action) const {
-    if (!action || Busy::Now()) return;
+    if (!action || Busy::Now() || form_->Unloaded()) return;
     try {
         action();
     } catch (...) {

@@ -44,7 +44,7 @@ public:
 protected:
     Form& Owner() const { return *form_; }
     /// Runs a handler behind the outermost guard: whatever it throws is reported under "form: Sub name_event".
-    /// Does nothing while a call into ACT! is running.
+    /// Does nothing while a call into ACT! is running and once the form is unloaded.
     void Raise(const wchar_t* event, const Action& action) const;
     /// The place of the control's window relative to the form.
     virtual Twips WindowPlace() const;
@@ -60,6 +60,8 @@ private:
     virtual void OnCommand(WORD) {}
     virtual LRESULT OnNotify(NMHDR&) { return 0; }
     virtual void OnContextMenu(POINT) {}
+    /// Paints a control that draws itself.
+    virtual void OnDraw(const DRAWITEMSTRUCT&) {}
     /// Colours of a static control; null for the system's.
     virtual HBRUSH OnColor(HDC) { return nullptr; }
     /// True when the control has set a pointer of its own.

@@ -16,8 +16,13 @@ std::vector<Form*> loadedForms;
 
 DWORD StyleOf(const FormDesign& design) {
     if (design.Frame == Border::Sizable) return WS_OVERLAPPEDWINDOW;
+    if (design.Frame == Border::Palette) return WS_POPUP | WS_CLIPCHILDREN;
     if (design.Frame == Border::SizableDialog) return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
     return WS_POPUP | WS_CAPTION | (design.HasCloseBox ? WS_SYSMENU : 0);
+}
+
+bool HasPlainFrame(const FormDesign& design) {
+    return design.Frame == Border::Sizable || design.Frame == Border::Palette;
 }
 
 void RegisterWindowClass(const wchar_t* name, WNDPROC procedure) {
@@ -70,7 +75,7 @@ void Form::Load() {
 
 void Form::CreateFrame(HWND owner) {
     RegisterWindowClass(design_.Name, &Form::WindowProcedure);
-    const DWORD exStyle = design_.Frame == Border::Sizable ? 0 : WS_EX_DLGMODALFRAME;
+    const DWORD exStyle = HasPlainFrame(design_) ? 0 : WS_EX_DLGMODALFRAME;
     loadedForms.push_back(this);
     unloaded_ = false;
     HWND window = CreateWindowExW(exStyle, design_.Name, L"", StyleOf(design_), CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
@@ -107,7 +112,7 @@ void Form::ApplyDesignSize() {
 }
 
 Twips Form::DesignSize() const {
-    if (design_.Frame == Border::Sizable) return {0, 0, design_.Width, design_.Height};
+    if (HasPlainFrame(design_)) return {0, 0, design_.Width, design_.Height};
     const FrameSize excess = ExcessFrame();
     return {0, 0, design_.Width + ToTwips(excess.Width, dpi_), design_.Height + ToTwips(excess.Height, dpi_)};
 }
@@ -136,6 +141,17 @@ Twips Form::OuterSize() const {
 void Form::OuterSize(int width, int height) {
     SetWindowPos(window_, nullptr, 0, 0, ToPixels(width, dpi_), ToPixels(height, dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+Twips Form::Position() const {
+    RECT outer{};
+    GetWindowRect(window_, &outer);
+    return {ToTwips(outer.left, dpi_), ToTwips(outer.top, dpi_), 0, 0};
+}
+
+void Form::Position(int left, int top) {
+    SetWindowPos(window_, nullptr, ToPixels(left, dpi_), ToPixels(top, dpi_), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 Twips Form::LayoutSize() const {

@@ -15,6 +15,7 @@ class Timer;
 enum class Border {
     Sizable,       ///< resizable, with minimise and maximise boxes; the size in twips is the outer one and the minimum
     Dialog,        ///< fixed; grows by what today's frame is larger than the classic one, so that its contents fit
+    Palette,       ///< none: the size in twips is that of the whole drawing area
     SizableDialog, ///< the same, but resizable; the design size is the minimum
 };
 
@@ -57,6 +58,9 @@ public:
     /// The outer size in twips; of a minimised or maximised window the restored one.
     Twips OuterSize() const;
     void OuterSize(int width, int height);
+    /// The upper left corner on the screen, in twips.
+    Twips Position() const;
+    void Position(int left, int top);
     /// The outer size less what today's frame is larger than the classic one: the size that layouts count with.
     Twips LayoutSize() const;
     /// The size of the area inside the frame, in twips.
@@ -72,6 +76,9 @@ public:
 protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
+    virtual void Form_Deactivate() {}
+    /// The close box or Alt+F4.
+    virtual void Form_CloseBox() { CloseAsByUser(); }
     virtual void Form_Resize() {}
     virtual void Form_Unload() {}
     /// Puts the window over the middle of a visible window, or of the screen for none, and wholly onto the screen.

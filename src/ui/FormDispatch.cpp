@@ -48,6 +48,11 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         if (Control* control = ControlOf(header.hwndFrom)) return control->OnNotify(header);
         break;
     }
+    case WM_DRAWITEM: {
+        const auto& draw = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        if (Control* control = ControlOf(draw.hwndItem)) control->OnDraw(draw);
+        return TRUE;
+    }
     case WM_CTLCOLORSTATIC:
         if (Control* control = ControlOf(reinterpret_cast<HWND>(lParam)))
             if (HBRUSH brush = control->OnColor(reinterpret_cast<HDC>(wParam))) return reinterpret_cast<LRESULT>(brush);
@@ -71,11 +76,11 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         if (lastFocus_) ::SetFocus(lastFocus_);
         return 0;
     case WM_CLOSE:
-        if (!Busy::Now()) CloseAsByUser();
+        if (!Busy::Now()) Form_CloseBox();
         return 0;
     case kDpiChanged: OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
     case WM_GETMINMAXINFO:
-        if (design_.Frame == Border::Dialog) break;
+        if (design_.Frame == Border::Dialog || design_.Frame == Border::Palette) break;
         LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
         return 0;
     case DM_GETDEFID: return DefaultIdentifier();
@@ -111,6 +116,7 @@ LRESULT Form::DispatchCommand(WPARAM wParam, LPARAM lParam) {
 void Form::OnActivate(WPARAM wParam) {
     if (LOWORD(wParam) == WA_INACTIVE) {
         if (IsChild(window_, GetFocus())) lastFocus_ = GetFocus();
+        Form_Deactivate();
         return;
     }
     if (HIWORD(wParam) != 0) return;

@@ -76,8 +76,10 @@ void ListView::ColumnWidth(int column, int width) {
     SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), ToPixels(width, Owner().Dpi()));
 }
 
-void ListView::FitColumn(int column) {
-    SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), LVSCW_AUTOSIZE_USEHEADER);
+int ListView::TitleWidth(const std::wstring& title) const {
+    constexpr int kPadding = 240; // twips: what the header leaves free beside a title, and a hair
+    const LRESULT text = SendMessageW(Handle(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title.c_str()));
+    return ToTwips(static_cast<int>(text), Owner().Dpi()) + kPadding;
 }
 
 void ListView::Clear() {

@@ -32,8 +32,8 @@ public:
     void ColumnTitle(int column, const std::wstring& title);
     int ColumnWidth(int column) const; ///< twips
     void ColumnWidth(int column, int width);
-    /// Gives a column the room that its title and its texts need; the last one takes what is left of the list.
-    void FitColumn(int column);
+    /// The width that a column needs to show a title whole, in twips.
+    int TitleWidth(const std::wstring& title) const;
 
     void Clear();
     /// Adds a row behind the others and returns its number, from 0.

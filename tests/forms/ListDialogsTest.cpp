@@ -15,6 +15,8 @@ namespace {
 class SelectedRow : public MainWindow {
 public:
     explicit SelectedRow(int row) : Row(row) {}
+    void Open_DB(const std::wstring&, short, bool) override {}
+    void ShowMain() override {}
     int SelectedIndex() const override { return Row; }
     void SelectedIndex(int index) override { Row = index; }
     void ReplaceRow(const std::wstring&) override {}

@@ -9,6 +9,9 @@
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "quickswitch/frmAssign.h"
+#include "quickswitch/frmQuickSwitch.h"
+#include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
@@ -43,14 +46,14 @@ void InspectAndCancel(HWND window, const wchar_t* name) {
     SendMessageW(window, WM_CLOSE, 0, 0);
 }
 
-void InspectTabs(HWND window) {
-    HWND tabs = FindControl(window, L"mstOptions");
-    const wchar_t* const names[] = {L"properties-general", L"properties-locations", L"properties-logon"};
-    for (int tab = 0; tab < 3; ++tab) {
+void InspectTabs(HWND window, const wchar_t* control, std::initializer_list<const wchar_t*> names) {
+    HWND tabs = FindControl(window, control);
+    WPARAM tab = 0;
+    for (const wchar_t* name : names) {
         NMHDR change{tabs, 0, TCN_SELCHANGE};
-        SendMessageW(tabs, TCM_SETCURSEL, static_cast<WPARAM>(tab), 0);
+        SendMessageW(tabs, TCM_SETCURSEL, tab++, 0);
         SendMessageW(window, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&change));
-        Inspect(window, names[tab]);
+        Inspect(window, name);
     }
     SendMessageW(window, WM_CLOSE, 0, 0);
 }
@@ -72,10 +75,14 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         window.mnuManageList.Click();
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"settings-file"); });
         window.mnuSettingsLocation.Click();
-        script.Then([](HWND dialog) { InspectTabs(dialog); });
+        script.Then([](HWND dialog) {
+            InspectTabs(dialog, L"mstOptions", {L"properties-general", L"properties-locations", L"properties-logon"});
+        });
         window.mnuEditProperties.Click();
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"preference-locations"); });
         frmPrefLocations(L"Sales", L"Sales").ShowModal();
+        script.Then([](HWND dialog) { InspectTabs(dialog, L"mstAssign", {L"assign-buttons", L"assign-colors"}); });
+        frmAssign().ShowModal();
         End(window);
     }
     modLangues::Init_Language(short{0});
@@ -90,4 +97,33 @@ TEST_CASE("The first run's language dialog has nothing cut off") {
         Click(FindControl(dialog, L"cmdOK"));
     });
     frmLanguage().ShowModal();
+}
+
+TEST_CASE("The palette is drawn in every scheme, with nothing cut off but what is longer than its button") {
+    for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme) {
+        ActDesk desk;
+        FillDesk(desk);
+        IniLib::WriteKeyValue(L"General", L"QuickSwitch",
+                              L"Sales;Service;Staff;A very long name indeed;Sales;Staff;Staff;Sales");
+        IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
+        DialogScript script;
+        frmMain window;
+        window.Load();
+        script.Then([&](HWND palette) {
+            HWND box = FindControl(palette, L"pic6");
+            RECT place{};
+            GetWindowRect(box, &place);
+            SetCursorPos(place.left + 20, place.top + 20);
+            SendMessageW(box, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20));
+            TakePicture(palette,
+                        L"palette-scheme" + std::to_wstring(scheme) + L"-" + std::to_wstring(WindowDpi(palette)));
+            HDC canvas = GetDC(palette);
+            const COLORREF strip = GetPixel(canvas, 4865 / 15 - 3, 100 * WindowDpi(palette) / 96);
+            ReleaseDC(palette, canvas);
+            if (WindowDpi(palette) == 96) CHECK(strip == GetSysColor(COLOR_ACTIVECAPTION));
+            SendMessageW(palette, WM_COMMAND, IDCANCEL, 0);
+        });
+        window.mnuQuickSwitch.Click();
+        RunToEnd(window);
+    }
 }

@@ -15,6 +15,8 @@ namespace {
 /// The main window as the dialog sees it.
 class NotedRow : public MainWindow {
 public:
+    void Open_DB(const std::wstring&, short, bool) override {}
+    void ShowMain() override {}
     int SelectedIndex() const override { return 0; }
     void SelectedIndex(int) override {}
     void ReplaceRow(const std::wstring& name) override { Replaced = name; }

@@ -107,10 +107,12 @@ LRESULT CALLBACK DialogScript::OnHook(int code, WPARAM wParam, LPARAM lParam) {
 }
 
 void CALLBACK DialogScript::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (!current || current->waiting_.empty()) return;
-    HWND window = current->waiting_.front();
-    if (!IsWindowVisible(window)) return;
-    current->waiting_.erase(current->waiting_.begin());
+    if (!current) return;
+    // A window may be active before it is shown, and a message box come up meanwhile.
+    const auto next = std::ranges::find_if(current->waiting_, [](HWND window) { return IsWindowVisible(window); });
+    if (next == current->waiting_.end()) return;
+    HWND window = *next;
+    current->waiting_.erase(next);
     current->Meet(window);
 }
 

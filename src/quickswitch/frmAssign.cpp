@@ -1,0 +1,139 @@
+#include "quickswitch/frmAssign.h"
+
+#include "i18n/modLangues.h"
+#include "settings/Database.h"
+#include "settings/IniLib.h"
+#include "support/ErrorReport.h"
+#include "support/Text.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kRow = 420; // twips from one list to the next
+
+} // namespace
+
+frmAssign::frmAssign() : Form({L"frmAssign", 7830, 5880}) {}
+
+std::array<Twips, frmAssign::ButtonCount> frmAssign::LabelPlaces() {
+    std::array<Twips, ButtonCount> places;
+    for (size_t row = 0; row < places.size(); ++row) places[row] = {150, 375 + static_cast<int>(row) * kRow, 1080, 225};
+    return places;
+}
+
+std::array<Twips, frmAssign::ButtonCount> frmAssign::ListPlaces() {
+    std::array<Twips, ButtonCount> places;
+    for (size_t row = 0; row < places.size(); ++row)
+        places[row] = {1260, 330 + static_cast<int>(row) * kRow, 3060, 315};
+    return places;
+}
+
+Twips frmAssign::SamplePlace(int scheme) {
+    constexpr int kSide = 1080;
+    constexpr int kColumn = 2400;
+    constexpr int kLine = 1500;
+    return {540 + scheme % 3 * kColumn, 480 + scheme / 3 * kLine, kSide, kSide};
+}
+
+std::array<Twips, Artwork::SchemeCount> frmAssign::OptionPlaces() {
+    std::array<Twips, Artwork::SchemeCount> places;
+    for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme) {
+        const Twips sample = SamplePlace(scheme);
+        places[static_cast<size_t>(scheme)] = {sample.Left - 330, sample.Top + 435, 255, 210};
+    }
+    return places;
+}
+
+PictureBox::Draw frmAssign::Sample(int scheme) {
+    return [scheme](HDC canvas, const RECT& area, bool) {
+        PutPicture(canvas, {area.left, area.top},
+                   Artwork::SchemeSample(scheme, area.right, area.bottom, SystemColor(COLOR_BTNFACE)));
+    };
+}
+
+void frmAssign::DrawPosition(HDC canvas, const RECT& area, bool) {
+    constexpr int kColumns = 4;
+    FillRect(canvas, &area, GetSysColorBrush(COLOR_BTNFACE));
+    SetBkMode(canvas, TRANSPARENT);
+    const int strip = area.right / 20;
+    const RECT title{area.right - strip, area.top, area.right, area.bottom};
+    FillRect(canvas, &title, GetSysColorBrush(COLOR_ACTIVECAPTION));
+    const int side = std::min((area.right - strip) / kColumns, area.bottom / 2);
+    for (int button = 1; button <= static_cast<int>(ButtonCount); ++button) {
+        const int left = (button - 1) / 2 * side;
+        const int top = (button - 1) % 2 * side;
+        const int tile = side - side / 12;
+        PutPicture(canvas, {left, top},
+                   Artwork::ButtonImage(1, Artwork::ImageOfButton(button), tile, tile, SystemColor(COLOR_BTNFACE)));
+        SetTextColor(canvas, ToColorRef(Artwork::TextColor(1, button - 1)));
+        RECT number{left, top, left + tile, top + tile};
+        DrawTextW(canvas, std::to_wstring(button).c_str(), 1, &number, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    }
+}
+
+void frmAssign::Form_Load() try {
+    SetCaptions();
+    ShowPage(0);
+    FillLists();
+    const std::wstring stored = IniLib::GetKeyValue(L"General", L"QuickSwitchScheme", L"0");
+    chkStartup.Value(Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0")).value_or(0) != 0);
+    optColor[0].Value(true); // what is shown also after an error
+    const auto scheme = Text::WholeNumber(stored);
+    if (!scheme) throw Error(BasicError::TypeMismatch, L"Type mismatch");
+    if (*scheme < 0 || *scheme >= Artwork::SchemeCount) throw Error(BasicError::OutOfRange, L"Subscript out of range");
+    optColor[0].Value(false);
+    optColor[static_cast<size_t>(*scheme)].Value(true);
+} catch (...) {
+    ErrorReport(L"frmAssign: Sub Form_Load");
+}
+
+void frmAssign::SetCaptions() {
+    Caption(LangText[127]);
+    mstAssign.AddTab(LangText[138]);
+    mstAssign.AddTab(LangText[139]);
+    fraButtons.Text(LangText[140] + L":");
+    for (size_t index = 0; index < ButtonCount; ++index)
+        lblDB[index].Text(LangText[141] + L" " + std::to_wstring(index + 1) + L":");
+    chkStartup.Text(LangText[145]);
+    lblLayout.Text(LangText[138] + L":");
+    fraColors.Text(LangText[146] + L":");
+    for (size_t scheme = 0; scheme < optColor.Size(); ++scheme)
+        optColor[scheme].Text(LangText[139] + L" " + std::to_wstring(scheme + 1)); // for screen readers
+    cmdOK.Text(LangText[1]);
+    cmdCancel.Text(LangText[2]);
+}
+
+void frmAssign::FillLists() {
+    const std::vector<std::wstring> names = DatabaseList::ReadSort();
+    const std::vector<std::wstring> assigned = DatabaseList::ReadQuickSwitch();
+    for (size_t index = 0; index < ButtonCount; ++index) {
+        cboDB[index].AddItem({});
+        for (const std::wstring& name : names) cboDB[index].AddItem(name);
+        if (!assigned[index].empty()) cboDB[index].Select(assigned[index]);
+    }
+}
+
+void frmAssign::ShowPage(int tab) {
+    fraButtons.Visible(tab == 0);
+    fraColors.Visible(tab == 1);
+}
+
+void frmAssign::mstAssign_Click(int) { ShowPage(mstAssign.Tab()); }
+
+void frmAssign::cmdOK_Click() try {
+    std::vector<std::wstring> names;
+    for (const ComboBox& list : cboDB) names.push_back(list.SelectedText());
+    size_t scheme = 0;
+    while (scheme + 1 < optColor.Size() && !optColor[scheme].Value()) ++scheme;
+    IniLib::WriteKeyValue(L"General", L"QuickSwitch", Text::Join(names, L';'));
+    IniLib::WriteKeyValue(L"General", L"QuickSwitchStartup", chkStartup.Value() ? L"1" : L"0");
+    IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
+    Unload();
+} catch (...) {
+    ErrorReport(L"frmAssign: Sub cmdOK_Click");
+}
+
+void frmAssign::cmdCancel_Click() { Unload(); }

@@ -1,0 +1,178 @@
+#include "quickswitch/frmQuickSwitch.h"
+
+#include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "quickswitch/frmAssign.h"
+#include "settings/IniLib.h"
+#include "settings/UserStore.h"
+#include "support/ErrorReport.h"
+#include "support/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kHeight = 2400;
+constexpr int kWidths[] = {1440, 2580, 3725, 4865}; // for one to four columns, in twips
+
+} // namespace
+
+frmQuickSwitch::frmQuickSwitch(MainWindow& mainWindow)
+    : Form({L"frmQuickSwitch", kWidths[0], kHeight, Border::Palette}), mainWindow_(mainWindow) {}
+
+Twips frmQuickSwitch::ButtonPlace(int button) {
+    constexpr int kSide = 1080;
+    constexpr int kMargin = 90;
+    constexpr int kColumn = 1140;
+    const int column = (button - 1) / 2;
+    const int row = (button - 1) % 2;
+    return {kMargin + column * kColumn, kMargin + row * kColumn, kSide, kSide};
+}
+
+void frmQuickSwitch::Form_Load() try {
+    ProgramState& program = Program();
+    program.QuickSwitchHandled = false;
+    program.ExitRequested = false;
+    // 0x80 hides the window, the zeros put it into the corner: size, place and showing follow.
+    constexpr UINT kFlags = 0x80;
+    SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0, kFlags);
+    cmdCancel.Visible(false); // there for Esc alone
+    for (int button = 1; button <= ButtonCount; ++button) {
+        Tracker& tracker = trackers_.at(static_cast<size_t>(button) - 1);
+        tracker.Click = [this, button] { Tracker_Click(button); };
+        tracker.Mouse = [this, button](int action) { MouseAction(Picture(button), action, button); };
+    }
+    Refresh_Screen();
+    RestorePosition();
+    mnuControlClose.Caption(LangText[150] + L"...");
+    mnuControlClose.Enabled(!program.ACTStartedByProgram);
+    mnuAssign.Caption(LangText[127] + L"...");
+    mnuExit.Caption(LangText[129]);
+    Caption(L"QuickSwitch");
+} catch (...) {
+    ErrorReport(L"frmQuickSwitch: Sub Form_Load");
+}
+
+void frmQuickSwitch::Refresh_Screen() try {
+    for (Tracker& tracker : trackers_) tracker.Detach();
+    isHighlighted_.fill(false);
+    ReadNames();
+    ShowColumns();
+    for (int button = 1; button <= ButtonCount; ++button) {
+        Picture(button).Text(CaptionOf(button));
+        toolTip_.Set(Handle(), Picture(button).Handle(), NameOf(button));
+    }
+    AttachTrackers();
+    ReadScheme();
+    InvalidateRect(Handle(), nullptr, TRUE);
+} catch (...) {
+    ErrorReport(L"frmQuickSwitch: Sub Refresh_Screen");
+}
+
+void frmQuickSwitch::ReadScheme() {
+    Scheme_ = 0; // also what is shown after an error
+    const std::wstring stored = IniLib::GetKeyValue(L"General", L"QuickSwitchScheme", L"0");
+    const auto scheme = Text::WholeNumber(stored);
+    if (!scheme) throw Error(BasicError::TypeMismatch, L"Type mismatch");
+    if (*scheme < 0 || *scheme >= Artwork::SchemeCount) throw Error(BasicError::OutOfRange, L"Subscript out of range");
+    Scheme_ = static_cast<short>(*scheme);
+}
+
+void frmQuickSwitch::ReadNames() { QuickSwitchNames_ = DatabaseList::ReadQuickSwitch(); }
+
+void frmQuickSwitch::ShowColumns() {
+    int columns = 4;
+    while (columns > 1 && NameOf(columns * 2).empty() && NameOf(columns * 2 - 1).empty()) --columns;
+    OuterSize(kWidths[columns - 1], kHeight);
+    for (int button = 3; button <= ButtonCount; ++button) Picture(button).Visible(button <= columns * 2);
+}
+
+void frmQuickSwitch::AttachTrackers() {
+    for (int button = 1; button <= ButtonCount; ++button)
+        if (!NameOf(button).empty() && !IsOpenInAct(NameOf(button)))
+            trackers_.at(static_cast<size_t>(button) - 1).Attach(Picture(button), Tracker::Enter | Tracker::Leave);
+}
+
+void frmQuickSwitch::RestorePosition() {
+    const auto top = Text::Measure(UserStore::Get(L"Settings", L"QuickTop"));
+    const auto left = Text::Measure(UserStore::Get(L"Settings", L"QuickLeft"));
+    const Twips current = Position();
+    Position(static_cast<int>(left.value_or(current.Left)), static_cast<int>(top.value_or(current.Top)));
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    if (MonitorFromRect(&outer, MONITOR_DEFAULTTONULL)) return;
+    // That monitor is gone: onto the nearest one that is there.
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromRect(&outer, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& screen = monitor.rcWork;
+    const LONG x =
+        std::clamp(outer.left, screen.left, std::max(screen.left, screen.right - (outer.right - outer.left)));
+    const LONG y = std::clamp(outer.top, screen.top, std::max(screen.top, screen.bottom - (outer.bottom - outer.top)));
+    SetWindowPos(Handle(), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmQuickSwitch::Save_Position() const try {
+    const Twips position = Position();
+    UserStore::Set(L"Settings", L"QuickLeft", std::to_wstring(position.Left));
+    UserStore::Set(L"Settings", L"QuickTop", std::to_wstring(position.Top));
+} catch (...) {
+    ErrorReport(L"frmQuickSwitch: Sub Save_Position");
+}
+
+void frmQuickSwitch::Form_Unload() try {
+    Save_Position();
+    // While ACT! is being started there is no main window to come back.
+    if (Program().QuickSwitchHandled || Program().StartActMode) return;
+    Hide();
+    mainWindow_.ShowMain();
+} catch (...) {
+    ErrorReport(L"frmQuickSwitch: Sub Form_Unload");
+}
+
+void frmQuickSwitch::Tracker_Click(int button) try {
+    const std::wstring name = NameOf(button);
+    if (name.empty()) return;
+    Hide();
+    Save_Position();
+    constexpr short kContactView = 0;
+    // Before the open: a failed one brings the main window back by itself.
+    Program().QuickSwitchHandled = true;
+    mainWindow_.Open_DB(name, kContactView, true);
+    Unload();
+} catch (...) {
+    ErrorReport((L"frmQuickSwitch: Sub Tracker" + std::to_wstring(button) + L"_Click").c_str());
+}
+
+void frmQuickSwitch::mnuAssign_Click() try {
+    frmAssign().ShowModal();
+    Refresh_Screen();
+} catch (...) {
+    ErrorReport(L"frmQuickSwitch: Sub mnuAssign_Click");
+}
+
+void frmQuickSwitch::mnuControlClose_Click() { Unload(); }
+
+void frmQuickSwitch::mnuExit_Click() {
+    Program().ExitRequested = true;
+    Program().QuickSwitchHandled = true;
+    Unload();
+}
+
+void frmQuickSwitch::cmdCancel_Click() {
+    Program().QuickSwitchHandled = true;
+    Unload();
+}
+
+const std::wstring& frmQuickSwitch::NameOf(int button) const {
+    return QuickSwitchNames_.at(static_cast<size_t>(button) - 1);
+}
+
+bool frmQuickSwitch::IsOpenInAct(const std::wstring& name) const {
+    return Program().OpenDatabaseNames.find(L"|" + name + L"|") != std::wstring::npos;
+}
+
+std::wstring frmQuickSwitch::CaptionOf(int button) const {
+    const std::wstring& name = NameOf(button);
+    return !name.empty() && IsOpenInAct(name) ? L"(" + name + L")" : name;
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "program/MainWindow.h"
+#include "quickswitch/Tracker.h"
+#include "ui/Button.h"
+#include "ui/Form.h"
+#include "ui/Menu.h"
+#include "ui/PictureBox.h"
+#include "ui/ToolTip.h"
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// The palette: a small window on top of all others with up to eight buttons, each of which opens a database.
+/// Every way of leaving it that must not bring the main window back sets the program's QuickSwitchHandled.
+class frmQuickSwitch : public Form {
+public:
+    explicit frmQuickSwitch(MainWindow& mainWindow);
+
+    static constexpr int ButtonCount = 8;
+
+    PictureBox pic1{this, L"pic1", ButtonPlace(1), Drawer(1), KeyHandler(1)};
+    PictureBox pic2{this, L"pic2", ButtonPlace(2), Drawer(2), KeyHandler(2)};
+    PictureBox pic3{this, L"pic3", ButtonPlace(3), Drawer(3), KeyHandler(3)};
+    PictureBox pic4{this, L"pic4", ButtonPlace(4), Drawer(4), KeyHandler(4)};
+    PictureBox pic5{this, L"pic5", ButtonPlace(5), Drawer(5), KeyHandler(5)};
+    PictureBox pic6{this, L"pic6", ButtonPlace(6), Drawer(6), KeyHandler(6)};
+    PictureBox pic7{this, L"pic7", ButtonPlace(7), Drawer(7), KeyHandler(7)};
+    PictureBox pic8{this, L"pic8", ButtonPlace(8), Drawer(8), KeyHandler(8)};
+    CommandButton cmdCancel{this, L"cmdCancel", {}, &frmQuickSwitch::cmdCancel_Click, Cancel};
+
+    Menu mnuControl{this, L"mnuControl", Menu::Place::PopUp};
+    MenuItem mnuAssign{this, mnuControl, L"mnuAssign", &frmQuickSwitch::mnuAssign_Click};
+    MenuSeparator mnuControlSep10{mnuControl};
+    MenuItem mnuControlClose{this, mnuControl, L"mnuControlClose", &frmQuickSwitch::mnuControlClose_Click};
+    MenuItem mnuExit{this, mnuControl, L"mnuExit", &frmQuickSwitch::mnuExit_Click};
+
+    /// The place of a button (1 to 8) in twips: odd ones above, even ones below, a column to the right for each pair.
+    static Twips ButtonPlace(int button);
+
+private:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Deactivate() override;
+    void Form_Resize() override;
+    void Form_Unload() override;
+    void Form_CloseBox() override { Unload(); }
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void Form_Paint();
+    void Form_MouseDown(POINT position);
+    void Refresh_Screen();
+    void ReadScheme();
+    void ReadNames();
+    void ShowColumns();
+    void AttachTrackers();
+    void RestorePosition();
+    void Save_Position() const;
+    void Tracker_Click(int button);
+    void MouseAction(PictureBox& picture, int action, int button);
+    void DrawButton(int button, HDC canvas, const RECT& area, bool isFocused);
+    void Write_Picture(int button, HDC canvas, const RECT& area) const;
+    bool KeyDown(int button, int key);
+    void ShowControlMenu(POINT position);
+    bool IsOpenInAct(const std::wstring& name) const;
+    const std::wstring& NameOf(int button) const;
+    std::wstring CaptionOf(int button) const;
+    int StripWidth() const;
+    PictureBox& Picture(int button);
+    PictureBox::Draw Drawer(int button);
+    std::function<bool(int)> KeyHandler(int button);
+    void mnuAssign_Click();
+    void mnuControlClose_Click();
+    void mnuExit_Click();
+    void cmdCancel_Click();
+
+    MainWindow& mainWindow_;
+    std::array<Tracker, ButtonCount> trackers_;
+    std::array<bool, ButtonCount> isHighlighted_{};
+    std::vector<std::wstring> QuickSwitchNames_;
+    short Scheme_ = 0;
+    RECT ControlBoxRect_{};
+    int StripColor_ = COLOR_ACTIVECAPTION;
+    ToolTip toolTip_;
+};

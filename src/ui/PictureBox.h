@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <functional>
+#include <utility>
+
+/// A surface with a picture that its form draws. It can be pressed, hovered over and reached by keyboard; to assistive
+/// tools it is a button with its text as name.
+class PictureBox : public Control {
+public:
+    /// Draws into `area` (pixels of the box); `isFocused` tells whether to show the keyboard focus.
+    using Draw = std::function<void(HDC canvas, const RECT& area, bool isFocused)>;
+    /// What happens to the box. Empty ones are ignored.
+    struct Events {
+        Action MouseMove;  ///< the pointer is over the box
+        Action MouseLeave; ///< it has left, or the mouse belongs to somebody else now
+        Action Click;      ///< pressed and released on the box, or Space or Enter
+    };
+
+    /// A picture to look at, inside a frame.
+    PictureBox(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Draw draw);
+    /// A picture to press. `keyDown` gets virtual key codes that move between pictures; true when it used one.
+    PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw, std::function<bool(int key)> keyDown);
+
+    void Listen(Events events) { events_ = std::move(events); }
+    void Refresh();
+    /// Does what a click does.
+    void Press() const { Raise(L"Click", events_.Click); }
+
+private:
+    void OnCreated() override;
+    void OnCommand(WORD notification) override;
+    void OnDraw(const DRAWITEMSTRUCT& draw) override;
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
+    void OnMouseMove();
+
+    Draw draw_;
+    std::function<bool(int)> keyDown_;
+    Events events_;
+    WNDPROC original_ = nullptr;
+    bool isHot_ = false;
+};

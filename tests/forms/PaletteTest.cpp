@@ -1,0 +1,225 @@
+// The palette, its settings dialog, and the start of ACT! from it.
+
+#include "program/Program.h"
+#include "quickswitch/frmAssign.h"
+#include "quickswitch/frmQuickSwitch.h"
+#include "settings/IniLib.h"
+#include "settings/RegistrySubs.h"
+#include "settings/UserStore.h"
+#include "support/ActDesk.h"
+#include "support/DialogScript.h"
+#include "support/Wide.h"
+
+namespace {
+
+/// The main window as the palette sees it.
+class NotedOpens : public MainWindow {
+public:
+    void Open_DB(const std::wstring& name, short viewCode, bool mainHidden) override {
+        Opened += name + L"/" + std::to_wstring(viewCode) + (mainHidden ? L"/hidden;" : L"/shown;");
+    }
+    void ShowMain() override { ++Shown; }
+    int SelectedIndex() const override { return -1; }
+    void SelectedIndex(int) override {}
+    void ReplaceRow(const std::wstring&) override {}
+
+    std::wstring Opened;
+    int Shown = 0;
+};
+
+void Assign(const wchar_t* buttons) { IniLib::WriteKeyValue(L"General", L"QuickSwitch", buttons); }
+
+/// What a showing of the palette did to the main window.
+struct Outcome {
+    std::wstring Opened;
+    int Shown;
+};
+
+/// Shows the palette and plays one step in it.
+Outcome Show(const std::function<void(frmQuickSwitch&, HWND)>& step) {
+    NotedOpens main;
+    frmQuickSwitch palette(main);
+    DialogScript script;
+    script.Then([&](HWND window) { step(palette, window); });
+    palette.ShowModal();
+    return {main.Opened, main.Shown};
+}
+
+void Press(HWND palette, const wchar_t* button) {
+    HWND box = FindControl(palette, button);
+    SendMessageW(palette, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(box), BN_CLICKED), reinterpret_cast<LPARAM>(box));
+}
+
+std::wstring ActText(const wchar_t* key, const wchar_t* name) {
+    const auto value = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, key, name);
+    const auto* text = std::get_if<std::wstring>(&value);
+    return text ? *text : L"(none)";
+}
+
+void MakeActKeys() {
+    for (const wchar_t* name : {L"Software\\Symantec\\ACT!\\Database", L"Software\\Symantec\\ACT!\\General"}) {
+        RegistryKey key;
+        RegCreateKeyExW(HKEY_CURRENT_USER, name, 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(), nullptr);
+    }
+}
+
+} // namespace
+
+TEST_CASE("The palette is as wide as its highest assigned pair of buttons needs") {
+    struct Case {
+        const wchar_t* buttons;
+        int width;
+        bool isThirdShown;
+    };
+    for (const auto& [buttons, width, isThirdShown] :
+         {Case{L"", 1440, false}, Case{L"A;B", 1440, false}, Case{L";;C", 2580, true}, Case{L";;;;;F", 3725, true},
+          Case{L";;;;;;;H", 4865, true}, Case{L";;;;;;;;tenth;I", 1440, false}}) {
+        ActDesk desk;
+        Assign(buttons);
+        Show([&](frmQuickSwitch& palette, HWND window) {
+            CHECK(ToPixels(palette.OuterSize().Width, palette.Dpi()) == ToPixels(width, palette.Dpi()));
+            CHECK(palette.OuterSize().Height == 2400);
+            CHECK((IsWindowVisible(FindControl(window, L"pic3")) != FALSE) == isThirdShown);
+            CHECK((GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0);
+            palette.mnuExit.Click();
+        });
+    }
+}
+
+TEST_CASE(
+    "A button opens its database once; that of the open database is in parentheses and dead, as is an empty one") {
+    ActDesk desk;
+    Assign(L"Sales;Service");
+    Program().OpenDatabaseNames = L"|Service||Sal|";
+    const Outcome main = Show([](frmQuickSwitch&, HWND window) {
+        CHECK(WindowText(FindControl(window, L"pic1")) == L"Sales");
+        CHECK(WindowText(FindControl(window, L"pic2")) == L"(Service)");
+        Press(window, L"pic2");
+        Press(window, L"pic3");
+        Press(window, L"pic1");
+        Press(window, L"pic1");
+    });
+    CHECK(main.Opened == L"Sales/0/hidden;");
+    CHECK(main.Shown == 0);
+}
+
+TEST_CASE("Only closing the palette brings the main window back; Exit, Esc and a button do not") {
+    struct Case {
+        void (*leave)(frmQuickSwitch&, HWND);
+        int shown;
+    };
+    for (const Case& test :
+         {Case{[](frmQuickSwitch&palette, HWND) { palette.mnuControlClose.Click(); }, 1},
+          Case{[](frmQuickSwitch&, HWND window) { PostMessageW(window, WM_CLOSE, 0, 0); }, 1},
+          Case{[](frmQuickSwitch&palette, HWND) { palette.mnuExit.Click(); }, 0},
+          Case{[](frmQuickSwitch&, HWND) { PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1); }, 0}}) {
+        ActDesk desk;
+        CHECK(Show(test.leave).Shown == test.shown);
+    }
+}
+
+TEST_CASE("The palette comes back where it was left, and onto the screen from a monitor that is gone") {
+    ActDesk desk;
+    Show([](frmQuickSwitch& palette, HWND) {
+        palette.Position(1500, 3000);
+        palette.mnuExit.Click();
+    });
+    CHECK(UserStore::Get(L"Settings", L"QuickLeft") == L"1500");
+    CHECK(UserStore::Get(L"Settings", L"QuickTop") == L"3000");
+    UserStore::Set(L"Settings", L"QuickLeft", L"-90000,5");
+    Show([](frmQuickSwitch& palette, HWND) {
+        CHECK(palette.Position().Left == 0);
+        CHECK(palette.Position().Top == 3000);
+        palette.mnuExit.Click();
+    });
+}
+
+TEST_CASE("Keys move the focus and press buttons") {
+    ActDesk desk;
+    Assign(L"A;B;C;D");
+    const Outcome main = Show([](frmQuickSwitch&, HWND window) {
+        CHECK(GetFocus() == FindControl(window, L"pic1"));
+        SendMessageW(GetFocus(), WM_KEYDOWN, VK_RIGHT, 1);
+        CHECK(GetFocus() == FindControl(window, L"pic3"));
+        SendMessageW(GetFocus(), WM_KEYDOWN, VK_DOWN, 1);
+        CHECK(GetFocus() == FindControl(window, L"pic4"));
+        SendMessageW(GetFocus(), WM_KEYDOWN, VK_RIGHT, 1); // no further column
+        CHECK(GetFocus() == FindControl(window, L"pic4"));
+        SendMessageW(GetFocus(), WM_KEYDOWN, '2', 1);
+    });
+    CHECK(main.Opened == L"B/0/hidden;");
+}
+
+TEST_CASE("A scheme that is none is reported, and the palette still comes up") {
+    for (const auto& [scheme, number] :
+         {std::pair{L"blue", L"Error 13: "}, {L"5", L"Error 9: "}, {L"-1", L"Error 9: "}}) {
+        ActDesk desk;
+        Assign(L"A");
+        IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", scheme);
+        NotedOpens main;
+        frmQuickSwitch palette(main);
+        DialogScript script;
+        script.Answer(IDOK).Then([&](HWND window) {
+            CHECK(IsWindowVisible(window));
+            palette.mnuExit.Click();
+        });
+        palette.ShowModal();
+        CHECK(script.All()[0].Text.starts_with(number));
+        CHECK(script.All()[0].Text.find(L"frmQuickSwitch: Sub Refresh_Screen - Line # ") != std::wstring::npos);
+    }
+}
+
+TEST_CASE("The settings offer every database, drop a vanished name, and write all three keys") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {});
+    desk.AddDatabase(L"Service", {});
+    Assign(L"Gone;Service");
+    frmAssign dialog;
+    DialogScript script;
+    script.Then([&](HWND window) {
+        CHECK(SendMessageW(FindControl(window, L"cboDB", 0), CB_GETCOUNT, 0, 0) == 3);
+        CHECK(dialog.cboDB[0].SelectedText().empty());
+        CHECK(dialog.cboDB[1].SelectedText() == L"Service");
+        dialog.cboDB[7].Select(L"Sales");
+        dialog.optColor[0].Value(false);
+        dialog.optColor[3].Value(true);
+        dialog.chkStartup.Value(true);
+        Click(FindControl(window, L"cmdOK"));
+    });
+    dialog.ShowModal();
+    CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitch") == L";Service;;;;;;Sales");
+    CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitchScheme") == L"3");
+    CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup") == L"1");
+}
+
+TEST_CASE(
+    "Without a running ACT! the palette's choice goes into ACT!'s own settings; leaving without one writes nothing") {
+    for (const bool isChosen : {true, false}) {
+        ActDesk desk;
+        MakeActKeys();
+        desk.Act.InstanceCount = 0;
+        desk.AddDatabase(L"Sales",
+                         {{L"Path", L"C:\\Data\\Sales.dbf"}, {L"CLY", L"C:\\L\\S.cly"}, {L"Query", L"C:\\Q"}});
+        UserStore::Set(L"Sales", L"Username", L"Chris");
+        UserStore::Set(L"Logon", L"Username", L"before");
+        Assign(L"Sales");
+        IniLib::WriteKeyValue(L"General", L"QuickSwitchStartup", L"1");
+        DialogScript script;
+        script.Then([&](HWND window) { Press(window, isChosen ? L"pic1" : L"cmdCancel"); });
+        if (isChosen) script.Answer(IDOK); // no program is associated with ".dbf" in this prefix
+        frmMain window;
+        window.Load();
+        RunToEnd(window);
+        const wchar_t* const database = L"Software\\Symantec\\ACT!\\Database";
+        CHECK(ActText(database, L"Last DB Name") == (isChosen ? L"C:\\Data\\Sales.dbf" : L"(none)"));
+        CHECK(ActText(database, L"Contact Layout") == (isChosen ? L"C:\\L\\S.cly" : L"(none)"));
+        CHECK(ActText(database, L"Group Layout") == L"(none)"); // empty: ACT! keeps its own
+        CHECK(ActText(L"Software\\Symantec\\ACT!\\General", L"Macro Name") == (isChosen ? L"" : L"(none)"));
+        CHECK(ActText(L"Software\\Symantec\\ACT!", L"Query File Type") == (isChosen ? L"C:\\Q" : L"(none)"));
+        const auto useLast = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, database, L"Use Last DB");
+        CHECK((std::get_if<std::int32_t>(&useLast) != nullptr) == isChosen);
+        CHECK(UserStore::Get(L"Logon", L"Username") == L"before");
+        if (isChosen) CHECK(script.All()[1].Text == L"Please run ACT! before running Kelmorra");
+        CHECK(desk.Act.CallsSince(0) == L"InstanceCount()\nRegistrationFailed()\nClose()\n");
+    }
+}
