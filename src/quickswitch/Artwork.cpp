@@ -91,8 +91,9 @@ void DrawTile(Picture& picture, int left, int top, int width, int height, int sh
             Sum sum;
             Rgb& pixel = picture.At(left + x, top + y);
             for (int sample = 0; sample < kSamples * kSamples; ++sample) {
+                const int line = sample / kSamples;
                 const double subX = x + (sample % kSamples + 0.5) / kSamples;
-                const double subY = y + (static_cast<double>(sample / kSamples) + 0.5) / kSamples;
+                const double subY = y + (line + 0.5) / kSamples;
                 const double depth = Depth(shape, subX, subY, width, height);
                 const bool isRim = hasRim && depth < rim;
                 sum.Add(depth < 0 ? pixel : (isRim ? kRim : fill));

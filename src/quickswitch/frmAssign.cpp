@@ -100,7 +100,7 @@ void frmAssign::SetCaptions() {
     chkStartup.Text(LangText[145]);
     lblLayout.Text(LangText[138] + L":");
     fraColors.Text(LangText[146] + L":");
-    for (size_t scheme = 0; scheme < optColor.Size(); ++scheme)
+    for (size_t scheme = 0; scheme < Artwork::SchemeCount; ++scheme)
         optColor[scheme].Text(LangText[139] + L" " + std::to_wstring(scheme + 1)); // for screen readers
     cmdOK.Text(LangText[1]);
     cmdCancel.Text(LangText[2]);
@@ -127,7 +127,7 @@ void frmAssign::cmdOK_Click() try {
     std::vector<std::wstring> names;
     for (const ComboBox& list : cboDB) names.push_back(list.SelectedText());
     size_t scheme = 0;
-    while (scheme + 1 < optColor.Size() && !optColor[scheme].Value()) ++scheme;
+    while (scheme + 1 < Artwork::SchemeCount && !optColor[scheme].Value()) ++scheme;
     IniLib::WriteKeyValue(L"General", L"QuickSwitch", Text::Join(names, L';'));
     IniLib::WriteKeyValue(L"General", L"QuickSwitchStartup", chkStartup.Value() ? L"1" : L"0");
     IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));

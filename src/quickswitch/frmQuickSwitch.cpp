@@ -96,20 +96,22 @@ void frmQuickSwitch::AttachTrackers() {
 void frmQuickSwitch::RestorePosition() {
     const auto top = Text::Measure(UserStore::Get(L"Settings", L"QuickTop"));
     const auto left = Text::Measure(UserStore::Get(L"Settings", L"QuickLeft"));
-    const Twips current = Position();
-    Position(static_cast<int>(left.value_or(current.Left)), static_cast<int>(top.value_or(current.Top)));
-    RECT outer{};
-    GetWindowRect(Handle(), &outer);
-    if (MonitorFromRect(&outer, MONITOR_DEFAULTTONULL)) return;
-    // That monitor is gone: onto the nearest one that is there.
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromRect(&outer, MONITOR_DEFAULTTONEAREST), &monitor);
-    const RECT& screen = monitor.rcWork;
-    const LONG x =
-        std::clamp(outer.left, screen.left, std::max(screen.left, screen.right - (outer.right - outer.left)));
-    const LONG y = std::clamp(outer.top, screen.top, std::max(screen.top, screen.bottom - (outer.bottom - outer.top)));
-    SetWindowPos(Handle(), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT place{};
+    GetWindowRect(Handle(), &place);
+    OffsetRect(&place, left ? ToPixels(static_cast<int>(*left), Dpi()) - place.left : 0,
+               top ? ToPixels(static_cast<int>(*top), Dpi()) - place.top : 0);
+    if (!MonitorFromRect(&place, MONITOR_DEFAULTTONULL)) {
+        // That monitor is gone: onto the nearest one that is there.
+        MONITORINFO monitor{};
+        monitor.cbSize = sizeof monitor;
+        GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor);
+        const RECT& screen = monitor.rcWork;
+        const LONG rightmost = std::max(screen.left, screen.right - (place.right - place.left));
+        const LONG lowest = std::max(screen.top, screen.bottom - (place.bottom - place.top));
+        OffsetRect(&place, std::clamp(place.left, screen.left, rightmost) - place.left,
+                   std::clamp(place.top, screen.top, lowest) - place.top);
+    }
+    SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmQuickSwitch::Save_Position() const try {

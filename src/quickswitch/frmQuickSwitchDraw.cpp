@@ -27,12 +27,8 @@ private:
 };
 
 FontHandle CaptionFont(int dpi) {
-    constexpr int kPoints = 8;
-    constexpr int kPointsPerInch = 72;
-    LOGFONTW font{};
-    font.lfHeight = -MulDiv(kPoints, dpi, kPointsPerInch);
+    LOGFONTW font = FormFont(dpi);
     font.lfWeight = FW_BOLD;
-    font.lfCharSet = DEFAULT_CHARSET;
     lstrcpynW(font.lfFaceName, L"Arial", LF_FACESIZE);
     return FontHandle(CreateFontIndirectW(&font));
 }

@@ -65,9 +65,9 @@ void Form::Load() {
     CreateMenuBar();
     for (size_t index = 0; index < controls_.size(); ++index) controls_[index]->Create(static_cast<int>(index) + 100);
     // Pages lie on the tab control that was declared before them, and everything else on the pages.
-    for (auto control = controls_.rbegin(); control != controls_.rend(); ++control)
-        if ((*control)->LiesBehind())
-            SetWindowPos((*control)->Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    for (size_t index = controls_.size(); index-- > 0;)
+        if (controls_[index]->LiesBehind())
+            SetWindowPos(controls_[index]->Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ApplyFont();
     ApplyDesignSize();
     Form_Load();
