@@ -17,13 +17,6 @@ int SelectedLine(HWND list) {
     return static_cast<int>(SendMessageW(JourneyWindow::Control(list, L"lstDB"), LB_GETCURSEL, 0, 0));
 }
 
-void DoubleClickRow(HWND window, int row) {
-    HWND control = ListOf(window);
-    REQUIRE(JourneyWindow::InFront(control));
-    const RECT place = ForeignList(control).CellPlace(row, 0);
-    JourneyWindow::DoubleClick(control, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
-}
-
 /// Three databases that need not open, with both stores and the buttons filled.
 void FurnishThree(Journey& journey) {
     for (const wchar_t* name : {L"Archive", L"Customers", L"Suppliers"}) {

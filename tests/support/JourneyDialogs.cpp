@@ -70,4 +70,11 @@ std::wstring Rows(HWND mainWindow) {
 
 HWND ListOf(HWND mainWindow) { return JourneyWindow::Control(mainWindow, L"ListView1"); }
 
+void DoubleClickRow(HWND mainWindow, int row) {
+    HWND control = ListOf(mainWindow);
+    REQUIRE(JourneyWindow::InFront(control));
+    const RECT place = ForeignList(control).CellPlace(row, 0);
+    JourneyWindow::DoubleClick(control, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+}
+
 } // namespace JourneyDialogs

@@ -31,4 +31,7 @@ std::wstring Lines(HWND listMaintenance);
 std::wstring Rows(HWND mainWindow);
 HWND ListOf(HWND mainWindow);
 
+/// Double-clicks a row of the main window's list with a real mouse.
+void DoubleClickRow(HWND mainWindow, int row);
+
 } // namespace JourneyDialogs

@@ -130,6 +130,17 @@ bool InFront(HWND control) {
 }
 
 void DoubleClick(HWND window, POINT place) {
+    // A new window is moved by the window manager a moment after it appears.
+    constexpr DWORD kSettledMilliseconds = 300;
+    POINT last{-1, -1};
+    DWORD since = 0;
+    Within([&] {
+        POINT now{};
+        ClientToScreen(window, &now);
+        if (now.x != last.x || now.y != last.y) since = GetTickCount();
+        last = now;
+        return GetTickCount() - since >= kSettledMilliseconds;
+    });
     ClientToScreen(window, &place);
     SetCursorPos(place.x, place.y);
     for (int click = 0; click < 2; ++click) {
