@@ -96,12 +96,13 @@ void frmMain::Form_Resize() {
     if (!Handle()) return;
     RECT outer{};
     GetWindowRect(Handle(), &outer);
-    const int width = ToTwips(outer.right - outer.left, Dpi());
-    const int height = ToTwips(outer.bottom - outer.top, Dpi());
-    const bool isTooSmall = width < kDesignWidth || height < kDesignHeight;
+    // In pixels: the design size itself, rounded to pixels and back, can fall short of itself in twips.
+    const LONG width = outer.right - outer.left;
+    const LONG height = outer.bottom - outer.top;
+    const bool isTooSmall = width < ToPixels(kDesignWidth, Dpi()) || height < ToPixels(kDesignHeight, Dpi());
     if (isTooSmall && !IsIconic(Handle())) {
-        OuterSize(std::max(width, kDesignWidth), std::max(height, kDesignHeight)); // comes back here
-        return;
+        OuterSize(std::max(ToTwips(width, Dpi()), kDesignWidth), std::max(ToTwips(height, Dpi()), kDesignHeight));
+        return; // the new size comes back here
     }
     const Twips layout = LayoutSize();
     LayOut(layout.Width, layout.Height);

@@ -42,7 +42,7 @@ std::array<Twips, Artwork::SchemeCount> frmAssign::OptionPlaces() {
     std::array<Twips, Artwork::SchemeCount> places;
     for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme) {
         const Twips sample = SamplePlace(scheme);
-        places[static_cast<size_t>(scheme)] = {sample.Left - 330, sample.Top + 435, 255, 210};
+        places[static_cast<size_t>(scheme)] = {sample.Left - 330, sample.Top + 435, 210, 210};
     }
     return places;
 }

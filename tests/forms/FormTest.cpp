@@ -48,11 +48,11 @@ TEST_CASE("Enter presses the default button or the one that has the focus; Esc a
         DialogScript script;
         script.Then([&](HWND window) {
             // The first button has the focus at the start.
-            CHECK(GetFocus() == FindControl(window, L"cmdOK"));
-            PressKey(GetFocus(), VK_RETURN);
+            CHECK(FocusIn(window) == FindControl(window, L"cmdOK"));
+            PressKey(FocusIn(window), VK_RETURN);
             PumpUntil([&] { return form.Pressed == 1; });
             if (byKeyboard)
-                PressKey(GetFocus(), VK_ESCAPE);
+                PressKey(FocusIn(window), VK_ESCAPE);
             else
                 PostMessageW(window, WM_CLOSE, 0, 0);
         });

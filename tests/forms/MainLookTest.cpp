@@ -26,8 +26,8 @@ TEST_CASE("Growing the window grows the list and keeps the distances to the righ
     CHECK(PlaceOf(window.optView[6].Handle()).top == option.top + down);
     CHECK(PlaceOf(window.optView[6].Handle()).left == option.left);
     window.OuterSize(3000, 3000);
-    CHECK(window.OuterSize().Width == 8475);
-    CHECK(window.OuterSize().Height == 5190);
+    CHECK(ToPixels(window.OuterSize().Width, window.Dpi()) == ToPixels(8475, window.Dpi()));
+    CHECK(ToPixels(window.OuterSize().Height, window.Dpi()) == ToPixels(5190, window.Dpi()));
     CHECK(PlaceOf(window.ListView1.Handle()).bottom == list.bottom);
     End(window);
 }
@@ -43,6 +43,6 @@ TEST_CASE("The label of a view checks its option, only that one, and the list ge
                  reinterpret_cast<LPARAM>(window.lblView[5].Handle()));
     CHECK(window.optView[5].Value());
     CHECK(std::ranges::count_if(window.optView, [](const OptionButton& option) { return option.Value(); }) == 1);
-    CHECK(GetFocus() == window.ListView1.Handle());
+    CHECK(FocusIn(window.Handle()) == window.ListView1.Handle());
     End(window);
 }

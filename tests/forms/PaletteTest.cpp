@@ -112,7 +112,7 @@ TEST_CASE("Only closing the palette brings the main window back; Exit, Esc and a
          {Case{[](frmQuickSwitch&palette, HWND) { palette.mnuControlClose.Click(); }, 1},
           Case{[](frmQuickSwitch&, HWND window) { PostMessageW(window, WM_CLOSE, 0, 0); }, 1},
           Case{[](frmQuickSwitch&palette, HWND) { palette.mnuExit.Click(); }, 0},
-          Case{[](frmQuickSwitch&, HWND) { PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1); }, 0}}) {
+          Case{[](frmQuickSwitch&, HWND window) { PostMessageW(FocusIn(window), WM_KEYDOWN, VK_ESCAPE, 1); }, 0}}) {
         ActDesk desk;
         CHECK(Show(test.leave).Shown == test.shown);
     }
@@ -143,14 +143,14 @@ TEST_CASE("Keys move the focus and press buttons") {
     ActDesk desk;
     Assign(L"A;B;C;D");
     const Outcome main = Show([](frmQuickSwitch&, HWND window) {
-        CHECK(GetFocus() == FindControl(window, L"pic1"));
-        SendMessageW(GetFocus(), WM_KEYDOWN, VK_RIGHT, 1);
-        CHECK(GetFocus() == FindControl(window, L"pic3"));
-        SendMessageW(GetFocus(), WM_KEYDOWN, VK_DOWN, 1);
-        CHECK(GetFocus() == FindControl(window, L"pic4"));
-        SendMessageW(GetFocus(), WM_KEYDOWN, VK_RIGHT, 1); // no further column
-        CHECK(GetFocus() == FindControl(window, L"pic4"));
-        SendMessageW(GetFocus(), WM_KEYDOWN, '2', 1);
+        CHECK(FocusIn(window) == FindControl(window, L"pic1"));
+        SendMessageW(FocusIn(window), WM_KEYDOWN, VK_RIGHT, 1);
+        CHECK(FocusIn(window) == FindControl(window, L"pic3"));
+        SendMessageW(FocusIn(window), WM_KEYDOWN, VK_DOWN, 1);
+        CHECK(FocusIn(window) == FindControl(window, L"pic4"));
+        SendMessageW(FocusIn(window), WM_KEYDOWN, VK_RIGHT, 1); // no further column
+        CHECK(FocusIn(window) == FindControl(window, L"pic4"));
+        SendMessageW(FocusIn(window), WM_KEYDOWN, '2', 1);
     });
     CHECK(main.Opened == L"B/0/hidden;");
 }

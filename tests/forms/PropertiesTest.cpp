@@ -110,7 +110,7 @@ TEST_CASE("Input that is refused names the reason, shows its tab, and writes not
         CHECK(session.Script.All()[1].Title == L"Kelmorra");
         CHECK(session.Script.All()[1].Text == expected);
         CHECK(session.Dialog.mstOptions.Tab() == test.tab);
-        CHECK(GetFocus() == FindControl(dialog, test.box));
+        CHECK(FocusIn(dialog) == FindControl(dialog, test.box));
         CHECK_FALSE(session.Dialog.Unloaded());
         CHECK(desk.SettingsBytes() == before);
         CHECK(Stored(L"Sales", L"UsePassword") == L"(none)");

@@ -69,6 +69,14 @@ void PumpUntil(const std::function<bool()>& condition, unsigned milliseconds) {
     }
 }
 
+HWND FocusIn(HWND form) {
+    if (!GetFocus()) {
+        SetForegroundWindow(form);
+        PumpUntil([] { return GetFocus() != nullptr; });
+    }
+    return GetFocus();
+}
+
 DialogScript::DialogScript()
     : hook_(SetWindowsHookExW(WH_CBT, &DialogScript::OnHook, nullptr, GetCurrentThreadId())),
       timer_(SetTimer(nullptr, 0, 20, &DialogScript::OnTimer)) {

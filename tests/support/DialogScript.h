@@ -50,6 +50,10 @@ HWND FindControl(HWND form, const wchar_t* name, int index = 0);
 /// A window's text.
 std::wstring WindowText(HWND window);
 
+/// The control that has the focus in a form. When the window manager has just given the focus to somebody else, the
+/// form is brought back first.
+HWND FocusIn(HWND form);
+
 /// Clicks a button as a user does: the message is posted.
 void Click(HWND button);
 
