@@ -76,7 +76,7 @@ void frmMain::Form_Load() try {
 bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
     switch (message) {
     case kActIsClosing:
-        isClosing_ = true;
+        Program().ActIsClosing = true;
         SilenceMessages(true);
         EndMenu();
         tmrClose.Interval(kCloseRetryMilliseconds);
@@ -204,7 +204,7 @@ void frmMain::tmrClose_Timer() {
 
 void frmMain::EndIfInvisible() {
     const bool isAnyVisible = std::ranges::any_of(Form::Loaded(), [](const Form* form) { return form->Visible(); });
-    if (!isAnyVisible && !isClosing_ && !Program().StartActMode) Unload();
+    if (!isAnyVisible && !Program().ActIsClosing && !Program().StartActMode) Unload();
 }
 
 void frmMain::ShowQuickSwitch() {

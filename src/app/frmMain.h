@@ -172,7 +172,6 @@ private:
     int sortColumn_ = -1;
     bool sortDescending_ = false;
     bool reload_ = false;     ///< Form_Load runs again after a change of language
-    bool isClosing_ = false;  ///< ACT! is closing: the program follows
     bool sizeLoaded_ = false; ///< each of these is saved only when it was loaded in this run
     bool columnsLoaded_ = false;
     bool listLoaded_ = false;

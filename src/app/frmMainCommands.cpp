@@ -50,7 +50,7 @@ void frmMain::mnuProperties_Click() { mnuEditProperties_Click(); }
 
 void frmMain::mnuManageList_Click() {
     frmListMaintenance(*this).ShowModal();
-    if (!isClosing_) ReloadList();
+    if (!Program().ActIsClosing) ReloadList();
     EndIfInvisible();
 }
 
@@ -69,7 +69,7 @@ void frmMain::mnuQuickSwitch_Click() { ShowQuickSwitch(); }
 
 void frmMain::mnuLanguages_Click() {
     frmLanguage().ShowModal();
-    if (isClosing_) return;
+    if (Program().ActIsClosing) return;
     // The load sequence restores what is stored: the window must not jump back to the size of the last run.
     SaveLayout();
     reload_ = true;

@@ -33,7 +33,7 @@ void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden)
     try {
         if (OpenInAct(name, viewCode, mainHidden)) Unload();
     } catch (...) {
-        if (!isClosing_) Show();
+        if (!Program().ActIsClosing) Show();
         ErrorReport(L"frmMain: Sub cmdOpen_Click");
     }
     EndIfInvisible();
@@ -61,7 +61,7 @@ bool frmMain::OpenDatabase(const std::wstring& path) {
         Program().Application.openDB(path);
         return true;
     } catch (const Error& error) {
-        if (!isClosing_) Show();
+        if (!Program().ActIsClosing) Show();
         if (error.Number == BasicError::ObjectNotSet)
             MsgBox(LangText[104] + L"\r\n\r\n" + LangText[105], MsgIcon::None, LangText[82].c_str());
         else

@@ -96,7 +96,7 @@ bool frmMain::UpgradeSettings() {
 bool frmMain::FirstRunLanguage() {
     if (!IsFirstRun()) return true;
     frmLanguage().ShowModal();
-    if (isClosing_) return false;
+    if (Program().ActIsClosing) return false;
     LoadLanguage();
     Create_LinkMenuItem(toolbarIcon_.GetACTLocation());
     return true;
@@ -186,7 +186,7 @@ void frmMain::FillAndSelect() {
 }
 
 void frmMain::ShowFirstWindow() {
-    if (isClosing_) return;
+    if (Program().ActIsClosing) return;
     if (OpensQuickSwitchAtStart())
         ShowQuickSwitch();
     else

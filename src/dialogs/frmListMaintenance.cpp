@@ -2,6 +2,7 @@
 
 #include "dialogs/frmProperties.h"
 #include "i18n/modLangues.h"
+#include "program/Program.h"
 #include "settings/Database.h"
 #include "support/ErrorReport.h"
 
@@ -38,6 +39,7 @@ void frmListMaintenance::Save_List() const {
 }
 
 void frmListMaintenance::Form_Unload() try {
+    if (Program().ActIsClosing) return; // nobody chose to keep the moves
     Save_List();
     mainWindow_.SelectedIndex(lstDB.ListIndex());
 } catch (...) {

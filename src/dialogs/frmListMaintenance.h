@@ -6,7 +6,8 @@
 #include "ui/Label.h"
 #include "ui/ListBox.h"
 
-/// Edits the list of databases: adds, removes and orders them. Removals are written at once, moves when it closes.
+/// Edits the list of databases: adds, removes and orders them. Removals are written at once, moves when it closes,
+/// unless it is ACT! that closes.
 class frmListMaintenance : public Form {
 public:
     explicit frmListMaintenance(MainWindow& mainWindow);

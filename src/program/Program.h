@@ -15,11 +15,12 @@ struct ProgramState {
     std::wstring FriendlyName;               ///< the database being edited or opened
     std::vector<std::wstring> DatabaseNames; ///< the list, in the order of "Sort"
     std::wstring OpenDatabaseNames;          ///< the databases that ACT! has open, each as "|" + name + "|"
-    bool AskForUsername = false;             ///< the properties dialog is to ask for the user name
-    bool QuickSwitchHandled = false;         ///< the palette was left in a way that does not bring the main window back
-    bool ExitRequested = false;              ///< the palette's Exit was chosen
-    bool ACTStartedByProgram = false;        ///< ACT! is being started by this program
-    bool StartActMode = false;               ///< ACT! was not running: Open_DB only records the chosen name
+    bool ActIsClosing = false;   ///< ACT!'s user is closing it: the program follows, nothing more is saved in dialogs
+    bool AskForUsername = false; ///< the properties dialog is to ask for the user name
+    bool QuickSwitchHandled = false;  ///< the palette was left in a way that does not bring the main window back
+    bool ExitRequested = false;       ///< the palette's Exit was chosen
+    bool ACTStartedByProgram = false; ///< ACT! is being started by this program
+    bool StartActMode = false;        ///< ACT! was not running: Open_DB only records the chosen name
 };
 
 ProgramState& Program();

@@ -4,6 +4,7 @@
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
 #include "i18n/modLangues.h"
+#include "program/Program.h"
 #include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "support/ActDesk.h"
@@ -66,6 +67,16 @@ TEST_CASE("Moves are written when the dialog closes, in any way, and the moved l
     });
     CHECK(Sort() == L"C;A;B");
     CHECK(selected == 0);
+}
+
+TEST_CASE("Moves that nobody confirmed are not written when ACT! closes") {
+    ActDesk desk;
+    Maintain(desk, 0, [](HWND dialog) {
+        Press(dialog, L"cmdDown");
+        Program().ActIsClosing = true;
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    CHECK(Sort() == L"A;B;C");
 }
 
 TEST_CASE("Removing clears both stores and the buttons at once and selects the line that moved up, or the first") {
