@@ -55,7 +55,7 @@ double Radius(int shape, int corner) {
 }
 
 /// How far a point lies inside the tile's outline, in pixels; negative outside.
-double Depth(int shape, double x, double y, double width, double height) {
+double Depth(int shape, double width, double height, double x, double y) {
     const double side = std::min(width, height);
     const bool isRight = x > width / 2;
     const bool isLower = y > height / 2;
@@ -65,6 +65,12 @@ double Depth(int shape, double x, double y, double width, double height) {
     const double fromEnd = isLower ? height - y : y;
     if (fromSide >= radius || fromEnd >= radius) return std::min(fromSide, fromEnd);
     return radius - std::hypot(radius - fromSide, radius - fromEnd);
+}
+
+/// The same for a sub-pixel of a pixel.
+double Depth(int shape, int width, int height, int x, int y, int sample) {
+    const int line = sample / kSamples;
+    return Depth(shape, width, height, x + (sample % kSamples + 0.5) / kSamples, y + (line + 0.5) / kSamples);
 }
 
 struct Sum {
@@ -91,10 +97,7 @@ void DrawTile(Picture& picture, int left, int top, int width, int height, int sh
             Sum sum;
             Rgb& pixel = picture.At(left + x, top + y);
             for (int sample = 0; sample < kSamples * kSamples; ++sample) {
-                const int line = sample / kSamples;
-                const double subX = x + (sample % kSamples + 0.5) / kSamples;
-                const double subY = y + (line + 0.5) / kSamples;
-                const double depth = Depth(shape, subX, subY, width, height);
+                const double depth = Depth(shape, width, height, x, y, sample);
                 const bool isRim = hasRim && depth < rim;
                 sum.Add(depth < 0 ? pixel : (isRim ? kRim : fill));
             }
@@ -124,6 +127,23 @@ Picture ButtonImage(int scheme, int image, int width, int height, Rgb background
     Picture picture = Blank(width, height, background);
     DrawTile(picture, 0, 0, width, height, shape, isHighlighted ? paint.Highlighted : paint.Normal, isHighlighted);
     return picture;
+}
+
+void AddFocus(Picture& picture, int image, Rgb color) {
+    const int shape = (image - 1) % ShapeCount;
+    const double side = std::min(picture.Width, picture.Height);
+    const double outer = side / 14;
+    const double inner = outer + std::max(1.0, side / 60);
+    for (int y = 0; y < picture.Height; ++y)
+        for (int x = 0; x < picture.Width; ++x) {
+            Sum sum;
+            Rgb& pixel = picture.At(x, y);
+            for (int sample = 0; sample < kSamples * kSamples; ++sample) {
+                const double depth = Depth(shape, picture.Width, picture.Height, x, y, sample);
+                sum.Add(depth >= outer && depth < inner ? color : pixel);
+            }
+            pixel = sum.Mean();
+        }
 }
 
 Picture SchemeSample(int scheme, int width, int height, Rgb background) {

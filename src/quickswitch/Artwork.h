@@ -31,6 +31,9 @@ struct Picture {
 /// pixels; `background` shows around the shape. Throws std::out_of_range for another scheme or image.
 Picture ButtonImage(int scheme, int image, int width, int height, Rgb background);
 
+/// Draws a thin line in a button's image, along its outline and inside it: the button has the keyboard's focus.
+void AddFocus(Picture& picture, int image, Rgb color);
+
 /// Four small tiles in a scheme's colours, as the settings dialog shows it.
 Picture SchemeSample(int scheme, int width, int height, Rgb background);
 

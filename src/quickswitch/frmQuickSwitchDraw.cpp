@@ -54,14 +54,11 @@ std::function<bool(int)> frmQuickSwitch::KeyHandler(int button) {
 void frmQuickSwitch::DrawButton(int button, HDC canvas, const RECT& area, bool isFocused) {
     const bool isHighlighted = isHighlighted_.at(static_cast<size_t>(button) - 1);
     const int image = Artwork::ImageOfButton(button) + (isHighlighted ? Artwork::ShapeCount : 0);
-    PutPicture(canvas, {area.left, area.top},
-               Artwork::ButtonImage(Scheme_, image, area.right, area.bottom, SystemColor(COLOR_BTNFACE)));
+    Artwork::Picture picture =
+        Artwork::ButtonImage(Scheme_, image, area.right, area.bottom, SystemColor(COLOR_BTNFACE));
+    if (isFocused) Artwork::AddFocus(picture, image, Artwork::TextColor(Scheme_, button - 1));
+    PutPicture(canvas, {area.left, area.top}, picture);
     Write_Picture(button, canvas, area);
-    if (!isFocused) return;
-    const int inset = MulDiv(6, Dpi(), NormalDpi);
-    RECT ring{area.left + inset, area.top + inset, area.right - inset, area.bottom - inset};
-    const BrushHandle brush(CreateSolidBrush(ToColorRef(Artwork::TextColor(Scheme_, button - 1))));
-    FrameRect(canvas, &ring, brush.Get());
 }
 
 void frmQuickSwitch::Write_Picture(int button, HDC canvas, const RECT& area) const try {

@@ -58,6 +58,24 @@ void InspectTabs(HWND window, const wchar_t* control, std::initializer_list<cons
     SendMessageW(window, WM_CLOSE, 0, 0);
 }
 
+void HoverOver(HWND box) {
+    constexpr int kInside = 20;
+    RECT place{};
+    GetWindowRect(box, &place);
+    SetCursorPos(place.left + kInside, place.top + kInside);
+    SendMessageW(box, WM_MOUSEMOVE, 0, MAKELPARAM(kInside, kInside));
+}
+
+COLORREF StripColor(HWND palette) {
+    RECT client{};
+    GetClientRect(palette, &client);
+    UpdateWindow(palette);
+    HDC canvas = GetDC(palette);
+    const COLORREF color = GetPixel(canvas, client.right - 3, client.bottom / 2);
+    ReleaseDC(palette, canvas);
+    return color;
+}
+
 } // namespace
 
 TEST_CASE("No caption of any window is cut off in any language, and nothing reaches over an edge") {
@@ -99,31 +117,34 @@ TEST_CASE("The first run's language dialog has nothing cut off") {
     frmLanguage().ShowModal();
 }
 
-TEST_CASE("The palette is drawn in every scheme, with nothing cut off but what is longer than its button") {
+TEST_CASE("The palette is drawn in every scheme and width, its strip in the colour of active and inactive captions") {
+    const std::wstring names[] = {L"Sales;Service", L";Staff;A very long name indeed", L";;Sales", L";;Staff"};
     for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme) {
-        ActDesk desk;
-        FillDesk(desk);
-        IniLib::WriteKeyValue(L"General", L"QuickSwitch",
-                              L"Sales;Service;Staff;A very long name indeed;Sales;Staff;Staff;Sales");
-        IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
-        DialogScript script;
-        frmMain window;
-        window.Load();
-        script.Then([&](HWND palette) {
-            HWND box = FindControl(palette, L"pic6");
-            RECT place{};
-            GetWindowRect(box, &place);
-            SetCursorPos(place.left + 20, place.top + 20);
-            SendMessageW(box, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20));
-            TakePicture(palette,
-                        L"palette-scheme" + std::to_wstring(scheme) + L"-" + std::to_wstring(WindowDpi(palette)));
-            HDC canvas = GetDC(palette);
-            const COLORREF strip = GetPixel(canvas, 4865 / 15 - 3, 100 * WindowDpi(palette) / 96);
-            ReleaseDC(palette, canvas);
-            if (WindowDpi(palette) == 96) CHECK(strip == GetSysColor(COLOR_ACTIVECAPTION));
-            SendMessageW(palette, WM_COMMAND, IDCANCEL, 0);
-        });
-        window.mnuQuickSwitch.Click();
-        RunToEnd(window);
+        std::wstring assigned;
+        for (int columns = 1; columns <= 4; ++columns) {
+            ActDesk desk;
+            FillDesk(desk);
+            assigned += names[columns - 1];
+            IniLib::WriteKeyValue(L"General", L"QuickSwitch", assigned);
+            IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
+            DialogScript script;
+            frmMain window;
+            window.Load();
+            script.Then([&](HWND palette) {
+                const std::wstring name = L"palette-scheme" + std::to_wstring(scheme) + L"-" +
+                                          std::to_wstring(columns * 2) + L"-buttons-" +
+                                          std::to_wstring(WindowDpi(palette));
+                HoverOver(FindControl(palette, columns == 1 ? L"pic1" : L"pic3"));
+                CHECK(StripColor(palette) == GetSysColor(COLOR_ACTIVECAPTION));
+                TakePicture(palette, name);
+                SendMessageW(palette, WM_ACTIVATE, WA_INACTIVE, 0);
+                UpdateWindow(palette);
+                CHECK(StripColor(palette) == GetSysColor(COLOR_INACTIVECAPTION));
+                if (columns == 1) TakePicture(palette, name + L"-inactive");
+                SendMessageW(palette, WM_COMMAND, IDCANCEL, 0);
+            });
+            window.mnuQuickSwitch.Click();
+            RunToEnd(window);
+        }
     }
 }

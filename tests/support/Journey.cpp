@@ -153,6 +153,14 @@ void Journey::StartAct(const std::wstring& database) {
     }));
 }
 
+bool Journey::AdoptAct() {
+    HWND window = nullptr;
+    if (!Within([&] { return (window = FindWindowW(kStandInClass, nullptr)) != nullptr && IsWindowVisible(window); }))
+        return false;
+    act_ = std::make_unique<Process>(window);
+    return true;
+}
+
 void Journey::Act(const std::wstring& section, const std::wstring& key, const std::wstring& value) const {
     WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), File(L"act.ini").c_str());
 }

@@ -50,6 +50,8 @@ public:
     void UnregisterAct();
     /// Starts ACT! with a database open, or with none; it serves when this returns.
     void StartAct(const std::wstring& database);
+    /// Takes over an ACT! that the program has started, so that the journey ends it. False when none comes.
+    bool AdoptAct();
     /// Sets a preset or fault of the stand-in.
     void Act(const std::wstring& section, const std::wstring& key, const std::wstring& value) const;
     std::wstring Act(const std::wstring& section, const std::wstring& key) const;

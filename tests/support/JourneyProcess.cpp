@@ -49,6 +49,12 @@ Process::Process(const ProcessGroup& group, const std::wstring& path, const std:
     if (!belongs) throw std::runtime_error("a program of the journey cannot be grouped");
 }
 
+Process::Process(HWND window) {
+    GetWindowThreadProcessId(window, &id_);
+    process_.Reset(OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION | PROCESS_TERMINATE, FALSE, id_));
+    if (!process_) throw std::runtime_error("a program of the journey cannot be watched");
+}
+
 std::optional<DWORD> Process::ExitCode(DWORD milliseconds) const {
     DWORD code = 0;
     if (WaitForSingleObject(process_.Get(), milliseconds) != WAIT_OBJECT_0) return std::nullopt;

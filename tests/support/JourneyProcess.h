@@ -31,6 +31,9 @@ public:
     /// Starts a program without arguments, or with `arguments`, in its own folder. Throws when it cannot be started.
     Process(const ProcessGroup& group, const std::wstring& path, const std::wstring& arguments = {});
 
+    /// The program that a window belongs to.
+    explicit Process(HWND window);
+
     DWORD Id() const { return id_; }
     bool Running() const { return WaitForSingleObject(process_.Get(), 0) == WAIT_TIMEOUT; }
     /// Waits for the end of the program: its exit code, or nothing when it goes on.

@@ -57,9 +57,11 @@ public:
     Picture(const Picture&) = delete;
     Picture& operator=(const Picture&) = delete;
 
+    COLORREF At(int x, int y) const { return GetPixel(memory_, x, y); }
+
     /// Smoothed letters have a red heart and pale edges.
     bool IsRed(int x, int y) const {
-        const COLORREF color = GetPixel(memory_, x, y);
+        const COLORREF color = At(x, y);
         return GetRValue(color) > 200 && GetGValue(color) < 60 && GetBValue(color) < 60;
     }
 
@@ -129,8 +131,7 @@ bool InFront(HWND control) {
     return Within([control] { return HasFocus(control) && GetForegroundWindow() == GetAncestor(control, GA_ROOT); });
 }
 
-void DoubleClick(HWND window, POINT place) {
-    // A new window is moved by the window manager a moment after it appears.
+void Settle(HWND window) {
     constexpr DWORD kSettledMilliseconds = 300;
     POINT last{-1, -1};
     DWORD since = 0;
@@ -141,12 +142,43 @@ void DoubleClick(HWND window, POINT place) {
         last = now;
         return GetTickCount() - since >= kSettledMilliseconds;
     });
+}
+
+void MoveMouse(HWND window, POINT place) {
     ClientToScreen(window, &place);
     SetCursorPos(place.x, place.y);
-    for (int click = 0; click < 2; ++click) {
-        MouseInput(MOUSEEVENTF_LEFTDOWN);
-        MouseInput(MOUSEEVENTF_LEFTUP);
-    }
+}
+
+void LeftButton(bool isDown) { MouseInput(isDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP); }
+
+void Drag(HWND window, POINT place, SIZE distance) {
+    ClientToScreen(window, &place);
+    std::wstring command =
+        L"xdotool mousemove " + std::to_wstring(place.x) + L' ' + std::to_wstring(place.y) + L" mousedown 1";
+    constexpr int kSteps = 5;
+    for (int step = 1; step <= kSteps; ++step)
+        command += L" sleep 0.1 mousemove " + std::to_wstring(place.x + distance.cx * step / kSteps) + L' ' +
+                   std::to_wstring(place.y + distance.cy * step / kSteps);
+    command += L" sleep 0.1 mouseup 1";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION started{};
+    CreateProcessW(L"Z:\\usr\\bin\\xdotool", command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                   &started);
+    const KernelHandle process(started.hProcess);
+    const KernelHandle thread(started.hThread);
+}
+
+POINT Middle(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {client.right / 2, client.bottom / 2};
+}
+
+void DoubleClick(HWND window, POINT place) {
+    Settle(window);
+    MoveMouse(window, place);
+    for (const bool isDown : {true, false, true, false}) LeftButton(isDown);
 }
 
 void Press(WORD key) {
@@ -157,6 +189,18 @@ void Press(WORD key) {
         input.ki.dwFlags = flags;
         SendInput(1, &input, sizeof input);
     }
+}
+
+std::vector<COLORREF> Pixels(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    POINT corner{};
+    ClientToScreen(window, &corner);
+    const Picture picture(corner, client.right, client.bottom);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < client.bottom; ++y)
+        for (int x = 0; x < client.right; ++x) pixels.push_back(picture.At(x, y));
+    return pixels;
 }
 
 int RedPixels(HWND window, const RECT& part) {

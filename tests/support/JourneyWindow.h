@@ -32,6 +32,19 @@ bool InFront(HWND control);
 /// Presses and releases the left button twice at a place of the window, as a user's mouse does.
 void DoubleClick(HWND window, POINT place);
 
+/// Waits until the window stands where it did a moment ago: the window manager moves new ones.
+void Settle(HWND window);
+/// Moves the mouse to a place of the window's client area, or holds or lets go of its left button there.
+void MoveMouse(HWND window, POINT place);
+void LeftButton(bool isDown);
+/// Drags a window by a place in its client area, so many pixels to the right and down. The display's own mouse does it:
+/// a window manager that moves windows does not see the input that Windows programs send.
+void Drag(HWND window, POINT place, SIZE distance);
+/// The middle of a window in its own client coordinates.
+POINT Middle(HWND window);
+/// What the screen shows of a window's client area, row by row.
+std::vector<COLORREF> Pixels(HWND window);
+
 /// Presses and releases a key, as a user's keyboard does: it goes to the window in the foreground.
 void Press(WORD key);
 
