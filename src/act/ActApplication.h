@@ -100,6 +100,8 @@ public:
     std::wstring GetOpenDBName(Where at = Where::current()) const {
         return object_.Get({L"GetOpenDBName", at}).Text(at);
     }
+    /// Chooses an item of ACT!'s menus by its number there.
+    void Command(short number, Where at = Where::current()) const { object_.Call({L"Command", at}, number); }
     /// The logged-on user, "" when no database is open.
     std::wstring GetCurrentUserName(Where at = Where::current()) const {
         return object_.Get({L"GetCurrentUserName", at}).Text(at);

@@ -1,7 +1,6 @@
 #include "app/frmMain.h"
 
 #include "app/Module1.h"
-#include "app/OtherWindows.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/frmQuickSwitch.h"
@@ -10,6 +9,7 @@
 #include "support/Busy.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
+#include "support/Shell.h"
 #include "support/Vendor.h"
 
 #include <algorithm>
@@ -157,11 +157,6 @@ void frmMain::SetMenuCaptions() {
     mnuAbout.Caption(OpensDialog(LangText[58]));
     mnuOpen.Caption(LangText[62]);
     mnuProperties.Caption(OpensDialog(LangText[55]));
-
-    using OtherWindows::Has;
-    using OtherWindows::Window;
-    mnuIntegrate.Enabled(Has(Window::Integration));
-    mnuAbout.Enabled(Has(Window::About));
 }
 
 void frmMain::SaveLayout() {
@@ -176,19 +171,46 @@ void frmMain::SaveLayout() {
 }
 
 void frmMain::Form_Unload() {
+    std::wstring database;
     try {
         SaveLayout();
+        if (Program().RestartAct) database = CloseActForRestart();
     } catch (...) {
+        Program().RestartAct = false;
         ErrorReport(L"frmMain: Sub Form_Unload");
     }
     Module1::Release_object();
     ActEvent1.Close();
-    PostQuitMessage(0);
+    if (Program().RestartAct)
+        WaitForRestart(database);
+    else
+        PostQuitMessage(0);
+}
+
+std::wstring frmMain::CloseActForRestart() const {
+    constexpr short kCloseAct = 150; // ACT!'s own number
+    const std::wstring database = Program().Application.GetOpenDBName();
+    Program().Application.Command(kCloseAct);
+    return database;
+}
+
+void frmMain::WaitForRestart(const std::wstring& database) {
+    constexpr unsigned kTickMilliseconds = 1000;
+    Hide();
+    if (!database.empty()) OpenWithShell(database);
+    ticks_ = 0;
+    Timer1.Interval(kTickMilliseconds);
+}
+
+void frmMain::Timer1_Timer() {
+    constexpr int kLastTick = 2;
+    if (++ticks_ == kLastTick) PostQuitMessage(0);
 }
 
 void frmMain::ActEvent1_OnActUserWantsToClose() {
     // Only the answer belongs into the event: nothing may be released while the component is still in its call.
     ActEvent1.AnswerUserWantsToClose(true);
+    if (Program().RestartAct) return;
     PostMessageW(Handle(), kActIsClosing, 0, 0);
 }
 

@@ -83,6 +83,7 @@ public:
     Menu mnuPopup{this, L"mnuPopup", Menu::Place::PopUp};
     MenuItem mnuOpen{this, mnuPopup, L"mnuOpen", &frmMain::mnuOpen_Click};
     MenuItem mnuProperties{this, mnuPopup, L"mnuProperties", &frmMain::mnuProperties_Click};
+    Timer Timer1{this, L"Timer1", &frmMain::Timer1_Timer};
     Timer tmrClose{this, L"tmrClose", &frmMain::tmrClose_Timer};
 
 private:
@@ -103,7 +104,10 @@ private:
     void LayOut(int width, int height);
     void SaveLayout();
     void ActEvent1_OnActUserWantsToClose();
+    void Timer1_Timer();
     void tmrClose_Timer();
+    std::wstring CloseActForRestart() const;
+    void WaitForRestart(const std::wstring& database);
     void EndIfInvisible();
     void ShowQuickSwitch();
 
@@ -169,6 +173,7 @@ private:
     SingleInstance instance_;
     ActEvent ActEvent1;
     clsToolbarIcon toolbarIcon_;
+    int ticks_ = 0; ///< of Timer1
     int sortColumn_ = -1;
     bool sortDescending_ = false;
     bool reload_ = false;     ///< Form_Load runs again after a change of language

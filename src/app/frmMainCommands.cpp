@@ -2,12 +2,13 @@
 
 #include "app/frmMain.h"
 
-#include "app/OtherWindows.h"
+#include "dialogs/frmAbout.h"
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
+#include "integration/frmIntegrateNew.h"
 #include "program/Program.h"
 #include "support/Application.h"
 #include "support/MsgBox.h"
@@ -62,8 +63,18 @@ void frmMain::mnuSettingsLocation_Click() {
     EndIfInvisible();
 }
 
-void frmMain::mnuIntegrate_Click() { OtherWindows::Enter(OtherWindows::Window::Integration); }
-void frmMain::mnuAbout_Click() { OtherWindows::Enter(OtherWindows::Window::About); }
+void frmMain::mnuIntegrate_Click() {
+    frmIntegrateNew().ShowModal();
+    if (Program().RestartAct)
+        Unload();
+    else
+        EndIfInvisible();
+}
+
+void frmMain::mnuAbout_Click() {
+    frmAbout().ShowModal();
+    EndIfInvisible();
+}
 
 void frmMain::mnuQuickSwitch_Click() { ShowQuickSwitch(); }
 

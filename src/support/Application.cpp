@@ -32,6 +32,8 @@ std::wstring ProgramName() {
 
 std::wstring FileInFolder(const std::wstring& fileName) { return Text::JoinPath(Folder(), fileName); }
 
-std::wstring VersionDigits() { return KELMORRA_VERSION_DIGITS; }
+std::wstring Version() { return KELMORRA_VERSION; }
+
+std::wstring VersionDigits() { return Text::Replace(Version(), L".", L""); }
 
 } // namespace Application

@@ -17,6 +17,9 @@ std::wstring ProgramName();
 /// `Folder()` and a file name joined by exactly one "\".
 std::wstring FileInFolder(const std::wstring& fileName);
 
+/// The program's version with its points: "3.2.0".
+std::wstring Version();
+
 /// The program's version as major, minor and revision written one after another: "320" for 3.2.0.
 std::wstring VersionDigits();
 

@@ -22,8 +22,8 @@ void CommandButton::OnCommand(WORD notification) {
     if (notification == BN_CLICKED && Enabled()) Raise(L"Click", click_);
 }
 
-CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click)
-    : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, &container),
+CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click, int index)
+    : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, &container, index),
       click_(std::move(click)) {}
 
 bool CheckBox::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }

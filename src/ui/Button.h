@@ -37,7 +37,11 @@ public:
     template <class F>
     CheckBox(F* form, Frame& container, const wchar_t* name, Twips place, void (F::*click)())
         : CheckBox(static_cast<Form*>(form), container, name, place, Bind(form, click)) {}
-    CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click = {});
+    /// An element of a control array; its handler gets its index.
+    template <class F>
+    CheckBox(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
+        : CheckBox(static_cast<Form*>(form), container, name, place, BindElement(form, click, index), index) {}
+    CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click = {}, int index = 0);
 
     bool Value() const;
     /// Checks or unchecks and, when that changes it, runs the handler as a click does.

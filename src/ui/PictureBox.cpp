@@ -8,6 +8,9 @@
 PictureBox::PictureBox(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Draw draw)
     : Control(form, name, place, {L"Static", SS_OWNERDRAW}, &container, index), draw_(std::move(draw)) {}
 
+PictureBox::PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw)
+    : Control(form, name, place, {L"Static", SS_OWNERDRAW}), draw_(std::move(draw)) {}
+
 PictureBox::PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw, std::function<bool(int)> keyDown)
     : Control(form, name, place, {L"Button", BS_OWNERDRAW | WS_TABSTOP}), draw_(std::move(draw)),
       keyDown_(std::move(keyDown)) {}

@@ -18,7 +18,8 @@ public:
         Action Click;      ///< pressed and released on the box, or Space or Enter
     };
 
-    /// A picture to look at, inside a frame.
+    /// A picture to look at, in a frame or not.
+    PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw);
     PictureBox(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Draw draw);
     /// A picture to press. `keyDown` gets virtual key codes that move between pictures; true when it used one.
     PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw, std::function<bool(int key)> keyDown);

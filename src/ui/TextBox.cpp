@@ -1,10 +1,20 @@
 #include "ui/TextBox.h"
 
+namespace {
+
+DWORD StyleOf(TextBox::Kind kind) {
+    constexpr DWORD kBox = WS_TABSTOP | WS_GROUP;
+    switch (kind) {
+    case TextBox::Kind::Password: return kBox | ES_AUTOHSCROLL | ES_PASSWORD;
+    case TextBox::Kind::Notice: return kBox | ES_MULTILINE | ES_READONLY;
+    default: return kBox | ES_AUTOHSCROLL;
+    }
+}
+
+} // namespace
+
 TextBox::TextBox(Form* form, const wchar_t* name, Twips place, Kind kind, Frame* container)
-    : Control(form, name, place,
-              {L"Edit",
-               static_cast<DWORD>(ES_AUTOHSCROLL | WS_TABSTOP | WS_GROUP | (kind == Kind::Password ? ES_PASSWORD : 0)),
-               WS_EX_CLIENTEDGE},
+    : Control(form, name, place, {L"Edit", StyleOf(kind), kind == Kind::Notice ? DWORD{0} : WS_EX_CLIENTEDGE},
               container) {}
 
 void TextBox::OnCreated() {

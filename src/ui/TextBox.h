@@ -2,12 +2,13 @@
 
 #include "ui/Control.h"
 
-/// A box for one line of text.
+/// A box for one line of text; a notice is several lines to read, select and copy, without a border.
 class TextBox : public Control {
 public:
-    enum class Kind { Plain, Password };
+    enum class Kind { Plain, Password, Notice };
 
-    TextBox(Form* form, const wchar_t* name, Twips place) : TextBox(form, name, place, Kind::Plain, nullptr) {}
+    TextBox(Form* form, const wchar_t* name, Twips place, Kind kind = Kind::Plain)
+        : TextBox(form, name, place, kind, nullptr) {}
     TextBox(Form* form, Frame& container, const wchar_t* name, Twips place, Kind kind = Kind::Plain)
         : TextBox(form, name, place, kind, &container) {}
 

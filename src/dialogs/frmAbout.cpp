@@ -1,0 +1,31 @@
+#include "dialogs/frmAbout.h"
+
+#include "i18n/MoreText.h"
+#include "i18n/modLangues.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/Text.h"
+#include "support/Vendor.h"
+#include "win32/Owner.h"
+
+frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3285}) {}
+
+void frmAbout::Form_Load() try {
+    Caption(LangText[4] + L' ' + Application::Title);
+    const std::wstring name = Application::Title + (L' ' + Application::Version());
+    constexpr short kGerman = 2;
+    const bool isGerman = CurrentLanguage == kGerman;
+    txtAbout.Text(name + L"\r\n" + Text::Replace(LangText[12], L"&", L"") + L"\r\n\r\n" +
+                  Translated(MoreText::WhatThisIs) + L"\r\n\r\n" + LangText[5] + L"\r\n\r\n" + LangText[6] + L"\r\n" +
+                  (isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail));
+    cmdOK.Text(LangText[1]);
+} catch (...) {
+    ErrorReport(L"frmAbout: Sub Form_Load");
+}
+
+void frmAbout::DrawIcon(HDC canvas, const RECT& area, bool) {
+    FillRect(canvas, &area, GetSysColorBrush(COLOR_BTNFACE));
+    const IconHandle icon(static_cast<HICON>(
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, area.right, area.bottom, 0)));
+    DrawIconEx(canvas, 0, 0, icon.Get(), area.right, area.bottom, 0, nullptr, DI_NORMAL);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/Button.h"
+#include "ui/Form.h"
+#include "ui/PictureBox.h"
+#include "ui/TextBox.h"
+
+/// The about box: what this program is, whose, and where to write to. Its text can be selected and copied.
+class frmAbout : public Form {
+public:
+    frmAbout();
+
+    PictureBox picIcon{this, L"picIcon", {180, 180, 720, 720}, &frmAbout::DrawIcon};
+    TextBox txtAbout{this, L"txtAbout", {1080, 180, 4740, 2145}, TextBox::Kind::Notice};
+    CommandButton cmdOK{this, L"cmdOK", {4605, 2445, 1215, 345}, &frmAbout::cmdOK_Click, Cancel};
+
+private:
+    void Form_Load() override;
+    void cmdOK_Click() { Unload(); }
+    static void DrawIcon(HDC canvas, const RECT& area, bool isFocused);
+};

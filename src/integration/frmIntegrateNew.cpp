@@ -1,0 +1,122 @@
+#include "integration/frmIntegrateNew.h"
+
+#include "i18n/modLangues.h"
+#include "program/Program.h"
+#include "support/Application.h"
+#include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+
+namespace {
+
+constexpr std::array kViewTexts{98, 99, 100, 101, 102, 103};
+
+short ViewNumber(int index) { return static_cast<short>(index % static_cast<int>(frmIntegrateNew::ViewCount) + 1); }
+
+std::array<Twips, frmIntegrateNew::ViewCount> Grid(int left, int top, int width, int height) {
+    constexpr int kRows = 3;
+    constexpr int kColumn = 3000;
+    constexpr int kRow = 330;
+    std::array<Twips, frmIntegrateNew::ViewCount> places;
+    for (int view = 0; view < static_cast<int>(places.size()); ++view)
+        places[static_cast<size_t>(view)] = {left + view / kRows * kColumn, top + view % kRows * kRow, width, height};
+    return places;
+}
+
+ActAuxCommands::Definition OwnCommand() {
+    const std::wstring title = Application::Title;
+    const std::wstring program = Application::FileInFolder(Application::ProgramName());
+    return {title,
+            program + L".exe",
+            Application::Folder(),
+            title,
+            title + L' ' + LangText[23],
+            program + L".ico",
+            program + L"32.ico"};
+}
+
+} // namespace
+
+frmIntegrateNew::frmIntegrateNew() : Form({L"frmIntegrateNew", 6570, 4350}) {}
+
+std::array<Twips, frmIntegrateNew::ViewCount> frmIntegrateNew::BoxPlaces() { return Grid(150, 330, 210, 210); }
+
+std::array<Twips, frmIntegrateNew::ViewCount> frmIntegrateNew::LabelPlaces() { return Grid(450, 330, 2550, 225); }
+
+void frmIntegrateNew::Form_Load() try {
+    SetCaptions();
+    commands_ = ActAuxCommands::Create();
+    isLoading_ = true;
+    ReadBoxes();
+    isLoading_ = false;
+    Changed_ = false;
+} catch (...) {
+    isLoading_ = false;
+    ErrorReport(L"frmIntegrateNew: Sub Form_Load");
+}
+
+void frmIntegrateNew::SetCaptions() {
+    Caption(LangText[13]);
+    Frame1.Text(LangText[96] + L":");
+    Frame2.Text(LangText[97] + L":");
+    for (size_t view = 0; view < ViewCount; ++view) {
+        const std::wstring& name = LangText[kViewTexts.at(view)];
+        lblToolbar[view].Text(name);
+        lblToolsMenu[view].Text(name);
+        // Too narrow to be seen: for screen readers.
+        chkToolbar[view].Text(name + L", " + LangText[96]);
+        chkToolsMenu[view].Text(name + L", " + LangText[97]);
+    }
+    Label2.Text(LangText[20]);
+    cmdOK.Text(LangText[17]);
+    cmdCancel.Text(LangText[2]);
+}
+
+void frmIntegrateNew::ReadBoxes() {
+    for (CheckBox& box : chkToolbar)
+        box.Value(commands_.AuxCommandExistsInToolbar(ViewNumber(box.Index()), Application::Title));
+    for (CheckBox& box : chkToolsMenu)
+        box.Value(commands_.AuxCommandExistsInToolsMenu(ViewNumber(box.Index()), Application::Title));
+}
+
+void frmIntegrateNew::AddAuxCommand() {
+    if (commands_.AddAuxCommand(OwnCommand()) != 0) MsgBox(LangText[22]);
+}
+
+void frmIntegrateNew::chkScreen_Click(int index) {
+    if (isLoading_) return;
+    Changed_ = true;
+    if (!commands_.AuxCommandExists(Application::Title)) AddAuxCommand();
+    const short view = ViewNumber(index);
+    const bool isChecked = Box(index).Value();
+    if (index >= FirstToolsMenu)
+        LastResult_ = isChecked ? commands_.AddAuxCommandToToolsMenu(view, Application::Title)
+                                : commands_.RemoveAuxCommandFromToolsMenu(view, Application::Title);
+    else
+        LastResult_ = isChecked ? commands_.AddAuxCommandToToolbar(view, Application::Title)
+                                : commands_.RemoveAuxCommandFromToolbar(view, Application::Title);
+}
+
+void frmIntegrateNew::lblScreen_Click(int index) { Box(index).Value(!Box(index).Value()); }
+
+void frmIntegrateNew::cmdOK_Click() {
+    if (Changed_) {
+        if (LastResult_ != 0)
+            MsgBox(LangText[22]);
+        else
+            AskToRestart();
+    }
+    Unload();
+}
+
+void frmIntegrateNew::AskToRestart() {
+    const bool isWanted = AskYesNo(LangText[20] + L"\r\n" + LangText[21]);
+    Form_Load();
+    if (isWanted) Program().RestartAct = true;
+}
+
+void frmIntegrateNew::cmdCancel_Click() { Unload(); }
+
+CheckBox& frmIntegrateNew::Box(int index) {
+    return index >= FirstToolsMenu ? chkToolsMenu[static_cast<size_t>(index - FirstToolsMenu)]
+                                   : chkToolbar[static_cast<size_t>(index)];
+}
