@@ -12,7 +12,7 @@ constexpr DWORD kCharacterSize = sizeof(wchar_t);
 constexpr size_t kLongestValueName = 16384; // 16383 characters and the zero
 constexpr size_t kLongestKeyName = 256;     // 255 characters and the zero
 
-std::wstring ApplicationPath() { return std::wstring(L"Software\\VB and VBA Program Settings\\") + Application::Title; }
+std::wstring ApplicationPath() { return std::wstring(UserStore::Root) + L'\\' + Application::Title; }
 
 std::wstring SectionPath(const std::wstring& section) { return ApplicationPath() + L'\\' + section; }
 

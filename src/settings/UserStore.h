@@ -7,6 +7,9 @@
 /// An empty section name names no section.
 namespace UserStore {
 
+/// The key of the current user below which every application has its own key, named after its title.
+inline constexpr wchar_t Root[] = L"Software\\VB and VBA Program Settings";
+
 /// The stored text, which may be empty; `defaultText` when there is none or the value is not a text.
 std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
 

@@ -7,7 +7,7 @@
 /// and is as long as the text. The key is uppercased; an empty key changes nothing.
 namespace modEnCrypt {
 
-std::wstring EncryptText(const std::wstring& text, std::wstring key);
-std::wstring DecryptText(const std::wstring& text, std::wstring key);
+std::wstring EncryptText(std::wstring text, std::wstring key);
+std::wstring DecryptText(std::wstring text, std::wstring key);
 
 } // namespace modEnCrypt

@@ -1,7 +1,7 @@
 #include "settings/modEnCrypt.h"
 
 #include "support/Wide.h"
-#include "win32/AnsiText.h"
+#include "win32/AnsiCodes.h"
 
 namespace {
 
