@@ -3,9 +3,11 @@
 #include "common/Automation.h"
 #include "common/State.h"
 #include "server/Installation.h"
+#include "server/LogOn.h"
 #include "support/Text.h"
 
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -26,6 +28,23 @@ std::wstring FullPath(const std::wstring& path) {
     return length > 0 && length < full.size() ? std::wstring(full.data(), length) : path;
 }
 
+/// A preset of a database, by its path or its file name.
+std::optional<std::wstring> Preset(const wchar_t* section, const std::wstring& database) {
+    std::optional<std::wstring> text = State::Text(section, database);
+    return text ? text : State::Text(section, Text::AfterLast(database, L'\\'));
+}
+
+std::wstring UserOf(const std::wstring& database) {
+    if (std::optional<std::wstring> user = Preset(L"Users", database)) return *user;
+    return State::Text(L"Users", L"default").value_or(L"Chris Sample");
+}
+
+/// Only a database with a password, be it an empty one, asks who its user is.
+void LogOnTo(const std::wstring& database) {
+    if (const std::optional<std::wstring> password = Preset(L"Passwords", database))
+        LogOn::Ask(database, {UserOf(database), *password});
+}
+
 } // namespace
 
 namespace Session {
@@ -35,19 +54,16 @@ const Facts& Current() { return facts; }
 void OpenDatabase(const std::wstring& path) {
     if (path.empty()) Fail(kObjectNotSet, L"Object variable or With block variable not set");
     if (!IsFile(path)) Fail(kFileNotFound, L"The database \"" + path + L"\" cannot be opened: file not found");
-    facts.Database = FullPath(path);
+    const std::wstring database = FullPath(path);
+    LogOnTo(database);
+    facts.Database = database;
     Installation::RecordLastDatabase(facts.Database);
     // A database comes up in the layouts that are the defaults at that moment.
     UseLayouts(State::Text(L"Preferences", L"DefaultContactLayout").value_or(L""),
                State::Text(L"Preferences", L"DefaultGroupLayout").value_or(L""));
 }
 
-std::wstring User() {
-    if (facts.Database.empty()) return {};
-    for (const std::wstring& key : {facts.Database, Text::AfterLast(facts.Database, L'\\'), std::wstring(L"default")})
-        if (std::optional<std::wstring> user = State::Text(L"Users", key)) return *user;
-    return L"Chris Sample";
-}
+std::wstring User() { return facts.Database.empty() ? L"" : UserOf(facts.Database); }
 
 void ShowView(int view) { facts.View = view; }
 

@@ -16,7 +16,9 @@ struct Facts {
 
 const Facts& Current();
 
-/// Opens a database file and records it as the last one. Fails with error 91 for "" and with 53 for a missing file.
+/// Opens a database file and records it as the last one, after its user has logged on when it has a preset in
+/// [Passwords]. Fails with error 91 for "", with 53 for a missing file and with 70 when nobody has logged on: the
+/// database that was open before stays so.
 void OpenDatabase(const std::wstring& path);
 /// The logged-on user: a preset of the database's path or file name in [Users], else of "default"; "" when none is
 /// open.

@@ -4,6 +4,7 @@
 #include "common/Protocol.h"
 #include "server/ClassObjects.h"
 #include "server/FactsList.h"
+#include "server/LogOn.h"
 #include "server/Session.h"
 #include "server/resource.h"
 #include "support/Text.h"
@@ -202,6 +203,7 @@ void StandInWindow::RequestClose() {
 
 void StandInWindow::UserCloses() {
     if (notice_.IsOpen()) return;
+    LogOn::Cancel();
     Follow(notice_.Ask(window_));
 }
 
@@ -218,6 +220,7 @@ void StandInWindow::Follow(CloseNotice::Outcome outcome) {
 
 void StandInWindow::OpenHandedOver(const COPYDATASTRUCT& data) {
     const std::wstring path(static_cast<const wchar_t*>(data.lpData), data.cbData / sizeof(wchar_t) - 1);
+    ReplyMessage(TRUE); // the log-on may take its time
     try {
         Session::OpenDatabase(path);
         Journal::Note(L"OpenDatabase", path);
