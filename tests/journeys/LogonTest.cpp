@@ -1,0 +1,179 @@
+// Logging on: the helper and ACT!'s log-on dialog, or one that looks like it.
+
+#include "support/Journey.h"
+
+#include <filesystem>
+
+namespace {
+
+using JourneyStores::User;
+
+constexpr wchar_t kRight[] = L"\u0160\u00c4\u00b2\u00c3\u00b7\u00c4"; // "Exeter" as the launcher stores it
+constexpr wchar_t kWrong[] = L"\u0160\u00c4";                         // "Ex"
+constexpr int kUserId = 201, kPasswordId = 202, kMessageId = 203;     // of the stand-in's dialog
+
+/// A session with the helper beside the program, and a database of which ACT! asks for its user.
+class LogonJourney : public Journey {
+public:
+    LogonJourney() {
+        std::filesystem::copy_file(std::filesystem::path(KELMORRA_FOLDER) / L"logon.exe", ProgramFile(L"logon.exe"));
+        ListRealDatabase(L"Archive");
+        ListRealDatabase(L"Customers");
+        Act(L"Users", L"Customers.dbf", L"Pat Doe");
+        Act(L"Passwords", L"Customers.dbf", L"Exeter");
+    }
+
+    static void Store(const wchar_t* section, const wchar_t* usePassword, const wchar_t* password) {
+        User(section, L"UsePassword", usePassword);
+        User(section, L"Username", L"Pat Doe");
+        User(section, L"Password", password);
+    }
+
+    Process StartHelper() const { return {Group(), ProgramFile(L"logon.exe")}; }
+
+    /// Every attempt to log on that the stand-in has seen.
+    std::wstring Attempts() const {
+        std::wstring attempts;
+        for (const Call& call : Log())
+            if (call.Member == L"LogOn") attempts += call.Arguments + L' ' + call.Result + L';';
+        return attempts;
+    }
+
+    static bool IsOpen(const wchar_t* database) {
+        return Within([database] {
+            return JourneyWindow::Text(FindWindowW(L"ActStandIn", nullptr)) ==
+                   std::wstring(L"ACT! stand-in - ") + database;
+        });
+    }
+
+    static HWND Dialog() { return FindWindowW(L"#32770", L"Log on to Customers.dbf"); }
+
+    /// The program opens the second database, with that password in store.
+    void OpenCustomers(const wchar_t* password) {
+        Store(L"Customers", L"1", password);
+        User(L"Display", L"Selected", L"1");
+        StartAct(File(L"Archive.dbf"));
+        JourneyWindow::Click(StartToMainWindow(), L"cmdOpen");
+    }
+};
+
+/// A dialog of the test's own process with a user box, password boxes and OK.
+class LookAlike {
+public:
+    explicit LookAlike(int passwordBoxes) : window_(Make(L"#32770", WS_POPUP | WS_VISIBLE, 0, nullptr)) {
+        SetWindowTextW(window_, L"Log on to something");
+        user_ = Make(L"EDIT", WS_CHILD | WS_VISIBLE, 0, window_);
+        for (int box = 0; box < passwordBoxes; ++box)
+            password_ = Make(L"EDIT", WS_CHILD | WS_VISIBLE | ES_PASSWORD, 0, window_);
+        Make(L"BUTTON", WS_CHILD | WS_VISIBLE, IDOK, window_);
+    }
+    ~LookAlike() { DestroyWindow(window_); }
+    LookAlike(const LookAlike&) = delete;
+    LookAlike& operator=(const LookAlike&) = delete;
+
+    /// Lets a helper try to fill it in: "user,password,confirmations".
+    std::wstring Meet(const Process& helper) const {
+        int confirmations = 0;
+        const auto turnLoop = [&confirmations] {
+            MSG message{};
+            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+                confirmations += message.message == WM_COMMAND && message.wParam == IDOK;
+                DispatchMessageW(&message);
+            }
+        };
+        REQUIRE(Within([&] {
+            turnLoop();
+            return !helper.Running();
+        }));
+        turnLoop();
+        return JourneyWindow::Text(user_) + L',' + JourneyWindow::Text(password_) + L',' +
+               std::to_wstring(confirmations);
+    }
+
+private:
+    static HWND Make(const wchar_t* windowClass, DWORD style, int id, HWND parent) {
+        return CreateWindowExW(0, windowClass, L"", style, 0, 0, 200, 100, parent,
+                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+    }
+
+    HWND window_;
+    HWND user_ = nullptr;
+    HWND password_ = nullptr;
+};
+
+} // namespace
+
+TEST_CASE_FIXTURE(LogonJourney, "the program opens a database, and ACT! ends logged on as its user") {
+    OpenCustomers(kRight);
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(Attempts() == L"Pat Doe right;");
+    CHECK(IsOpen(L"Customers.dbf"));
+}
+
+TEST_CASE_FIXTURE(LogonJourney, "a wrong password is tried once; after three refusals the open fails") {
+    OpenCustomers(kWrong);
+    REQUIRE(Within([this] { return Attempts() == L"Pat Doe wrong;"; }));
+    CHECK(JourneyWindow::Text(GetDlgItem(Dialog(), kMessageId)) == L"The user name or the password is wrong.");
+    for (int attempt = 0; attempt < 2; ++attempt) PostMessageW(Dialog(), WM_COMMAND, IDOK, 0);
+    CHECK(AnswerBox().Text == L"This database is not accessible. Please choose another database.");
+    CHECK(Attempts() == L"Pat Doe wrong;Pat Doe wrong;Pat Doe wrong;");
+    CHECK(IsOpen(L"Archive.dbf"));
+}
+
+TEST_CASE_FIXTURE(LogonJourney, "without a password to use, the dialog is left to its user, the name filled in") {
+    constexpr wchar_t kDatabaseKey[] = L"Software\\Symantec\\ACT!\\Database";
+    JourneyStores::Write(kDatabaseKey, L"Use Last DB", L"1");
+    JourneyStores::Write(kDatabaseKey, L"Last DB Name", File(L"Customers.dbf"));
+    Store(L"Logon", L"0", kRight);
+    StartAct(L"");
+    CHECK(StartHelper().ExitCode() == 0u);
+    HWND password = GetDlgItem(Dialog(), kPasswordId);
+    CHECK(JourneyWindow::Text(GetDlgItem(Dialog(), kUserId)) == L"Pat Doe");
+    CHECK(JourneyWindow::Text(password).empty());
+    CHECK(Within([password] { return JourneyWindow::HasFocus(password); }));
+    CHECK(Attempts().empty());
+    SendMessageW(password, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Exeter"));
+    PostMessageW(Dialog(), WM_COMMAND, IDOK, 0);
+    CHECK(IsOpen(L"Customers.dbf"));
+}
+
+TEST_CASE_FIXTURE(LogonJourney, "only the one dialog of the one program is filled in") {
+    struct Case {
+        const wchar_t* program;
+        const wchar_t* title;
+        int passwordBoxes;
+        const wchar_t* outcome;
+    };
+    const Case cases[] = {
+        {L"", L"", 1, L",,0"},
+        {L"journey_tests.exe", L"", 1, L"Pat Doe,Exeter,1"},
+        {L"journey_tests.exe", L"log on to", 1, L"Pat Doe,Exeter,1"},
+        {L"journey_tests.exe", L"Sign in", 1, L",,0"},
+        {L"journey_tests.exe", L"", 2, L",,0"},
+        {L"tests.exe", L"", 1, L",,0"},
+    };
+    Store(L"Logon", L"1", kRight);
+    User(L"LogonDialog", L"Seconds", L"0");
+    for (const Case& wanted : cases) {
+        CAPTURE(wanted.outcome);
+        User(L"LogonDialog", L"Program", wanted.program);
+        User(L"LogonDialog", L"Title", wanted.title);
+        CHECK(LookAlike(wanted.passwordBoxes).Meet(StartHelper()) == wanted.outcome);
+    }
+}
+
+TEST_CASE_FIXTURE(LogonJourney, "a helper waits until its time is over, a newer one starts or there is no user") {
+    Store(L"Logon", L"1", kRight);
+    const Process older = StartHelper();
+    REQUIRE(
+        Within([] { return bool{KernelHandle(OpenMutexW(SYNCHRONIZE, FALSE, L"Local\\Kelmorra.Logon.Waiting"))}; }));
+    CHECK(older.Running());
+    User(L"Logon", L"Username", L"");
+    CHECK(StartHelper().ExitCode() == 1u);
+    CHECK(older.ExitCode() == 1u);
+    User(L"Logon", L"Username", L"Pat Doe");
+    User(L"LogonDialog", L"Seconds", L"1");
+    const DWORD start = GetTickCount();
+    CHECK(StartHelper().ExitCode() == 1u);
+    CHECK(GetTickCount() - start >= 1000);
+}
