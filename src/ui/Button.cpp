@@ -1,5 +1,7 @@
 #include "ui/Button.h"
 
+#include "support/Busy.h"
+
 #include <utility>
 
 namespace {
@@ -35,7 +37,11 @@ void CheckBox::Value(bool checked) {
 }
 
 void CheckBox::OnCommand(WORD notification) {
-    if (notification == BN_CLICKED) Raise(L"Click", click_);
+    if (notification != BN_CLICKED) return;
+    if (click_ && Busy::Now()) // the handler cannot run now: the box goes back to what it stands for
+        SendMessageW(Handle(), BM_SETCHECK, Value() ? BST_UNCHECKED : BST_CHECKED, 0);
+    else
+        Raise(L"Click", click_);
 }
 
 OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Action click)

@@ -101,9 +101,39 @@ constexpr Member kMembers[] = {
     {L"RemoveAuxCommandFromToolsMenu", kMethod, {VT_I4, VT_BSTR}, RemoveFromToolsMenu, nullptr},
 };
 
+/// The texts of a stored definition: what stands between quotes, doubled ones undone.
+std::vector<std::wstring> TextsOf(const std::wstring& definition) {
+    std::vector<std::wstring> texts;
+    bool isInside = false;
+    for (size_t index = 0; index < definition.size(); ++index) {
+        const bool isQuote = definition[index] == L'"';
+        if (isQuote && isInside && index + 1 < definition.size() && definition[index + 1] == L'"') {
+            texts.back() += definition[++index];
+        } else if (isQuote) {
+            if (!isInside) texts.emplace_back();
+            isInside = !isInside;
+        } else if (isInside) {
+            texts.back() += definition[index];
+        }
+    }
+    return texts;
+}
+
 } // namespace
 
 namespace AuxCommands {
+
+std::vector<Placed> In(const wchar_t* place) {
+    constexpr size_t kTexts = 7;
+    std::vector<Placed> commands;
+    for (const std::wstring& key : State::Keys(place)) {
+        const std::wstring name = key.substr(key.find(L',') + 1);
+        const std::vector<std::wstring> texts = TextsOf(State::Text(kCommands, name).value_or(L""));
+        if (texts.size() < kTexts) continue;
+        commands.push_back({key[0] - L'0', name, texts[1], texts[2], texts[4], texts[5]});
+    }
+    return commands;
+}
 
 std::wstring NamesIn(const wchar_t* place, int view) {
     const std::wstring prefix = std::to_wstring(view) + L',';

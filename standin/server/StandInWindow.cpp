@@ -142,6 +142,7 @@ void StandInWindow::MakeControls() {
     status_ = MakeControl(window_, STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, 0);
     for (const HWND control : {facts_, calls_, status_}) UseFont(control, font_);
     for (const HWND control : {factsTitle_, callsTitle_}) UseFont(control, boldFont_);
+    commands_.Show(window_);
     AddColumns(facts_, kFactColumns, std::size(kFactColumns), Scaled(96));
     AddColumns(calls_, kCallColumns, std::size(kCallColumns), Scaled(96));
     Arrange();
@@ -153,9 +154,10 @@ void StandInWindow::Arrange() {
     GetClientRect(window_, &client);
     GetWindowRect(status_, &bar);
     const int margin = Scaled(10), title = Scaled(20), width = client.right - 2 * margin;
-    const int lists = client.bottom - (bar.bottom - bar.top) - 2 * title - 3 * margin;
+    const int bars = commands_.Arrange();
+    const int lists = client.bottom - bars - (bar.bottom - bar.top) - 2 * title - 3 * margin;
     const int upper = lists / 2;
-    int top = margin;
+    int top = bars + margin;
     const auto place = [&](HWND control, int height) {
         MoveWindow(control, margin, top, width > 0 ? width : 0, height > 0 ? height : 0, TRUE);
         top += height;
@@ -237,7 +239,7 @@ LRESULT StandInWindow::HandleCommand(int command) {
         ListView_DeleteAllItems(calls_);
         Refresh();
         break;
-    default: break;
+    default: commands_.Launch(command); break;
     }
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "common/Journal.h"
 #include "server/CloseNotice.h"
+#include "server/CommandBar.h"
 #include "win32/Owner.h"
 
 #include <string>
@@ -44,6 +45,7 @@ private:
     HWND callsTitle_ = nullptr;
     HWND calls_ = nullptr;
     HWND status_ = nullptr;
+    CommandBar commands_;
     FontHandle font_;
     FontHandle boldFont_;
     CloseNotice notice_;

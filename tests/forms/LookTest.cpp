@@ -101,6 +101,10 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         frmPrefLocations(L"Sales", L"Sales").ShowModal();
         script.Then([](HWND dialog) { InspectTabs(dialog, L"mstAssign", {L"assign-buttons", L"assign-colors"}); });
         frmAssign().ShowModal();
+        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"integration"); });
+        window.mnuIntegrate.Click();
+        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"about"); });
+        window.mnuAbout.Click();
         End(window);
     }
     modLangues::Init_Language(short{0});

@@ -1,7 +1,6 @@
 // The palette without a running ACT!: the choice goes into ACT!'s own settings, and ACT! is started on it.
 
 #include "support/JourneyDialogs.h"
-#include "win32/Owner.h"
 
 #include <filesystem>
 
@@ -133,18 +132,10 @@ TEST_CASE_FIXTURE(Journey, "leaving without a choice writes nothing and starts n
 TEST_CASE_FIXTURE(Journey, "without a program for databases the user is told, and no log-on is prepared") {
     User(L"Customers", L"Username", L"Pat Doe");
     User(L"Logon", L"Username", L"before");
-    constexpr wchar_t kDatabases[] = L"Software\\Classes\\.dbf";
-    RegistryKey key;
-    REQUIRE(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kDatabases, 0, KEY_ALL_ACCESS, key.Receive()) == ERROR_SUCCESS);
-    wchar_t association[64] = {};
-    DWORD size = sizeof association;
-    REQUIRE(RegQueryValueExW(key.Get(), L"", nullptr, nullptr, reinterpret_cast<BYTE*>(association), &size) ==
-            ERROR_SUCCESS);
-    RegDeleteValueW(key.Get(), L"");
+    const HiddenClass association(L".dbf");
     PressFirst(StartWithoutAct(*this));
     CHECK(AnswerBox().Text == L"Please run ACT! before running Kelmorra");
     CHECK(Program().ExitCode() == 0u);
-    RegSetValueExW(key.Get(), L"", 0, REG_SZ, reinterpret_cast<const BYTE*>(association), size);
     CHECK(ActValue(L"\\Database", L"Last DB Name") == L"REG_SZ:" + File(L"Customers.dbf"));
     CHECK(User(L"Logon", L"Username") == L"before");
     CHECK(!JourneyStores::FileExists(ProgramFile(L"logon.exe.mark")));

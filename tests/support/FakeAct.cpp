@@ -11,9 +11,12 @@ namespace {
 // {6B1D5E21-7C4F-4B7A-9C55-3E0C5A1D0001} and following: classes of the tests alone.
 constexpr GUID kApplicationClass{0x6b1d5e21, 0x7c4f, 0x4b7a, {0x9c, 0x55, 0x3e, 0x0c, 0x5a, 0x1d, 0x00, 0x01}};
 constexpr GUID kEventClass{0x6b1d5e21, 0x7c4f, 0x4b7a, {0x9c, 0x55, 0x3e, 0x0c, 0x5a, 0x1d, 0x00, 0x02}};
+constexpr GUID kCommandsClass{0x6b1d5e21, 0x7c4f, 0x4b7a, {0x9c, 0x55, 0x3e, 0x0c, 0x5a, 0x1d, 0x00, 0x04}};
 constexpr GUID kEventInterface{0x6b1d5e21, 0x7c4f, 0x4b7a, {0x9c, 0x55, 0x3e, 0x0c, 0x5a, 0x1d, 0x00, 0x03}};
 
-constexpr std::array kMembers{L"OpenFile",
+constexpr std::array kMembers{L"AuxCommandExistsInToolbar",
+                              L"AuxCommandExistsInToolsMenu",
+                              L"OpenFile",
                               L"Views",
                               L"Preferences",
                               L"openDB",
@@ -192,6 +195,7 @@ void PutText(VARIANT* result, const std::wstring& text) {
 
 FakeAct::FakeAct()
     : registered_{RegisterClassObject<Object>(L"ACTOLE.APPOBJECT", kApplicationClass, *this),
+                  RegisterClassObject<Object>(L"ACTOLE.AUXCMDS", kCommandsClass, *this),
                   RegisterClassObject<EventObject>(L"ACTEVENTLib.ActEvent", kEventClass, *this)} {}
 
 FakeAct::~FakeAct() {
@@ -234,6 +238,9 @@ HRESULT FakeAct::Invoke(const std::wstring& member, WORD flags, const DISPPARAMS
     } else if (member == L"UseLastDBonStartup" || member == L"RegistrationFailed") {
         result->vt = VT_BOOL;
         result->boolVal = (member[0] == L'U' ? UseLastDatabase : RegistrationFailed) ? VARIANT_TRUE : VARIANT_FALSE;
+    } else if (member.find(L"AuxCommand") != std::wstring::npos) {
+        result->vt = VT_I4;
+        result->lVal = 0;
     } else if (member == L"InstanceCount") {
         result->vt = VT_I4;
         result->lVal = InstanceCount;

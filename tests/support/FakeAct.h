@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// An ACT! inside this process: an application, views, preferences and event object behind the real ProgIDs. It writes
-/// down every call, last argument last, as "openDB(VT_BSTR C:\x.dbf)", and fails where it is told to.
+/// An ACT! inside this process: an application, views, preferences, commands and event object behind the real ProgIDs.
+/// It writes down every call, last argument last, as "openDB(VT_BSTR C:\x.dbf)", and fails where it is told to.
 class FakeAct {
 public:
     /// How a member fails: as an exception with wCode or scode, or (both 0) with a plain failure code.

@@ -124,3 +124,17 @@ void FileBytes(const std::wstring& path, const std::string& bytes) {
 bool FileExists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 } // namespace JourneyStores
+
+HiddenClass::HiddenClass(const wchar_t* key) {
+    RegOpenKeyExW(HKEY_LOCAL_MACHINE, (std::wstring(L"Software\\Classes\\") + key).c_str(), 0, KEY_ALL_ACCESS,
+                  key_.Receive());
+    DWORD size = 0;
+    RegQueryValueExW(key_.Get(), L"", nullptr, nullptr, nullptr, &size);
+    value_.resize(size);
+    RegQueryValueExW(key_.Get(), L"", nullptr, nullptr, value_.data(), &size);
+    RegDeleteValueW(key_.Get(), L"");
+}
+
+HiddenClass::~HiddenClass() {
+    RegSetValueExW(key_.Get(), L"", 0, REG_SZ, value_.data(), static_cast<DWORD>(value_.size()));
+}

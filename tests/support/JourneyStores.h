@@ -1,6 +1,6 @@
 #pragma once
 
-#include "win32/Windows.h"
+#include "win32/Owner.h"
 
 #include <map>
 #include <optional>
@@ -39,3 +39,16 @@ void FileBytes(const std::wstring& path, const std::string& bytes);
 bool FileExists(const std::wstring& path);
 
 } // namespace JourneyStores
+
+/// Hides the default value of a key of the machine's classes for as long as it lives, as if it were not registered.
+class HiddenClass {
+public:
+    explicit HiddenClass(const wchar_t* key);
+    ~HiddenClass();
+    HiddenClass(const HiddenClass&) = delete;
+    HiddenClass& operator=(const HiddenClass&) = delete;
+
+private:
+    RegistryKey key_;
+    std::vector<BYTE> value_;
+};

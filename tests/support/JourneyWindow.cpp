@@ -225,6 +225,8 @@ std::optional<Box> MessageBoxOf(DWORD process) {
     return std::nullopt;
 }
 
+void Answer(const Box& box, int button) { PostMessageW(box.Window, WM_COMMAND, static_cast<WPARAM>(button), 0); }
+
 void Dismiss(const Box& box) { PostMessageW(box.Window, WM_CLOSE, 0, 0); }
 
 } // namespace JourneyWindow

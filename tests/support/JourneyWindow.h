@@ -61,6 +61,8 @@ struct Box {
 std::optional<Box> MessageBoxOf(DWORD process);
 /// Presses OK, the only button of every box met here: closing the box does the same.
 void Dismiss(const Box& box);
+/// Presses a button of a message box, IDYES for example.
+void Answer(const Box& box, int button);
 
 } // namespace JourneyWindow
 

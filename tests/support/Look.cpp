@@ -31,8 +31,8 @@ int CaptionMargin(HWND control) {
     if (kind != L"Button") return -1;
     const auto type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
     const RECT place = PlaceOf(control);
-    const bool isBareMark =
-        type == BS_AUTORADIOBUTTON && place.right - place.left <= kMark * 2; // has a label beside it
+    const bool isBareMark = (type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX) &&
+                            place.right - place.left <= kMark * 2; // has a label beside it
     if (isBareMark) return -1;
     return type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX ? kMark : kEdges;
 }
