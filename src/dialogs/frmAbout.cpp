@@ -8,10 +8,10 @@
 #include "support/Vendor.h"
 #include "win32/Owner.h"
 
-frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3285}) {}
+frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3810}) {}
 
 void frmAbout::Form_Load() try {
-    Caption(LangText[4] + L' ' + Application::Title);
+    Caption(LangText[4]);
     const std::wstring name = Application::Title + (L' ' + Application::Version());
     constexpr short kGerman = 2;
     const bool isGerman = CurrentLanguage == kGerman;

@@ -11,8 +11,8 @@ public:
     frmAbout();
 
     PictureBox picIcon{this, L"picIcon", {180, 180, 720, 720}, &frmAbout::DrawIcon};
-    TextBox txtAbout{this, L"txtAbout", {1080, 180, 4740, 2145}, TextBox::Kind::Notice};
-    CommandButton cmdOK{this, L"cmdOK", {4605, 2445, 1215, 345}, &frmAbout::cmdOK_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {4605, 2970, 1215, 345}, &frmAbout::cmdOK_Click, Cancel};
+    TextBox txtAbout{this, L"txtAbout", {1080, 180, 4740, 2670}, TextBox::Kind::Notice};
 
 private:
     void Form_Load() override;

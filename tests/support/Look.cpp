@@ -37,6 +37,17 @@ int CaptionMargin(HWND control) {
     return type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX ? kMark : kEdges;
 }
 
+/// Height in pixels of a notice's lines, broken as in its own width.
+int NoticeHeight(HWND notice) {
+    HDC canvas = GetDC(notice);
+    const HGDIOBJ before = SelectObject(canvas, reinterpret_cast<HGDIOBJ>(SendMessageW(notice, WM_GETFONT, 0, 0)));
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(canvas, &metrics);
+    SelectObject(canvas, before);
+    ReleaseDC(notice, canvas);
+    return static_cast<int>(SendMessageW(notice, EM_GETLINECOUNT, 0, 0)) * static_cast<int>(metrics.tmHeight);
+}
+
 BOOL CALLBACK CheckCaption(HWND control, LPARAM parameter) {
     const int margin = CaptionMargin(control);
     const RECT place = PlaceOf(control);
@@ -45,6 +56,10 @@ BOOL CALLBACK CheckCaption(HWND control, LPARAM parameter) {
     if (margin >= 0 && needed > room)
         *reinterpret_cast<std::wstring*>(parameter) +=
             WindowText(control) + L": " + std::to_wstring(needed) + L" in " + std::to_wstring(room) + L"; ";
+    const bool isNotice = (GetWindowLongPtrW(control, GWL_STYLE) & ES_READONLY) != 0 && margin < 0 &&
+                          FindWindowExW(GetParent(control), nullptr, L"Edit", nullptr) == control;
+    if (isNotice && NoticeHeight(control) > place.bottom - place.top)
+        *reinterpret_cast<std::wstring*>(parameter) += L"notice too long; ";
     return TRUE;
 }
 
