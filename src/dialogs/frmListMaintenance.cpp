@@ -29,13 +29,21 @@ void frmListMaintenance::Form_Load() try {
 void frmListMaintenance::Create_List() {
     lstDB.Clear();
     for (const std::wstring& name : DatabaseList::ReadSort()) lstDB.AddItem(name);
+    isListRead_ = DatabaseList::WasRead();
 }
 
 void frmListMaintenance::Save_List() const {
+    IniLib::Change change;
+    Save_List(change);
+    change.Commit();
+}
+
+void frmListMaintenance::Save_List(IniLib::Change& change) const {
+    if (!isListRead_) change.Refuse(); // the lines are not what is stored
     std::vector<std::wstring> names;
     names.reserve(static_cast<size_t>(lstDB.ListCount()));
     for (int index = 0; index < lstDB.ListCount(); ++index) names.push_back(lstDB.List(index));
-    DatabaseList::WriteSort(names);
+    DatabaseList::WriteSort(change, names);
 }
 
 void frmListMaintenance::Form_Unload() try {
@@ -72,15 +80,18 @@ void frmListMaintenance::cmdRemove_Click() {
     const int removed = lstDB.ListIndex();
     if (removed < 0) return;
     const std::wstring name = lstDB.List(removed);
-    DatabaseList::DeleteDatabase(name);
+    IniLib::Change change;
+    DatabaseList::DeleteFileRecord(change, name);
     lstDB.RemoveItem(removed);
     if (removed < lstDB.ListCount())
         lstDB.ListIndex(removed);
     else if (lstDB.ListCount() > 0)
         lstDB.ListIndex(0);
     EnableButtons();
-    DatabaseList::ReplaceInQuickSwitch(name, {});
-    Save_List();
+    DatabaseList::ReplaceInQuickSwitch(change, name, {});
+    Save_List(change);
+    // A database that stays in the list keeps its log-on.
+    if (change.Commit()) DatabaseList::DeleteUserRecord(name);
 }
 
 void frmListMaintenance::MoveListboxItem(ListBox& list, int index, int newIndex) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/MainWindow.h"
+#include "settings/IniLib.h"
 #include "ui/Button.h"
 #include "ui/Form.h"
 #include "ui/Label.h"
@@ -25,6 +26,7 @@ private:
     void Form_Unload() override;
     void Create_List();
     void Save_List() const;
+    void Save_List(IniLib::Change& change) const;
     void EnableButtons();
     /// Moves one line, the selected one for a negative index, and selects it. Does nothing when the new index lies
     /// outside the list.
@@ -37,4 +39,5 @@ private:
     void cmdClose_Click();
 
     MainWindow& mainWindow_;
+    bool isListRead_ = false;
 };

@@ -68,7 +68,9 @@ void frmPrefLocations::cmdClear_Click() try {
 }
 
 void frmPrefLocations::cmdOK_Click() try {
-    for (int row = 0; row < kLocationCount; ++row) IniLib::WriteKeyValue(typedName_, KeyOf(row), lvwPref.Cell(row, 1));
+    IniLib::Change change;
+    for (int row = 0; row < kLocationCount; ++row) change.WriteKeyValue(typedName_, KeyOf(row), lvwPref.Cell(row, 1));
+    change.Commit();
     Unload();
 } catch (...) {
     ErrorReport(L"frmPrefLocations: Sub cmdOK_Click");

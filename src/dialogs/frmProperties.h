@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/MainWindow.h"
+#include "settings/IniLib.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"
 #include "ui/ControlArray.h"
@@ -86,10 +87,11 @@ private:
 
     // Saving (frmPropertiesSave.cpp)
     void Save();
-    void Rename(const std::wstring& name) const;
-    void WriteFiles(const std::wstring& name);
+    bool SaveToFile(const std::wstring& name);
+    void Rename(IniLib::Change& change, const std::wstring& name) const;
+    void WriteFiles(IniLib::Change& change, const std::wstring& name);
+    void WriteLocations(IniLib::Change& change, const std::wstring& name);
     void WriteLogon(const std::wstring& name);
-    void WriteLocations(const std::wstring& name);
 
     MainWindow* mainWindow_;
     std::wstring OldName_;

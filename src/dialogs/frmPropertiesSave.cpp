@@ -24,25 +24,17 @@ Folders ReadFolders(const std::wstring& name) {
     return folders;
 }
 
-void WriteMissingFolders(const std::wstring& name, const Folders& folders) {
+void WriteMissingFolders(IniLib::Change& change, const std::wstring& name, const Folders& folders) {
     for (size_t index = 0; index < folders.size(); ++index)
         if (!folders[index].empty() && IniLib::GetKeyValue(name, LocationNames[index]).empty())
-            IniLib::WriteKeyValue(name, LocationNames[index], folders[index]);
-}
-
-/// Exact text replacement in the whole stored list, also in what is too long to be shown.
-void RenameInSort(const std::wstring& oldName, const std::wstring& newName) {
-    std::wstring sort = IniLib::GetWholeValue(L"General", L"Sort") + L";";
-    sort = Text::Replace(sort, oldName + L";", newName + L";");
-    sort.pop_back();
-    IniLib::WriteKeyValue(L"General", L"Sort", sort);
+            change.WriteKeyValue(name, LocationNames[index], folders[index]);
 }
 
 /// Databases that borrow their locations from the renamed one follow it.
-void RenameLender(const std::wstring& oldName, const std::wstring& newName) {
+void RenameLender(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
     for (const std::wstring& name : DatabaseList::ReadSort())
-        if (IniLib::GetKeyValue(name, L"UseLocationsFrom") == oldName)
-            IniLib::WriteKeyValue(name, L"UseLocationsFrom", newName);
+        if (!Text::EqualNoCase(name, oldName) && IniLib::GetKeyValue(name, L"UseLocationsFrom") == oldName)
+            change.WriteKeyValue(name, L"UseLocationsFrom", newName);
 }
 
 const wchar_t* Checked(const CheckBox& box) { return box.Value() ? L"1" : L"0"; }
@@ -69,36 +61,43 @@ void frmProperties::cmdOK_Click() try {
 void frmProperties::Save() {
     const std::wstring name = txtName.Text();
     Program().FriendlyName = name;
-    if (isNew_) {
-        std::vector<std::wstring> names = DatabaseList::ReadSort();
-        names.push_back(name);
-        DatabaseList::WriteSort(names);
-    } else if (name != OldName_) {
-        Rename(name);
-    }
-    WriteFiles(name);
+    const bool isSaved = SaveToFile(name);
+    // Names that differ in letter case only share their sections in both stores. A name that stays keeps its log-on.
+    if (isSaved && !isNew_ && !Text::EqualNoCase(name, OldName_)) DatabaseList::DeleteUserRecord(OldName_);
     WriteLogon(name);
-    WriteLocations(name);
     if (!isNew_ && mainWindow_) mainWindow_->ReplaceRow(name);
 }
 
-void frmProperties::Rename(const std::wstring& name) const {
-    const Folders folders = ReadFolders(OldName_);
-    RenameInSort(OldName_, name);
-    // Names that differ in letter case only share their sections in both stores.
-    if (!Text::EqualNoCase(name, OldName_)) {
-        DatabaseList::DeleteDatabase(OldName_);
-        WriteMissingFolders(name, folders);
+bool frmProperties::SaveToFile(const std::wstring& name) {
+    IniLib::Change change;
+    if (isNew_) {
+        std::vector<std::wstring> names = DatabaseList::ReadSort();
+        names.push_back(name);
+        DatabaseList::WriteSort(change, names);
+    } else if (name != OldName_) {
+        Rename(change, name);
     }
-    DatabaseList::ReplaceInQuickSwitch(OldName_, name);
-    RenameLender(OldName_, name);
+    WriteFiles(change, name);
+    WriteLocations(change, name);
+    return change.Commit();
 }
 
-void frmProperties::WriteFiles(const std::wstring& name) {
-    IniLib::WriteKeyValue(name, L"Path", txtPath.Text());
-    IniLib::WriteKeyValue(name, L"CLY", txtCL.Text());
-    IniLib::WriteKeyValue(name, L"GLY", txtGL.Text());
-    IniLib::WriteKeyValue(name, L"StartupMacro", txtMacro.Text());
+void frmProperties::Rename(IniLib::Change& change, const std::wstring& name) const {
+    const Folders folders = ReadFolders(OldName_);
+    DatabaseList::RenameInSort(change, OldName_, name);
+    if (!Text::EqualNoCase(name, OldName_)) {
+        DatabaseList::DeleteFileRecord(change, OldName_);
+        WriteMissingFolders(change, name, folders);
+    }
+    DatabaseList::ReplaceInQuickSwitch(change, OldName_, name);
+    RenameLender(change, OldName_, name);
+}
+
+void frmProperties::WriteFiles(IniLib::Change& change, const std::wstring& name) {
+    change.WriteKeyValue(name, L"Path", txtPath.Text());
+    change.WriteKeyValue(name, L"CLY", txtCL.Text());
+    change.WriteKeyValue(name, L"GLY", txtGL.Text());
+    change.WriteKeyValue(name, L"StartupMacro", txtMacro.Text());
 }
 
 void frmProperties::WriteLogon(const std::wstring& name) {
@@ -111,12 +110,12 @@ void frmProperties::WriteLogon(const std::wstring& name) {
     UserStore::Set(name, L"NoPasswordAtACTStartup", Checked(chkNotAtACTLaunch));
 }
 
-void frmProperties::WriteLocations(const std::wstring& name) {
+void frmProperties::WriteLocations(IniLib::Change& change, const std::wstring& name) {
     constexpr size_t kFromOther = 0;
     if (!optLocations[kFromOther].Value()) {
-        IniLib::DeleteKey(name, L"UseLocationsFrom");
+        change.DeleteKey(name, L"UseLocationsFrom");
         return;
     }
-    IniLib::WriteKeyValue(name, L"UseLocationsFrom", cboDB.SelectedText());
-    for (const wchar_t* location : LocationNames) IniLib::DeleteKey(name, location);
+    change.WriteKeyValue(name, L"UseLocationsFrom", cboDB.SelectedText());
+    for (const wchar_t* location : LocationNames) change.DeleteKey(name, location);
 }

@@ -108,7 +108,9 @@ void frmAssign::SetCaptions() {
 
 void frmAssign::FillLists() {
     const std::vector<std::wstring> names = DatabaseList::ReadSort();
+    areListsRead_ = DatabaseList::WasRead();
     const std::vector<std::wstring> assigned = DatabaseList::ReadQuickSwitch();
+    areListsRead_ = areListsRead_ && DatabaseList::WasRead();
     for (size_t index = 0; index < ButtonCount; ++index) {
         cboDB[index].AddItem({});
         for (const std::wstring& name : names) cboDB[index].AddItem(name);
@@ -128,9 +130,12 @@ void frmAssign::cmdOK_Click() try {
     for (const ComboBox& list : cboDB) names.push_back(list.SelectedText());
     size_t scheme = 0;
     while (scheme + 1 < Artwork::SchemeCount && !optColor[scheme].Value()) ++scheme;
-    IniLib::WriteKeyValue(L"General", L"QuickSwitch", Text::Join(names, L';'));
-    IniLib::WriteKeyValue(L"General", L"QuickSwitchStartup", chkStartup.Value() ? L"1" : L"0");
-    IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
+    IniLib::Change change;
+    if (!areListsRead_) change.Refuse(); // the lists were filled from nothing
+    change.WriteKeyValue(L"General", L"QuickSwitch", Text::Join(names, L';'));
+    change.WriteKeyValue(L"General", L"QuickSwitchStartup", chkStartup.Value() ? L"1" : L"0");
+    change.WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
+    change.Commit();
     Unload();
 } catch (...) {
     ErrorReport(L"frmAssign: Sub cmdOK_Click");

@@ -53,4 +53,6 @@ private:
     static Twips SamplePlace(int scheme);
     static PictureBox::Draw Sample(int scheme);
     static void DrawPosition(HDC canvas, const RECT& area, bool isFocused);
+
+    bool areListsRead_ = false;
 };

@@ -1,6 +1,6 @@
 #include "settings/Database.h"
 
-#include "settings/IniLib.h"
+#include "settings/FileHealth.h"
 #include "settings/UserStore.h"
 #include "support/Text.h"
 
@@ -32,32 +32,26 @@ struct SortList {
     std::vector<std::wstring> unseen;
 };
 
+bool& LastReading() {
+    static bool wasGood = true;
+    return wasGood;
+}
+
+/// A whole list of names as it is stored, with a note whether it could be read.
+std::wstring ReadList(const wchar_t* key) {
+    LastReading() = FileHealth::CanBeTrusted(IniLib::SettingsFile());
+    return IniLib::GetWholeValue(kGeneral, key);
+}
+
 SortList ReadWholeSort() {
+    const std::vector<std::wstring> all = Text::Split(ReadList(kSort), L';');
     SortList list{Text::Split(IniLib::GetKeyValue(kGeneral, kSort), L';'), {}};
-    const std::vector<std::wstring> all = Text::Split(IniLib::GetWholeValue(kGeneral, kSort), L';');
     // Counted in names, not in bytes: the cut may have gone through a character of two bytes.
     if (!list.shown.empty() && list.shown.size() <= all.size() && list.shown.back() != all[list.shown.size() - 1])
         list.shown.pop_back();
     if (list.shown.size() < all.size())
         list.unseen.assign(all.begin() + static_cast<std::ptrdiff_t>(list.shown.size()), all.end());
     return list;
-}
-
-void DeleteFileRecord(const std::wstring& name) {
-    if (!IsOneOf(kFileSections, name)) {
-        IniLib::DeleteSection(name);
-        return;
-    }
-    for (const wchar_t* key : kFileKeys) IniLib::DeleteKey(name, key);
-    for (const wchar_t* key : LocationNames) IniLib::DeleteKey(name, key);
-}
-
-void DeleteUserRecord(const std::wstring& name) {
-    if (!IsOneOf(kUserSections, name)) {
-        UserStore::DeleteSection(name);
-        return;
-    }
-    for (const wchar_t* key : kUserKeys) UserStore::Delete(name, key);
 }
 
 } // namespace
@@ -71,35 +65,61 @@ namespace DatabaseList {
 
 std::vector<std::wstring> ReadSort() { return ReadWholeSort().shown; }
 
-bool WriteSort(const std::vector<std::wstring>& names) {
+bool WasRead() { return LastReading(); }
+
+void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names) {
+    if (!WasRead()) change.Refuse();
     std::vector<std::wstring> all = names;
     for (std::wstring& name : ReadWholeSort().unseen)
         if (std::ranges::find(names, name) == names.end()) all.push_back(std::move(name));
-    return IniLib::WriteKeyValue(kGeneral, kSort, Text::Join(all, L';'));
+    if (!WasRead()) change.Refuse();
+    change.WriteKeyValue(kGeneral, kSort, Text::Join(all, L';'));
+}
+
+void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
+    std::wstring sort = ReadList(kSort) + L';';
+    if (!WasRead()) change.Refuse();
+    sort = Text::Replace(sort, oldName + L';', newName + L';');
+    sort.pop_back();
+    change.WriteKeyValue(kGeneral, kSort, sort);
 }
 
 bool IsLongerThanShown() { return !ReadWholeSort().unseen.empty(); }
 
 std::vector<std::wstring> ReadQuickSwitch() {
+    LastReading() = FileHealth::CanBeTrusted(IniLib::SettingsFile());
     std::vector<std::wstring> names = Text::Split(IniLib::GetKeyValue(kGeneral, kQuickSwitch), L';');
     names.resize(std::max(names.size(), ButtonCount));
     return names;
 }
 
-void ReplaceInQuickSwitch(const std::wstring& oldName, const std::wstring& newName) {
-    std::vector<std::wstring> names = Text::Split(IniLib::GetWholeValue(kGeneral, kQuickSwitch), L';');
+void ReplaceInQuickSwitch(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
+    std::vector<std::wstring> names = Text::Split(ReadList(kQuickSwitch), L';');
+    if (!WasRead()) change.Refuse();
     // An empty name is a button without a database, not one to be renamed.
     if (oldName.empty() || std::ranges::find(names, oldName) == names.end()) return;
     if (newName.empty())
         std::erase(names, oldName);
     else
         std::ranges::replace(names, oldName, newName);
-    IniLib::WriteKeyValue(kGeneral, kQuickSwitch, Text::Join(names, L';'));
+    change.WriteKeyValue(kGeneral, kQuickSwitch, Text::Join(names, L';'));
 }
 
-void DeleteDatabase(const std::wstring& name) {
-    DeleteFileRecord(name);
-    DeleteUserRecord(name);
+void DeleteFileRecord(IniLib::Change& change, const std::wstring& name) {
+    if (!IsOneOf(kFileSections, name)) {
+        change.DeleteSection(name);
+        return;
+    }
+    for (const wchar_t* key : kFileKeys) change.DeleteKey(name, key);
+    for (const wchar_t* key : LocationNames) change.DeleteKey(name, key);
+}
+
+void DeleteUserRecord(const std::wstring& name) {
+    if (!IsOneOf(kUserSections, name)) {
+        UserStore::DeleteSection(name);
+        return;
+    }
+    for (const wchar_t* key : kUserKeys) UserStore::Delete(name, key);
 }
 
 } // namespace DatabaseList

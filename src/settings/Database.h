@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/IniLib.h"
+
 #include <array>
 #include <string>
 #include <vector>
@@ -39,8 +41,16 @@ inline constexpr size_t ButtonCount = 8;
 /// whole.
 std::vector<std::wstring> ReadSort();
 
-/// Writes the databases in display order. Names that ReadSort cannot show stay in the list, behind the given ones.
-bool WriteSort(const std::vector<std::wstring>& names);
+/// Writes the databases in display order. Names that ReadSort cannot show stay in the list, behind the given ones. The
+/// change is refused when the list could not be read (WasRead).
+void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names);
+
+/// Renames a database in the list, by exact text replacement of the name and the separator behind it.
+void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName);
+
+/// False when the last reading of a list of names met a file that could not be trusted (FileHealth). What was returned
+/// then is not what is stored and must not be written back.
+bool WasRead();
 
 /// True when the list holds names that ReadSort cannot show.
 bool IsLongerThanShown();
@@ -49,12 +59,13 @@ bool IsLongerThanShown();
 std::vector<std::wstring> ReadQuickSwitch();
 
 /// Renames a database on every button that has it. An empty new name takes it out: later buttons move up.
-void ReplaceInQuickSwitch(const std::wstring& oldName, const std::wstring& newName);
+void ReplaceInQuickSwitch(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName);
 
-/// Deletes what both stores keep about a database. In a section that is the program's own ("General" of the settings
-/// file; "Settings", "Options", "Display" and "Logon" of the per-user store) only a database's keys go.
-/// Neither list of names is changed.
-void DeleteDatabase(const std::wstring& name);
+/// Deletes what the settings file, or the per-user store, keeps about a database. In a section that is the program's
+/// own ("General" of the settings file; "Settings", "Options", "Display" and "Logon" of the per-user store) only a
+/// database's keys go. Neither list of names is changed.
+void DeleteFileRecord(IniLib::Change& change, const std::wstring& name);
+void DeleteUserRecord(const std::wstring& name);
 
 } // namespace DatabaseList
 

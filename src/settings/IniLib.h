@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,9 +26,8 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
 /// who write a long value back and must not lose its end.
 std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key);
 
-/// Writes a value, or removes a key or a section with its keys; false when the platform could not
-/// or the value is longer than 32766 bytes. A blank at either end of a
-/// value and quotes around it survive; removing a missing key does not touch the file.
+/// Writes a value, or removes a key or a section with its keys, as a Change of one step. False when it could not be
+/// made; the file is as it was then. A blank at either end of a value and quotes around it survive.
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value,
                    std::wstring& fileName);
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value);
@@ -39,5 +39,37 @@ bool DeleteSection(const std::wstring& section);
 /// The names of the file's sections, as many as fit into 998 bytes. An error is reported to the user.
 std::vector<std::wstring> Extract_Sections(std::wstring& fileName);
 std::vector<std::wstring> Extract_Sections();
+
+/// Writes and removals that belong together. They are collected, reach the file in one step and in their order, and
+/// leave the bytes that the platform's calls would leave one after another. Readings meanwhile see the file as it is.
+class Change {
+public:
+    /// Of the current settings file, or of another one.
+    explicit Change(const std::wstring& fileName = SettingsFile());
+
+    void WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value);
+    void DeleteKey(const std::wstring& section, const std::wstring& key);
+    void DeleteSection(const std::wstring& section);
+    /// Lets Commit fail: a part of the change cannot be told.
+    void Refuse() { isRefused_ = true; }
+    /// Makes all of it or nothing; false when nothing was made. Nothing is made with an empty section name, a key and
+    /// value of more than 32766 bytes together, a file that is read-only, locked by another writer for long, or not to
+    /// be trusted (FileHealth). Waits up to half a second. Only where the file cannot be replaced but merely
+    /// overwritten are the steps made one by one, up to the first that fails. The first change of a run leaves a
+    /// backup.
+    bool Commit() const;
+
+private:
+    struct Step {
+        std::string section;
+        std::optional<std::string> key, value; ///< none: the section, or the key, goes
+    };
+    void Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value);
+    bool Make(const std::wstring& path) const;
+
+    std::wstring fileName_;
+    std::vector<Step> steps_;
+    bool isRefused_ = false;
+};
 
 } // namespace IniLib

@@ -23,7 +23,9 @@ namespace modUpgrade32 {
 void Upgrade_to_32() try {
     for (const std::wstring& section : IniLib::Extract_Sections()) {
         for (const wchar_t* key : kMovedKeys) Store(section, key);
-        for (const wchar_t* key : kMovedKeys) IniLib::DeleteKey(section, key);
+        IniLib::Change change;
+        for (const wchar_t* key : kMovedKeys) change.DeleteKey(section, key);
+        change.Commit();
     }
 } catch (...) {
     ErrorReport(L"modUpgrade32: Function Upgrade_to_32");

@@ -1,6 +1,5 @@
 #include "settings/Database.h"
 
-#include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "settings/modUpgrade32.h"
 #include "support/MsgBox.h"
@@ -8,6 +7,8 @@
 #include "support/TempFile.h"
 #include "support/Text.h"
 #include "support/Wide.h"
+
+#include <functional>
 
 namespace {
 
@@ -20,6 +21,21 @@ struct Stores : ScratchRegistry {
 
     TempFile file{L"Kelmorra.ini"};
 };
+
+bool Commit(const std::function<void(IniLib::Change&)>& collect) {
+    IniLib::Change change;
+    collect(change);
+    return change.Commit();
+}
+
+bool WriteSort(const Names& names) {
+    return Commit([&](IniLib::Change& change) { DatabaseList::WriteSort(change, names); });
+}
+
+void DeleteDatabase(const std::wstring& name) {
+    CHECK(Commit([&](IniLib::Change& change) { DatabaseList::DeleteFileRecord(change, name); }));
+    DatabaseList::DeleteUserRecord(name);
+}
 
 std::wstring Sort() { return IniLib::GetWholeValue(L"General", L"Sort"); }
 
@@ -38,7 +54,7 @@ Names LongList(size_t count, size_t length) {
 TEST_CASE_FIXTURE(Stores, "The list of databases keeps empty names, and an empty list is an empty value") {
     CHECK(DatabaseList::ReadSort().empty());
     for (const Names& names : {Names{L"A", L"", L"B"}, Names{L"One"}, Names{}}) {
-        CHECK(DatabaseList::WriteSort(names));
+        CHECK(WriteSort(names));
         CHECK(DatabaseList::ReadSort() == names);
     }
     CHECK(file.Bytes() == "[General]\r\nSort=\r\n");
@@ -59,11 +75,11 @@ TEST_CASE_FIXTURE(Stores, "What a list too long to be read whole holds behind th
         CHECK(shown == Names(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(row.seen)));
         CHECK(DatabaseList::IsLongerThanShown());
 
-        CHECK(DatabaseList::WriteSort(shown));
+        CHECK(WriteSort(shown));
         CHECK(Sort() == Text::Join(names, L';'));
 
         shown.front() = L"New";
-        DatabaseList::WriteSort(shown);
+        WriteSort(shown);
         Names expected = names;
         expected.front() = L"New";
         CHECK(Sort() == Text::Join(expected, L';'));
@@ -72,13 +88,13 @@ TEST_CASE_FIXTURE(Stores, "What a list too long to be read whole holds behind th
 
 TEST_CASE_FIXTURE(Stores, "A name that an addition pushed behind the cut is not written twice") {
     const Names names = LongList(9, 99);
-    DatabaseList::WriteSort(names);
+    WriteSort(names);
     CHECK_FALSE(DatabaseList::IsLongerThanShown());
     Names held = DatabaseList::ReadSort();
     held.insert(held.begin(), std::wstring(150, L'n'));
-    DatabaseList::WriteSort(held);
+    WriteSort(held);
     CHECK(DatabaseList::IsLongerThanShown());
-    DatabaseList::WriteSort(held);
+    WriteSort(held);
     CHECK(Sort() == Text::Join(held, L';'));
 }
 
@@ -100,7 +116,7 @@ TEST_CASE_FIXTURE(Stores, "Renaming and removing on the buttons goes by whole na
     };
     for (const Row& row : rows) {
         IniLib::WriteKeyValue(L"General", L"QuickSwitch", row.before);
-        DatabaseList::ReplaceInQuickSwitch(row.oldName, row.newName);
+        Commit([&](IniLib::Change& change) { DatabaseList::ReplaceInQuickSwitch(change, row.oldName, row.newName); });
         CHECK(IniLib::GetKeyValue(L"General", L"Quickswitch") == row.after);
     }
     IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;;B");
@@ -120,7 +136,7 @@ TEST_CASE_FIXTURE(Stores, "A record is read from the section of its name") {
 TEST_CASE_FIXTURE(Stores, "Deleting a database takes its record from both stores") {
     file.Bytes("[General]\r\nSort=Sales;Other\r\n[Sales]\r\nPath=x\r\nOwn=1\r\n[Other]\r\nPath=y\r\n");
     for (const wchar_t* name : {L"Sales", L"Other"}) UserStore::Set(name, L"Username", L"u");
-    DatabaseList::DeleteDatabase(L"Sales");
+    DeleteDatabase(L"Sales");
     CHECK(file.Bytes() == "[General]\r\nSort=Sales;Other\r\n[Other]\r\nPath=y\r\n");
     CHECK(UserStore::Get(L"Sales", L"Username", L"gone") == L"gone");
     CHECK(UserStore::Get(L"Other", L"Username") == L"u");
@@ -128,7 +144,7 @@ TEST_CASE_FIXTURE(Stores, "Deleting a database takes its record from both stores
 
 TEST_CASE_FIXTURE(Stores, "A database called like a section of the program takes only its own keys with it") {
     file.Bytes("[General]\r\nSort=GENERAL\r\nPath=x\r\nNetLinks=y\r\nUseLocationsFrom=z\r\nQuickSwitch=;;\r\n");
-    DatabaseList::DeleteDatabase(L"GENERAL");
+    DeleteDatabase(L"GENERAL");
     CHECK(file.Bytes() == "[General]\r\nSort=GENERAL\r\nQuickSwitch=;;\r\n");
 
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
@@ -139,7 +155,7 @@ TEST_CASE_FIXTURE(Stores, "A database called like a section of the program takes
         UserStore::Set(section, L"Password", L"secret");
         std::wstring name = section;
         CharUpperW(name.data());
-        DatabaseList::DeleteDatabase(name);
+        DeleteDatabase(name);
         CHECK(UserStore::Get(section, ownKey) == L"kept");
         CHECK(UserStore::Get(section, L"Password", L"gone") == L"gone");
         CHECK(UserStore::Get(section, L"NoPasswordAtACTStartup", L"gone") == L"gone");

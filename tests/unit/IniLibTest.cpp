@@ -37,7 +37,7 @@ TEST_CASE_FIXTURE(SettingsFileFixture, "The file is ANSI without a mark, and nam
 }
 
 TEST_CASE_FIXTURE(SettingsFileFixture, "Reading cuts a value at 998 bytes; the whole value stays readable") {
-    for (const size_t length : {997U, 998U, 999U, 1000U, 2500U, 32766U}) {
+    for (const size_t length : {997U, 998U, 999U, 1000U, 2500U, 32762U}) {
         const std::wstring value(length, L'x');
         IniLib::WriteKeyValue(L"General", L"Sort", value);
         CHECK(IniLib::GetKeyValue(L"General", L"Sort").size() == std::min<size_t>(length, 998));
@@ -144,7 +144,7 @@ TEST_CASE_FIXTURE(SettingsFileFixture, "Sections are listed in order as far as 9
 
 TEST_CASE_FIXTURE(SettingsFileFixture, "A write that cannot be made is false and leaves the file as it was") {
     CHECK_FALSE(IniLib::WriteKeyValue(L"S", L"K", std::wstring(32767, L'x')));
-    CHECK_FALSE(IniLib::WriteKeyValue(L"S", L"K", std::wstring(32765, L'x') + L' '));
+    CHECK_FALSE(IniLib::WriteKeyValue(L"S", L"K", std::wstring(32764, L'x') + L' '));
     IniLib::SettingsFile(file.Folder() + L"\\missing\\Kelmorra.ini");
     CHECK_FALSE(IniLib::WriteKeyValue(L"S", L"K", L"1"));
     IniLib::SettingsFile(file.Path());

@@ -1,0 +1,86 @@
+// What IniLib writes: collected first, then made in one step.
+
+#include "settings/Backup.h"
+#include "settings/FileHealth.h"
+#include "settings/IniLib.h"
+#include "settings/SafeFile.h"
+#include "win32/AnsiText.h"
+#include "win32/Windows.h"
+
+#include <array>
+#include <utility>
+
+namespace {
+
+// What the platform reads back whole of a line; Wine's writer crashes on much longer values.
+constexpr size_t kLongestLine = 32766;
+
+constexpr bool IsBlank(char character) { return character == ' ' || character == '\t'; }
+constexpr bool IsQuote(char character) { return character == '"' || character == '\''; }
+
+/// The platform strips outer blanks and takes one pair of quotes off a value that it reads.
+std::string Quoted(std::string value) {
+    if (value.empty()) return value;
+    const bool blankAtEnd = IsBlank(value.front()) || IsBlank(value.back());
+    const bool wrapped = value.size() > 1 && IsQuote(value.front()) && value.front() == value.back();
+    return blankAtEnd || wrapped ? '"' + std::move(value) + '"' : value;
+}
+
+/// A missing key gives back whichever default is offered; a present one, even empty, cannot equal both.
+bool KeyExists(const char* section, const char* key, const char* file) {
+    for (const char* fallback : {"0", "1"}) {
+        std::array<char, 3> value{};
+        GetPrivateProfileStringA(section, key, fallback, value.data(), value.size(), file);
+        if (std::string_view(value.data()) != fallback) return true;
+    }
+    return false;
+}
+
+/// The platform places a bare file name in a folder of the system.
+bool HasFolder(const std::wstring& path) { return path.find_first_of(L"\\/:") != std::wstring::npos; }
+
+} // namespace
+
+namespace IniLib {
+
+// Through the ANSI code page: the path must be the one that the platform's calls are going to meet.
+Change::Change(const std::wstring& fileName) : fileName_(ToWide(ToAnsi(fileName))) {}
+
+void Change::Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value) {
+    if (section.empty()) Refuse();
+    steps_.push_back({ToAnsi(section), std::move(key), std::move(value)});
+}
+
+void Change::WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+    std::string keyBytes = ToAnsi(key);
+    std::string bytes = Quoted(ToAnsi(value));
+    if (keyBytes.size() + bytes.size() > kLongestLine) Refuse();
+    Add(section, std::move(keyBytes), std::move(bytes));
+}
+
+void Change::DeleteKey(const std::wstring& section, const std::wstring& key) { Add(section, ToAnsi(key), {}); }
+
+void Change::DeleteSection(const std::wstring& section) { Add(section, {}, {}); }
+
+bool Change::Make(const std::wstring& path) const {
+    const std::string file = ToAnsi(path);
+    for (const Step& step : steps_) {
+        const char* const section = step.section.c_str();
+        const char* const key = step.key ? step.key->c_str() : nullptr;
+        // The platform would rewrite the file for a key that is not there.
+        if (key && !step.value && !KeyExists(section, key, file.c_str())) continue;
+        if (!WritePrivateProfileStringA(section, key, step.value ? step.value->c_str() : nullptr, file.c_str()))
+            return false;
+    }
+    return true;
+}
+
+bool Change::Commit() const {
+    if (isRefused_) return false;
+    if (!HasFolder(fileName_)) return Make(fileName_);
+    if (!FileHealth::CanBeTrusted(fileName_)) return false;
+    Backup::KeepOnce(fileName_);
+    return SafeFile::Change(fileName_, [this](const std::wstring& path) { return Make(path); });
+}
+
+} // namespace IniLib

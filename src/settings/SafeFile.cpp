@@ -1,0 +1,135 @@
+#include "settings/SafeFile.h"
+
+#include "win32/Owner.h"
+
+#include <vector>
+
+namespace {
+
+constexpr DWORD kPatience = 400;       // milliseconds for all waiting of one change
+constexpr DWORD kDeniedPatience = 200; // of it for "access denied": a file on its way out, or truly no right
+constexpr DWORD kPause = 7;
+
+/// Repeats a call that others get in the way of. The error code of the last try, ERROR_SUCCESS when it went well.
+template <class Call>
+DWORD Persist(DWORD start, Call call) {
+    DWORD deniedSince = GetTickCount();
+    while (!call()) {
+        const DWORD error = GetLastError();
+        const DWORD now = GetTickCount();
+        if (error == ERROR_SHARING_VIOLATION)
+            deniedSince = now;
+        else if (error != ERROR_ACCESS_DENIED || now - deniedSince >= kDeniedPatience)
+            return error;
+        if (now - start >= kPatience) return error;
+        Sleep(kPause);
+    }
+    return ERROR_SUCCESS;
+}
+
+bool IsInTheWay(DWORD error) { return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION; }
+
+bool MayBeWritten(const std::wstring& path) {
+    constexpr DWORD kUnwritable = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes == INVALID_FILE_ATTRIBUTES || (attributes & kUnwritable) == 0;
+}
+
+/// The discretionary access list of a file as the system hands it out; empty when it has none to give.
+std::vector<BYTE> Permissions(const std::wstring& path) {
+    DWORD size = 0;
+    GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<BYTE> permissions(size);
+    if (!GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, permissions.data(), size, &size)) return {};
+    return permissions;
+}
+
+/// The copy was made with the folder's permissions; the file may have been given others.
+void KeepPermissions(const std::wstring& from, const std::wstring& to) {
+    std::vector<BYTE> permissions = Permissions(from);
+    if (!permissions.empty() && permissions != Permissions(to))
+        SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, permissions.data());
+}
+
+void FlushToDisk(const std::wstring& path) {
+    const FileHandle file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    if (file) FlushFileBuffers(file.Get());
+}
+
+/// The copy that is changed. The name is always the same, so that what a killed writer left goes with the next change.
+class WorkingCopy {
+public:
+    explicit WorkingCopy(const std::wstring& original) : original_(original), path_(original + L".new") { Remove(); }
+    ~WorkingCopy() { Remove(); }
+    WorkingCopy(const WorkingCopy&) = delete;
+    WorkingCopy& operator=(const WorkingCopy&) = delete;
+
+    /// Copies the original, if there is one, changes the copy and moves it over the original. An error code.
+    DWORD Replace(DWORD start, const SafeFile::Edit& edit) const;
+
+private:
+    void Remove() const {
+        SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
+        DeleteFileW(path_.c_str());
+    }
+
+    const std::wstring& original_;
+    std::wstring path_;
+};
+
+DWORD WorkingCopy::Replace(DWORD start, const SafeFile::Edit& edit) const {
+    const DWORD attributes = GetFileAttributesW(original_.c_str());
+    const bool isNew = attributes == INVALID_FILE_ATTRIBUTES;
+    const auto copy = [&] { return CopyFileW(original_.c_str(), path_.c_str(), FALSE) != 0; };
+    if (const DWORD error = isNew ? ERROR_SUCCESS : Persist(start, copy)) return error;
+    // A hidden copy could not be opened by every kind of writing.
+    SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (const DWORD error = Persist(start, [&] { return edit(path_); })) return error;
+    if (SafeFile::Read(path_) == SafeFile::Read(original_)) return ERROR_SUCCESS;
+    FlushToDisk(path_);
+    if (!isNew) {
+        KeepPermissions(original_, path_);
+        SetFileAttributesW(path_.c_str(), attributes);
+    }
+    return Persist(start, [&] {
+        return MoveFileExW(path_.c_str(), original_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    });
+}
+
+} // namespace
+
+namespace SafeFile {
+
+bool Change(const std::wstring& path, const Edit& edit) {
+    if (!MayBeWritten(path)) return false;
+    const DWORD start = GetTickCount();
+    const std::wstring lockPath = path + L".lock";
+    FileHandle lock;
+    const DWORD refused = Persist(start, [&] {
+        lock.Reset(CreateFileW(lockPath.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                               FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+        return static_cast<bool>(lock);
+    });
+    if (refused != ERROR_SUCCESS && refused != ERROR_ACCESS_DENIED) return false;
+    if (!lock) return edit(path);
+    const DWORD error = WorkingCopy(path).Replace(start, edit);
+    return error == ERROR_SUCCESS || (IsInTheWay(error) && edit(path));
+}
+
+std::optional<std::string> Read(const std::wstring& path) {
+    const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0,
+                                      nullptr));
+    if (!file) return std::nullopt;
+    std::string bytes;
+    char block[4096];
+    DWORD count = 0;
+    do {
+        if (!ReadFile(file.Get(), block, sizeof block, &count, nullptr)) return std::nullopt;
+        bytes.append(block, count);
+    } while (count > 0);
+    return bytes;
+}
+
+} // namespace SafeFile

@@ -1,0 +1,275 @@
+// Writing the settings file as one step, on files that are shared, protected, held open or damaged.
+
+#include "settings/SafeFile.h"
+#include "settings/Backup.h"
+#include "settings/Database.h"
+#include "settings/FileHealth.h"
+#include "support/ScratchRegistry.h"
+#include "support/TempFile.h"
+#include "support/Wide.h"
+#include "win32/AnsiText.h"
+#include "win32/Owner.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char kBefore[] =
+    "; office\r\n[General]\n  Sort = A;B\r\n\r\n[A]\r\nPath=C:\\a.dbf\r\nCLY=\r\n[B]\r\nPath=b\r\n";
+
+/// A settings file, and a user whose backups are kept beside it.
+struct Desk : ScratchRegistry {
+    Desk() {
+        RegistryKey key;
+        const wchar_t* const folders = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+        RegCreateKeyExW(HKEY_CURRENT_USER, folders, 0, nullptr, 0, KEY_SET_VALUE, nullptr, key.Receive(), nullptr);
+        const std::wstring local = backups.Folder();
+        RegSetValueExW(key.Get(), L"Local AppData", 0, REG_SZ, reinterpret_cast<const BYTE*>(local.c_str()),
+                       static_cast<DWORD>((local.size() + 1) * sizeof(wchar_t)));
+        IniLib::SettingsFile(file.Path());
+    }
+    ~Desk() { IniLib::SettingsFile({}); }
+
+    FileHandle Hold(const std::wstring& path, DWORD sharing) const {
+        return FileHandle(CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
+    }
+    /// What lies in the settings file's folder.
+    std::set<std::wstring> Names() const {
+        std::set<std::wstring> names;
+        for (const auto& entry : fs::directory_iterator(file.Folder())) names.insert(entry.path().filename().wstring());
+        return names;
+    }
+    bool IsAlone() const { return Names() == std::set<std::wstring>{L"Kelmorra.ini"}; }
+    std::vector<fs::path> Backups() const {
+        std::vector<fs::path> paths;
+        for (const auto& entry : fs::directory_iterator(backups.Folder() + L"\\Kelmorra\\Backup"))
+            paths.push_back(entry.path());
+        std::ranges::sort(paths);
+        return paths;
+    }
+
+    TempFile file{L"Kelmorra.ini"};
+    TempFile backups{L"none"};
+};
+
+bool Write(const wchar_t* value = L"new") { return IniLib::WriteKeyValue(L"A", L"Path", value); }
+
+/// The same steps for a change and for the platform's own calls.
+struct Step {
+    const wchar_t* section;
+    const wchar_t* key;
+    const wchar_t* value;
+};
+constexpr Step kSteps[] = {
+    {L"General", L"Sort", L"A;B;C"}, {L"B", nullptr, nullptr}, {L"C", L"Path", L"c"},    {L"A", L"New", L"1"},
+    {L"A", L"CLY", nullptr},         {L"C", L"CLY", L"d"},     {L"A", L"Path", L"again"}};
+
+IniLib::Change ChangeOfSteps() {
+    IniLib::Change change;
+    for (const Step& step : kSteps) {
+        if (!step.key)
+            change.DeleteSection(step.section);
+        else if (!step.value)
+            change.DeleteKey(step.section, step.key);
+        else
+            change.WriteKeyValue(step.section, step.key, step.value);
+    }
+    return change;
+}
+
+void MakeStepsPlainly(const std::wstring& path) {
+    for (const Step& step : kSteps)
+        REQUIRE(WritePrivateProfileStringA(ToAnsi(step.section).c_str(), step.key ? ToAnsi(step.key).c_str() : nullptr,
+                                           step.value ? ToAnsi(step.value).c_str() : nullptr, ToAnsi(path).c_str()));
+}
+
+} // namespace
+
+TEST_CASE_FIXTURE(Desk,
+                  "A change leaves the bytes of the platform's calls one after another, and nothing beside the file") {
+    for (const char* before : {kBefore, "", " \r\n", "[General]\nSort=A"}) {
+        CAPTURE(before);
+        const TempFile plain(L"Kelmorra.ini");
+        plain.Bytes(before);
+        file.Bytes(before);
+        MakeStepsPlainly(plain.Path());
+        CHECK(ChangeOfSteps().Commit());
+        CHECK(file.Bytes() == plain.Bytes());
+        CHECK(IsAlone());
+    }
+    const TempFile plain(L"Kelmorra.ini");
+    fs::remove(file.Path());
+    MakeStepsPlainly(plain.Path());
+    CHECK(ChangeOfSteps().Commit());
+    CHECK(file.Bytes() == plain.Bytes());
+    CHECK(IsAlone());
+}
+
+TEST_CASE_FIXTURE(Desk, "A change is made as a whole or not at all, and not before it is committed") {
+    file.Bytes(kBefore);
+    IniLib::Change change;
+    change.WriteKeyValue(L"A", L"Path", L"new");
+    CHECK(IniLib::GetKeyValue(L"A", L"Path") == L"C:\\a.dbf");
+    SUBCASE("an empty section") { change.DeleteKey(L"", L"Path"); }
+    SUBCASE("a value too long") { change.WriteKeyValue(L"A", L"CLY", std::wstring(32764, L'x')); }
+    SUBCASE("refused") { change.Refuse(); }
+    SUBCASE("read-only") { SetFileAttributesW(file.Path().c_str(), FILE_ATTRIBUTE_READONLY); }
+    CHECK_FALSE(change.Commit());
+    CHECK(file.Bytes() == kBefore);
+    CHECK(IsAlone());
+    SetFileAttributesW(file.Path().c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_CASE_FIXTURE(Desk, "A missing folder or a folder in the file's place is refused and left as it was") {
+    fs::create_directory(file.Path());
+    CHECK_FALSE(Write());
+    CHECK(fs::is_empty(file.Path()));
+    CHECK(IsAlone());
+    IniLib::SettingsFile(file.Folder() + L"\\missing\\Kelmorra.ini");
+    CHECK_FALSE(Write());
+    CHECK(IsAlone());
+}
+
+TEST_CASE_FIXTURE(Desk, "Attributes survive, and a leftover of a killed writer does not") {
+    file.Bytes(kBefore);
+    const DWORD wanted = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+    SetFileAttributesW(file.Path().c_str(), wanted);
+    for (const wchar_t* leftover : {L".new", L".lock"}) {
+        const std::wstring path = file.Path() + leftover;
+        CloseHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr));
+    }
+    CHECK(Write());
+    CHECK(IniLib::GetKeyValue(L"A", L"Path") == L"new");
+    CHECK(GetFileAttributesW(file.Path().c_str()) == wanted);
+    CHECK(IsAlone());
+}
+
+TEST_CASE_FIXTURE(Desk, "Where the file cannot be replaced but can be written, it is written; else it stays whole") {
+    struct Row {
+        const wchar_t* obstacle; ///< a folder of that name beside the file, where no file can be made then
+        DWORD sharing;           ///< of somebody who holds the file open; 0 for nobody
+        bool isWritten;
+    };
+    constexpr Row rows[] = {
+        {L".lock", 0, true},
+        {L".new", 0, true},
+        {nullptr, FILE_SHARE_READ | FILE_SHARE_WRITE, true},
+        {nullptr, FILE_SHARE_READ, false},
+    };
+    for (const Row& row : rows) {
+        CAPTURE(row.sharing);
+        file.Bytes(kBefore);
+        const fs::path obstacle = row.obstacle ? file.Path() + row.obstacle : L"";
+        if (row.obstacle) fs::create_directory(obstacle);
+        FileHandle held;
+        if (row.sharing) held = Hold(file.Path(), row.sharing);
+        const DWORD start = GetTickCount();
+        CHECK(Write() == row.isWritten);
+        CHECK(GetTickCount() - start < 600);
+        held.Reset();
+        CHECK(IniLib::GetKeyValue(L"A", L"Path") == (row.isWritten ? L"new" : L"C:\\a.dbf"));
+        if (!row.isWritten) CHECK(file.Bytes() == kBefore);
+        if (row.obstacle) fs::remove(obstacle);
+        CHECK(IsAlone());
+    }
+}
+
+TEST_CASE_FIXTURE(Desk, "A writer that does not finish keeps others out for less than half a second") {
+    file.Bytes(kBefore);
+    const std::wstring lock = file.Path() + L".lock";
+    FileHandle other(CreateFileW(lock.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+    const DWORD start = GetTickCount();
+    CHECK_FALSE(Write());
+    CHECK(GetTickCount() - start < 500);
+    CHECK(file.Bytes() == kBefore);
+    other.Reset();
+    CHECK(Write());
+}
+
+TEST_CASE_FIXTURE(Desk, "A file that has become empty, unreadable or full of zeros since it was read is not written") {
+    const std::string zeros(sizeof kBefore, '\0');
+    for (const std::string& damaged : {std::string(), zeros, std::string("[General]\r\nSort=A;B\r\n\0\0", 24)}) {
+        file.Bytes(kBefore);
+        REQUIRE(IniLib::GetKeyValue(L"General", L"Sort") == L"A;B");
+        file.Bytes(damaged);
+        CHECK_FALSE(IniLib::WriteKeyValue(L"General", L"Sort", L"C"));
+        CHECK(file.Bytes() == damaged);
+    }
+    // What this run has never read from may be begun anew.
+    const TempFile other(L"Kelmorra.ini");
+    other.Bytes("");
+    IniLib::SettingsFile(other.Path());
+    CHECK(Write());
+}
+
+TEST_CASE_FIXTURE(Desk, "A list that could not be read is never written back, not even when the file is well again") {
+    file.Bytes(kBefore);
+    std::vector<std::wstring> names;
+    {
+        const FileHandle held = Hold(file.Path(), 0);
+        names = DatabaseList::ReadSort();
+    }
+    CHECK(names.empty());
+    CHECK_FALSE(DatabaseList::WasRead());
+    IniLib::Change change;
+    DatabaseList::WriteSort(change, {L"C"});
+    CHECK_FALSE(change.Commit());
+    CHECK(file.Bytes() == kBefore);
+    CHECK(DatabaseList::ReadSort().size() == 2);
+    CHECK(DatabaseList::WasRead());
+}
+
+TEST_CASE_FIXTURE(Desk, "The first change of a run keeps a copy; five are kept, and none of a file without settings") {
+    Backup::KeepOnce(L"another file");
+    file.Bytes(kBefore);
+    CHECK_FALSE(Backup::LastGood(file.Path()));
+    Write(L"first");
+    Write(L"second");
+    REQUIRE(Backups().size() == 1);
+    CHECK(SafeFile::Read(Backups()[0].wstring()) == kBefore);
+    CHECK(Backup::LastGood(file.Path()) == Backups()[0].wstring());
+    CHECK_FALSE(Backup::LastGood(file.Folder() + L"\\Other.ini"));
+
+    // Earlier ones, made years ago
+    const std::wstring name = Backups()[0].filename().wstring();
+    const std::wstring prefix = name.substr(0, name.size() - std::wstring(L"20261121-101112.ini").size());
+    for (const wchar_t* year : {L"1999", L"2001", L"2002", L"2003", L"2004"})
+        fs::copy_file(file.Path(), Backups().back().parent_path() / (prefix + year + L"1121-101112.ini"));
+    for (const char* worthless : {" \r\n", ""}) {
+        Backup::KeepOnce(L"another file");
+        file.Bytes(worthless);
+        Backup::KeepOnce(file.Path());
+        CHECK(Backups().size() == 6);
+    }
+    Backup::KeepOnce(L"another file");
+    file.Bytes(kBefore);
+    Backup::KeepOnce(file.Path());
+    CHECK(Backups().size() == 5);
+    CHECK(Backups().back().filename() >= name);
+    CHECK(Backups()[0].filename().wstring().find(L"-1999") == std::wstring::npos);
+}
+
+TEST_CASE_FIXTURE(Desk, "A damaged file is restored from the newest copy that is not damaged itself") {
+    Backup::KeepOnce(L"another file");
+    file.Bytes(kBefore);
+    Write();
+    const fs::path good = Backups()[0];
+    fs::path newer = good;
+    newer.replace_filename(good.filename().wstring().substr(0, 18) + L"29991121-101112.ini");
+    fs::copy_file(good, newer);
+    fs::resize_file(newer, 0);
+    for (const std::string& damaged : {std::string(), std::string(40, '\0')}) {
+        file.Bytes(damaged);
+        CHECK(FileHealth::IsDamaged(file.Path()));
+        CHECK(Backup::Restore(file.Path()));
+        CHECK(file.Bytes() == kBefore);
+        CHECK_FALSE(FileHealth::IsDamaged(file.Path()));
+        CHECK(IsAlone());
+    }
+    file.Bytes("\xFF\xFE[\0A\0]\0"); // UTF-16, which the platform reads too
+    CHECK_FALSE(FileHealth::IsDamaged(file.Path()));
+}
