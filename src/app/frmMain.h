@@ -116,6 +116,7 @@ private:
     bool ClaimInstance();
     bool LoadLanguage();
     bool FindSettingsFile();
+    bool OfferBackup();
     bool CheckActRuns();
     bool UpgradeSettings();
     bool FirstRunLanguage();

@@ -9,6 +9,8 @@
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "settings/Backup.h"
+#include "settings/FileHealth.h"
 #include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "settings/modFolderFileExists.h"
@@ -20,6 +22,7 @@
 #include "win32/Owner.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -35,6 +38,18 @@ short StoredLanguage() {
 
 bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(L"Settings", L"Installed")).value_or(0) == 0; }
 
+/// The day of a file's last change, as the user writes dates.
+std::wstring DateOf(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    FILETIME local{};
+    SYSTEMTIME time{};
+    std::array<wchar_t, 80> text{};
+    if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) &&
+        FileTimeToLocalFileTime(&data.ftLastWriteTime, &local) && FileTimeToSystemTime(&local, &time))
+        GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, text.data(), text.size());
+    return text.data();
+}
+
 bool OpensQuickSwitchAtStart() {
     const auto wanted = Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0"));
     return wanted.value_or(0) == 1 && !IniLib::GetKeyValue(L"General", L"Quickswitch").empty();
@@ -45,7 +60,8 @@ bool OpensQuickSwitchAtStart() {
 bool frmMain::StartSteps() {
     if (!ClaimInstance() || !LoadLanguage() || !FindSettingsFile()) return false;
     if (!reload_)
-        if (!CheckActRuns() || !UpgradeSettings() || !Module1::Create_object() || !FirstRunLanguage()) return false;
+        if (!OfferBackup() || !CheckActRuns() || !UpgradeSettings() || !Module1::Create_object() || !FirstRunLanguage())
+            return false;
     return CheckUserLoggedOn();
 }
 
@@ -66,6 +82,16 @@ bool frmMain::LoadLanguage() {
 bool frmMain::FindSettingsFile() {
     std::wstring path = UserStore::Get(L"Settings", L"IniLocation");
     IniLib::SettingsFile(path.empty() ? Application::FileInFolder(L"Kelmorra.ini") : path);
+    return true;
+}
+
+bool frmMain::OfferBackup() {
+    const std::wstring& path = IniLib::SettingsFile();
+    const auto backup = Backup::LastGood(path);
+    if (!backup || !FileHealth::IsDamaged(path)) return true;
+    const std::wstring question = Text::Replace(Translated(MoreText::RestoreBackup), L"%2", DateOf(*backup));
+    if (AskYesNo(Text::Replace(question, L"%1", path)) && !Backup::Restore(path))
+        MsgBox(Text::Replace(Translated(MoreText::RestoreFailed), L"%1", *backup), MsgIcon::Exclamation);
     return true;
 }
 

@@ -9,7 +9,7 @@ namespace {
 // English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const wchar_t*, 3>;
 
-constexpr std::array<Translations, 2> kTexts{{
+constexpr std::array<Translations, 4> kTexts{{
     {L"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      L"file.",
      L"La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -21,6 +21,15 @@ constexpr std::array<Translations, 2> kTexts{{
      L"dossiers et sa macro.",
      L"Führt Ihre ACT!-Datenbanken in einer Liste und öffnet jede mit eigener Anmeldung, eigenen Layouts, Ordnern und "
      L"eigenem Makro."},
+    {L"The settings file\r\n%1\r\nis empty or cannot be read. Its contents of %2 have been kept.\r\n\r\nDo you want to "
+     L"restore them? With No the program goes on with an empty list of databases.",
+     L"Le fichier de paramètres\r\n%1\r\nest vide ou ne peut pas être lu. Son contenu du %2 a été conservé.\r\n\r\n"
+     L"Voulez-vous le restaurer ? Avec Non, le programme continue avec une liste de bases de données vide.",
+     L"Die Einstellungsdatei\r\n%1\r\nist leer oder nicht lesbar. Ihr Inhalt vom %2 wurde aufbewahrt.\r\n\r\nSoll er "
+     L"wiederhergestellt werden? Bei Nein fährt das Programm mit einer leeren Liste der Datenbanken fort."},
+    {L"The settings file could not be restored. What has been kept of it is in\r\n%1",
+     L"Le fichier de paramètres n'a pas pu être restauré. Son contenu conservé se trouve dans\r\n%1",
+     L"Die Einstellungsdatei konnte nicht wiederhergestellt werden. Ihr aufbewahrter Inhalt liegt in\r\n%1"},
 }};
 
 } // namespace

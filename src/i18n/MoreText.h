@@ -3,7 +3,9 @@
 #include <string>
 
 /// Texts for situations that the numbered table knows nothing of.
-enum class MoreText { ListTooLong, WhatThisIs };
+/// In `RestoreBackup` %1 stands for the settings file's path and %2 for the backup's date, in `RestoreFailed` %1 for
+/// the backup's path.
+enum class MoreText { ListTooLong, WhatThisIs, RestoreBackup, RestoreFailed };
 
 /// A text in the current language.
 std::wstring Translated(MoreText text);
