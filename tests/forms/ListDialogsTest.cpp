@@ -10,6 +10,7 @@
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"
+#include "win32/Owner.h"
 
 namespace {
 
@@ -52,6 +53,35 @@ int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
 }
 
 } // namespace
+
+TEST_CASE("A list that could not be read when the dialog opened is not written when it closes") {
+    ActDesk desk;
+    for (const wchar_t* name : {L"A", L"B"}) desk.AddDatabase(name, {});
+    const std::string before = desk.SettingsBytes();
+    FileHandle held(CreateFileW(desk.SettingsFile().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    SelectedRow row(-1);
+    DialogScript script;
+    script.Then([&](HWND dialog) {
+        held.Reset();
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    frmListMaintenance(row).ShowModal();
+    CHECK(desk.SettingsBytes() == before);
+}
+
+TEST_CASE("A removal that the settings file refuses leaves record, list and log-on") {
+    ActDesk desk;
+    std::string before;
+    Maintain(desk, 0, [&](HWND dialog) {
+        before = desk.SettingsBytes();
+        SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY);
+        Press(dialog, L"cmdRemove");
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    CHECK(desk.SettingsBytes() == before);
+    CHECK(UserStore::Get(L"A", L"Username") == L"Chris");
+    SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
+}
 
 TEST_CASE("Moves are written when the dialog closes, in any way, and the moved line stays selected") {
     ActDesk desk;

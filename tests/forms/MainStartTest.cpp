@@ -1,6 +1,7 @@
 // Start-up and shut-down of the main window.
 
 #include "i18n/modLangues.h"
+#include "settings/Backup.h"
 #include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "support/ActDesk.h"
@@ -77,6 +78,48 @@ TEST_CASE("From the settings file on, a failure is reported once and leaves a us
     CHECK(window.ListView1.ColumnCount() == 5);
     CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");
     End(window);
+}
+
+TEST_CASE("A settings file that has become empty is restored or not, as the user says, before it is first read") {
+    for (const int answer : {IDYES, IDNO}) {
+        ActDesk desk;
+        desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Sales.dbf"}});
+        const std::string whole = desk.SettingsBytes();
+        Backup::KeepOnce(desk.SettingsFile() + L" of another run");
+        Backup::KeepOnce(desk.SettingsFile());
+        desk.SettingsBytes(std::string(whole.size(), '\0'));
+        desk.Act.InstanceCount = 0;
+        DialogScript script;
+        script.Answer(answer).Answer(IDOK);
+        frmMain window;
+        window.Load();
+        RunToEnd(window);
+        REQUIRE(script.All().size() == 2);
+        CHECK(script.All()[0].Text.find(desk.SettingsFile() + L"\r\nis empty") != std::wstring::npos);
+        CHECK(script.All()[0].Text.find(L'%') == std::wstring::npos);
+        CHECK((desk.SettingsBytes() == whole) == (answer == IDYES));
+    }
+}
+
+TEST_CASE("Nobody is asked about a settings file that is missing, holds an empty list, or has no copy kept") {
+    struct Row {
+        bool isKept;
+        const char* bytes; ///< null: missing
+    };
+    for (const auto& [isKept, bytes] : {Row{true, nullptr}, Row{true, " \r\n"}, Row{false, ""}}) {
+        ActDesk desk;
+        desk.AddDatabase(L"Sales", {});
+        Backup::KeepOnce(desk.SettingsFile() + L" of another run");
+        if (isKept) Backup::KeepOnce(desk.SettingsFile());
+        REQUIRE(Backup::LastGood(desk.SettingsFile()).has_value() == isKept);
+        desk.SettingsBytes(bytes ? bytes : "");
+        if (!bytes) DeleteFileW(desk.SettingsFile().c_str());
+        const DialogScript script; // fails on any question
+        frmMain window;
+        window.Load();
+        CHECK(window.Visible());
+        End(window);
+    }
 }
 
 TEST_CASE("ACT!'s defaults are recorded at every start, and sizes survive in either decimal spelling") {

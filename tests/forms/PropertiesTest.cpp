@@ -79,6 +79,22 @@ TEST_CASE("A new database gets its section, its log-on values and its place at t
     CHECK(session.Row.Replaced.empty());
 }
 
+TEST_CASE("A rename that the settings file refuses changes none of it and keeps the old name's log-on") {
+    ActDesk desk;
+    AddSales(desk);
+    const std::string before = desk.SettingsBytes();
+    SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY);
+    Session session;
+    session.Open(L"Sales", [](HWND dialog) {
+        Type(dialog, L"txtName", L"Team");
+        PressOK(dialog);
+    });
+    session.Run();
+    CHECK(desk.SettingsBytes() == before);
+    CHECK(Stored(L"Sales", L"Username") == L"Chris");
+    SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 TEST_CASE("Input that is refused names the reason, shows its tab, and writes nothing") {
     struct Case {
         const wchar_t* box;

@@ -12,6 +12,7 @@ ActDesk::ActDesk() : file_(L"Kelmorra.ini") {
     SilenceMessages(false);
     file_.Bytes(" \r\n");
     modLangues::Init_Language(short{0});
+    registry_.LocalData(file_.Folder());
     IniLib::SettingsFile(file_.Path());
     UserStore::Set(L"Settings", L"IniLocation", file_.Path());
     UserStore::Set(L"Settings", L"Installed", L"1");

@@ -21,6 +21,7 @@ public:
     std::wstring SettingsFile() const { return file_.Path(); }
     /// The settings file as it lies on disk.
     std::string SettingsBytes() const { return file_.Bytes(); }
+    void SettingsBytes(std::string_view bytes) const { file_.Bytes(bytes); }
 
 private:
     ScratchRegistry registry_;

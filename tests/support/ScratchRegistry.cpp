@@ -48,6 +48,14 @@ void ScratchRegistry::DenyKeysBelow(HKEY root) {
     ReplaceImport(DenyingCreateKey);
 }
 
+void ScratchRegistry::LocalData(const std::wstring& folder) {
+    const wchar_t* const folders = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+    RegistryKey key;
+    RegCreateKeyExW(HKEY_CURRENT_USER, folders, 0, nullptr, 0, KEY_SET_VALUE, nullptr, key.Receive(), nullptr);
+    RegSetValueExW(key.Get(), L"Local AppData", 0, REG_SZ, reinterpret_cast<const BYTE*>(folder.c_str()),
+                   static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t)));
+}
+
 void ScratchRegistry::Override(HKEY root, const wchar_t* name, DWORD options) {
     RegistryKey user;
     RegOpenCurrentUser(KEY_ALL_ACCESS, user.Receive());

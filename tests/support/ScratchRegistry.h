@@ -19,6 +19,9 @@ public:
     /// asks for no right to create, so the denial is played by the program's import of RegCreateKeyExA.
     void DenyKeysBelow(HKEY root);
 
+    /// From now on the user's local application data lies in that folder.
+    void LocalData(const std::wstring& folder);
+
 private:
     void Override(HKEY root, const wchar_t* name, DWORD options);
 

@@ -16,7 +16,10 @@ using Names = std::vector<std::wstring>;
 
 /// Both stores are empty scratch ones.
 struct Stores : ScratchRegistry {
-    Stores() { IniLib::SettingsFile(file.Path()); }
+    Stores() {
+        LocalData(file.Folder());
+        IniLib::SettingsFile(file.Path());
+    }
     ~Stores() { IniLib::SettingsFile({}); }
 
     TempFile file{L"Kelmorra.ini"};

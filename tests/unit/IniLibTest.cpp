@@ -1,5 +1,6 @@
 #include "settings/IniLib.h"
 
+#include "support/ScratchRegistry.h"
 #include "support/TempFile.h"
 #include "support/Wide.h"
 #include "win32/Owner.h"
@@ -10,8 +11,11 @@
 namespace {
 
 /// The current settings file is a temporary one.
-struct SettingsFileFixture {
-    SettingsFileFixture() { IniLib::SettingsFile(file.Path()); }
+struct SettingsFileFixture : ScratchRegistry {
+    SettingsFileFixture() {
+        LocalData(file.Folder());
+        IniLib::SettingsFile(file.Path());
+    }
     ~SettingsFileFixture() { IniLib::SettingsFile({}); }
 
     TempFile file{L"Kelmorra.ini"};

@@ -24,12 +24,7 @@ constexpr char kBefore[] =
 /// A settings file, and a user whose backups are kept beside it.
 struct Desk : ScratchRegistry {
     Desk() {
-        RegistryKey key;
-        const wchar_t* const folders = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
-        RegCreateKeyExW(HKEY_CURRENT_USER, folders, 0, nullptr, 0, KEY_SET_VALUE, nullptr, key.Receive(), nullptr);
-        const std::wstring local = backups.Folder();
-        RegSetValueExW(key.Get(), L"Local AppData", 0, REG_SZ, reinterpret_cast<const BYTE*>(local.c_str()),
-                       static_cast<DWORD>((local.size() + 1) * sizeof(wchar_t)));
+        LocalData(backups.Folder());
         IniLib::SettingsFile(file.Path());
     }
     ~Desk() { IniLib::SettingsFile({}); }
