@@ -1,10 +1,14 @@
 #include "dialogs/frmListMaintenance.h"
 
 #include "dialogs/frmProperties.h"
+#include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "settings/Database.h"
 #include "support/ErrorReport.h"
+#include "support/MsgBox.h"
+
+#include <algorithm>
 
 frmListMaintenance::frmListMaintenance(MainWindow& mainWindow)
     : Form({L"frmListMaintenance", 5610, 4200}), mainWindow_(mainWindow) {}
@@ -18,6 +22,7 @@ void frmListMaintenance::Form_Load() try {
     cmdUp.Text(LangText[94]);
     cmdDown.Text(LangText[95]);
     cmdClose.Text(LangText[17]);
+    SetMenuCaptions();
     Create_List();
     if (lstDB.ListCount() > 0) lstDB.ListIndex(0);
     if (const int selected = mainWindow_.SelectedIndex(); selected != -1) lstDB.ListIndex(selected);
@@ -26,32 +31,52 @@ void frmListMaintenance::Form_Load() try {
     ErrorReport(L"frmListMaintenance: Sub Form_Load");
 }
 
+void frmListMaintenance::SetMenuCaptions() {
+    const auto key = [](MoreText name) { return Translated(name); };
+    mnuAdd.Caption(LangText[87] + L'\t' + key(MoreText::KeyInsert));
+    mnuDuplicate.Caption(Translated(MoreText::Duplicate) + L'\t' + key(MoreText::KeyCtrl) + L"+D");
+    mnuRemove.Caption(LangText[88] + L'\t' + key(MoreText::KeyDelete));
+    mnuUndo.Caption(Translated(MoreText::UndoRemoval) + L'\t' + key(MoreText::KeyCtrl) + L"+Z");
+    mnuUp.Caption(LangText[94] + L"\tAlt+" + key(MoreText::KeyUp));
+    mnuDown.Caption(LangText[95] + L"\tAlt+" + key(MoreText::KeyDown));
+}
+
 void frmListMaintenance::Create_List() {
     lstDB.Clear();
     for (const std::wstring& name : DatabaseList::ReadSort()) lstDB.AddItem(name);
     isListRead_ = DatabaseList::WasRead();
-}
-
-void frmListMaintenance::Save_List() const {
-    IniLib::Change change;
-    Save_List(change);
-    change.Commit();
-}
-
-void frmListMaintenance::Save_List(IniLib::Change& change) const {
-    if (!isListRead_) change.Refuse(); // the lines are not what is stored
-    std::vector<std::wstring> names;
-    names.reserve(static_cast<size_t>(lstDB.ListCount()));
-    for (int index = 0; index < lstDB.ListCount(); ++index) names.push_back(lstDB.List(index));
-    DatabaseList::WriteSort(change, names);
+    stored_ = DatabaseList::ReadWholeSort();
 }
 
 void frmListMaintenance::Form_Unload() try {
     if (Program().ActIsClosing) return; // nobody chose to keep the moves
     Save_List();
     mainWindow_.SelectedIndex(lstDB.ListIndex());
+    if (isMerged_) MsgBox(Translated(MoreText::ListMerged), MsgIcon::Information);
 } catch (...) {
     ErrorReport(L"frmListMaintenance: Sub Form_Unload");
+}
+
+bool frmListMaintenance::Form_KeyDown(const KeyPress& press) {
+    using Command = void (frmListMaintenance::*)();
+    struct Shortcut {
+        KeyPress Press;
+        Command Run;
+    };
+    static constexpr Shortcut kShortcuts[] = {
+        {{.Key = VK_INSERT}, &frmListMaintenance::cmdAdd_Click},
+        {{.Key = VK_DELETE}, &frmListMaintenance::cmdRemove_Click},
+        {{.Key = VK_UP, .Alt = true}, &frmListMaintenance::cmdUp_Click},
+        {{.Key = VK_DOWN, .Alt = true}, &frmListMaintenance::cmdDown_Click},
+        {{.Key = 'D', .Ctrl = true}, &frmListMaintenance::mnuDuplicate_Click},
+        {{.Key = 'Z', .Ctrl = true}, &frmListMaintenance::mnuUndo_Click},
+    };
+    for (const auto& [shortcut, run] : kShortcuts)
+        if (shortcut == press) {
+            (this->*run)();
+            return true;
+        }
+    return false;
 }
 
 void frmListMaintenance::EnableButtons() {
@@ -65,33 +90,70 @@ void frmListMaintenance::EnableButtons() {
 
 void frmListMaintenance::lstDB_Click() { EnableButtons(); }
 
-void frmListMaintenance::cmdAdd_Click() {
+void frmListMaintenance::lstDB_RightClick(POINT position) {
+    const int selected = lstDB.ListIndex();
+    for (MenuItem* item : {&mnuDuplicate, &mnuRemove}) item->Enabled(selected >= 0);
+    mnuUndo.Enabled(!removed_.empty());
+    mnuUp.Enabled(selected > 0);
+    mnuDown.Enabled(selected >= 0 && selected != lstDB.ListCount() - 1);
+    mnuList.PopUp(position);
+}
+
+void frmListMaintenance::lstDB_Drop(int from, int to) { MoveListboxItem(lstDB, from, to); }
+
+void frmListMaintenance::AddByProperties(const std::wstring& model) {
     // Moves made so far are written first: the properties dialog adds the new name to what is stored.
     Save_List();
     frmProperties properties(&mainWindow_);
     properties.IsNew(true);
+    properties.Model(model);
     properties.ShowModal();
     if (properties.Cancelled()) return;
     Create_List();
     lstDB.ListIndex(lstDB.ListCount() - 1);
 }
 
+void frmListMaintenance::cmdAdd_Click() { AddByProperties({}); }
+
+void frmListMaintenance::mnuDuplicate_Click() {
+    if (lstDB.ListIndex() >= 0) AddByProperties(lstDB.List(lstDB.ListIndex()));
+}
+
 void frmListMaintenance::cmdRemove_Click() {
-    const int removed = lstDB.ListIndex();
-    if (removed < 0) return;
-    const std::wstring name = lstDB.List(removed);
+    const int line = lstDB.ListIndex();
+    if (line < 0) return;
+    RemovedDatabase removed(lstDB.List(line), line);
     IniLib::Change change;
-    DatabaseList::DeleteFileRecord(change, name);
-    lstDB.RemoveItem(removed);
-    if (removed < lstDB.ListCount())
-        lstDB.ListIndex(removed);
+    DatabaseList::DeleteFileRecord(change, removed.Name());
+    lstDB.RemoveItem(line);
+    if (line < lstDB.ListCount())
+        lstDB.ListIndex(line);
     else if (lstDB.ListCount() > 0)
         lstDB.ListIndex(0);
     EnableButtons();
-    DatabaseList::ReplaceInQuickSwitch(change, name, {});
-    Save_List(change);
+    DatabaseList::ReplaceInQuickSwitch(change, removed.Name(), {});
     // A database that stays in the list keeps its log-on.
-    if (change.Commit()) DatabaseList::DeleteUserRecord(name);
+    if (!Save_List(change)) return;
+    DatabaseList::DeleteUserRecord(removed.Name());
+    removed.NoteRemoval();
+    removed_.push_back(std::move(removed));
+}
+
+void frmListMaintenance::mnuUndo_Click() {
+    if (removed_.empty()) return;
+    const RemovedDatabase& last = removed_.back();
+    const int line = std::min(last.Line(), lstDB.ListCount());
+    IniLib::Change change;
+    last.RestoreFile(change);
+    lstDB.InsertItem(last.Name(), line);
+    lstDB.ListIndex(line);
+    if (!Save_List(change)) {
+        lstDB.RemoveItem(line);
+        EnableButtons();
+        return;
+    }
+    last.RestoreUser();
+    removed_.pop_back();
 }
 
 void frmListMaintenance::MoveListboxItem(ListBox& list, int index, int newIndex) {

@@ -2,42 +2,75 @@
 
 #include "program/MainWindow.h"
 #include "settings/IniLib.h"
+#include "settings/RemovedDatabase.h"
 #include "ui/Button.h"
 #include "ui/Form.h"
 #include "ui/Label.h"
 #include "ui/ListBox.h"
 
-/// Edits the list of databases: adds, removes and orders them. Removals are written at once, moves when it closes,
-/// unless it is ACT! that closes.
+#include <string>
+#include <vector>
+
+/// Edits the list of databases: adds, removes and orders them. Removals are written at once and can be undone until the
+/// dialog closes; moves are written when it closes, unless it is ACT! that closes. What somebody else has changed in a
+/// shared list meanwhile is kept.
 class frmListMaintenance : public Form {
 public:
     explicit frmListMaintenance(MainWindow& mainWindow);
 
     Label Label1{this, L"Label1", {120, 120, 3600, 255}};
-    ListBox lstDB{this, L"lstDB", {120, 390, 3600, 3255}, &frmListMaintenance::lstDB_Click};
+    ListBox lstDB{this,
+                  L"lstDB",
+                  {120, 390, 3600, 3255},
+                  {.Click = &frmListMaintenance::lstDB_Click,
+                   .RightClick = &frmListMaintenance::lstDB_RightClick,
+                   .Drop = &frmListMaintenance::lstDB_Drop}};
     CommandButton cmdAdd{this, L"cmdAdd", {3900, 390, 1500, 345}, &frmListMaintenance::cmdAdd_Click};
     CommandButton cmdRemove{this, L"cmdRemove", {3900, 840, 1500, 345}, &frmListMaintenance::cmdRemove_Click};
     CommandButton cmdUp{this, L"cmdUp", {3900, 1560, 1500, 345}, &frmListMaintenance::cmdUp_Click};
     CommandButton cmdDown{this, L"cmdDown", {3900, 2010, 1500, 345}, &frmListMaintenance::cmdDown_Click};
     CommandButton cmdClose{this, L"cmdClose", {3900, 3300, 1500, 345}, &frmListMaintenance::cmdClose_Click, Cancel};
 
+    Menu mnuList{this, L"mnuList", Menu::Place::PopUp};
+    MenuItem mnuAdd{this, mnuList, L"mnuAdd", &frmListMaintenance::cmdAdd_Click};
+    MenuItem mnuDuplicate{this, mnuList, L"mnuDuplicate", &frmListMaintenance::mnuDuplicate_Click};
+    MenuItem mnuRemove{this, mnuList, L"mnuRemove", &frmListMaintenance::cmdRemove_Click};
+    MenuItem mnuUndo{this, mnuList, L"mnuUndo", &frmListMaintenance::mnuUndo_Click};
+    MenuSeparator mnuListSep1{mnuList};
+    MenuItem mnuUp{this, mnuList, L"mnuUp", &frmListMaintenance::cmdUp_Click};
+    MenuItem mnuDown{this, mnuList, L"mnuDown", &frmListMaintenance::cmdDown_Click};
+
 private:
     void Form_Load() override;
     void Form_Unload() override;
+    bool Form_KeyDown(const KeyPress& press) override;
+    void SetMenuCaptions();
     void Create_List();
-    void Save_List() const;
-    void Save_List(IniLib::Change& change) const;
     void EnableButtons();
     /// Moves one line, the selected one for a negative index, and selects it. Does nothing when the new index lies
     /// outside the list.
     static void MoveListboxItem(ListBox& list, int index, int newIndex);
+    void AddByProperties(const std::wstring& model);
     void lstDB_Click();
+    void lstDB_RightClick(POINT position);
+    void lstDB_Drop(int from, int to);
     void cmdAdd_Click();
     void cmdRemove_Click();
     void cmdUp_Click();
     void cmdDown_Click();
     void cmdClose_Click();
+    void mnuDuplicate_Click();
+    void mnuUndo_Click();
+
+    // Saving (frmListMaintenanceSave.cpp)
+    bool Save_List();
+    bool Save_List(IniLib::Change& change);
+    bool MergeOthers();
+    std::vector<std::wstring> Lines() const;
 
     MainWindow& mainWindow_;
     bool isListRead_ = false;
+    bool isMerged_ = false;            ///< others' changes have been taken over and the user has not been told
+    std::vector<std::wstring> stored_; ///< the names as this dialog last read or wrote them
+    std::vector<RemovedDatabase> removed_;
 };

@@ -56,7 +56,8 @@ void frmProperties::Form_Load() try {
     OldName_ = program.FriendlyName;
     SetCaptions();
     ShowPage(Tab::General);
-    if (!OldName_.empty()) LoadRecord();
+    if (!OldName_.empty()) LoadRecord(OldName_);
+    if (!model_.empty()) LoadModel();
     txtPassword.Enabled(chkPassword.Value());
     LoadLocations();
 } catch (...) {
@@ -82,23 +83,34 @@ void frmProperties::SetCaptions() {
     for (CommandButton* browse : {&cmdBrowse0, &cmdBrowse1, &cmdBrowse2, &cmdBrowse3}) browse->Text(L"...");
 }
 
-void frmProperties::LoadRecord() {
-    const DatabaseRecord record = ExtractInfo(OldName_);
-    txtName.Text(OldName_);
+void frmProperties::LoadModel() {
+    LoadRecord(model_);
+    const std::vector<std::wstring> names = DatabaseList::ReadSort();
+    std::wstring name;
+    for (int number = 2; name.empty() || std::ranges::find(names, name) != names.end(); ++number)
+        name = model_ + L" (" + std::to_wstring(number) + L')';
+    txtName.Text(name);
+    txtName.SelectAll();
+}
+
+void frmProperties::LoadRecord(const std::wstring& name) {
+    const DatabaseRecord record = ExtractInfo(name);
+    txtName.Text(name);
     txtPath.Text(record.Path);
     txtCL.Text(record.ContactLayout);
     txtGL.Text(record.GroupLayout);
     txtMacro.Text(record.OpeningMacro);
-    txtUsername.Text(UserStore::Get(OldName_, L"Username"));
-    txtPassword.Text(modEnCrypt::DecryptText(UserStore::Get(OldName_, L"Password"), Application::Title));
-    chkPassword.Value(IsChecked(OldName_, L"UsePassword"));
-    chkNotAtACTLaunch.Value(IsChecked(OldName_, L"NoPasswordAtACTStartup"));
+    txtUsername.Text(UserStore::Get(name, L"Username"));
+    txtPassword.Text(modEnCrypt::DecryptText(UserStore::Get(name, L"Password"), Application::Title));
+    chkPassword.Value(IsChecked(name, L"UsePassword"));
+    chkNotAtACTLaunch.Value(IsChecked(name, L"NoPasswordAtACTStartup"));
 }
 
 void frmProperties::LoadLocations() {
     for (const std::wstring& name : Program().DatabaseNames)
         if (name != OldName_) cboDB.AddItem(name);
-    const std::wstring lender = OldName_.empty() ? L"" : IniLib::GetKeyValue(OldName_, L"UseLocationsFrom");
+    const std::wstring& source = model_.empty() ? OldName_ : model_;
+    const std::wstring lender = source.empty() ? L"" : IniLib::GetKeyValue(source, L"UseLocationsFrom");
     optLocations[lender.empty() ? Specific : FromOther].Value(true);
     if (!lender.empty()) cboDB.Select(lender);
 }

@@ -23,6 +23,8 @@ public:
 
     /// Set by the caller before showing: the dialog adds a new database.
     void IsNew(bool isNew) { isNew_ = isNew; }
+    /// Set by the caller before showing: the new database begins with the values of another one, "" for none.
+    void Model(std::wstring name) { model_ = std::move(name); }
     /// After showing: the user left without OK.
     bool Cancelled() const { return cancelled_; }
     /// ACT!'s own folder for a preference location, 0 to 11, from ACT!'s registry values; "" when it has none. Any
@@ -71,7 +73,8 @@ private:
     void Form_Load() override;
     void Form_Activate() override;
     void SetCaptions();
-    void LoadRecord();
+    void LoadRecord(const std::wstring& name);
+    void LoadModel();
     void LoadLocations();
     void ShowTab(int tab);
     void ShowPage(int tab);
@@ -95,6 +98,7 @@ private:
 
     MainWindow* mainWindow_;
     std::wstring OldName_;
+    std::wstring model_; ///< of a new database: the one whose values it begins with
     bool isNew_ = false;
     bool cancelled_ = false;
     bool SkipTabCheck_ = false;

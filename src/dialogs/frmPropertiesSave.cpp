@@ -74,6 +74,7 @@ bool frmProperties::SaveToFile(const std::wstring& name) {
         std::vector<std::wstring> names = DatabaseList::ReadSort();
         names.push_back(name);
         DatabaseList::WriteSort(change, names);
+        if (!model_.empty()) WriteMissingFolders(change, name, ReadFolders(model_));
     } else if (name != OldName_) {
         Rename(change, name);
     }

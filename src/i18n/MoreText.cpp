@@ -9,7 +9,7 @@ namespace {
 // English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const wchar_t*, 3>;
 
-constexpr std::array<Translations, 4> kTexts{{
+constexpr std::array<Translations, 12> kTexts{{
     {L"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      L"file.",
      L"La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -30,6 +30,16 @@ constexpr std::array<Translations, 4> kTexts{{
     {L"The settings file could not be restored. What has been kept of it is in\r\n%1",
      L"Le fichier de paramètres n'a pas pu être restauré. Son contenu conservé se trouve dans\r\n%1",
      L"Die Einstellungsdatei konnte nicht wiederhergestellt werden. Ihr aufbewahrter Inhalt liegt in\r\n%1"},
+    {L"Somebody else has changed the list meanwhile. Their changes and yours have both been kept.",
+     L"Quelqu'un d'autre a modifié la liste entre-temps. Ses modifications et les vôtres ont été conservées.",
+     L"Jemand anders hat die Liste inzwischen geändert. Diese Änderungen und Ihre wurden beide übernommen."},
+    {L"D&uplicate", L"Du&pliquer", L"&Duplizieren"},
+    {L"Undo Remo&ve", L"A&nnuler la suppression", L"Entfernen &rückgängig"},
+    {L"Ins", L"Inser", L"Einfg"},
+    {L"Del", L"Suppr", L"Entf"},
+    {L"Ctrl", L"Ctrl", L"Strg"},
+    {L"Up", L"Haut", L"Nach oben"},
+    {L"Down", L"Bas", L"Nach unten"},
 }};
 
 } // namespace

@@ -5,7 +5,20 @@
 /// Texts for situations that the numbered table knows nothing of.
 /// In `RestoreBackup` %1 stands for the settings file's path and %2 for the backup's date, in `RestoreFailed` %1 for
 /// the backup's path.
-enum class MoreText { ListTooLong, WhatThisIs, RestoreBackup, RestoreFailed };
+enum class MoreText {
+    ListTooLong,
+    WhatThisIs,
+    RestoreBackup,
+    RestoreFailed,
+    ListMerged,
+    Duplicate,
+    UndoRemoval,
+    KeyInsert,
+    KeyDelete,
+    KeyCtrl,
+    KeyUp,
+    KeyDown,
+};
 
 /// A text in the current language.
 std::wstring Translated(MoreText text);

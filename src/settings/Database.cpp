@@ -5,6 +5,7 @@
 #include "support/Text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 #include <utility>
 
@@ -43,7 +44,7 @@ std::wstring ReadList(const wchar_t* key) {
     return IniLib::GetWholeValue(kGeneral, key);
 }
 
-SortList ReadWholeSort() {
+SortList ReadSortList() {
     const std::vector<std::wstring> all = Text::Split(ReadList(kSort), L';');
     SortList list{Text::Split(IniLib::GetKeyValue(kGeneral, kSort), L';'), {}};
     // Counted in names, not in bytes: the cut may have gone through a character of two bytes.
@@ -63,14 +64,20 @@ DatabaseRecord ExtractInfo(const std::wstring& name) {
 
 namespace DatabaseList {
 
-std::vector<std::wstring> ReadSort() { return ReadWholeSort().shown; }
+std::vector<std::wstring> ReadSort() { return ReadSortList().shown; }
+
+std::vector<std::wstring> ReadWholeSort() {
+    SortList list = ReadSortList();
+    std::ranges::move(list.unseen, std::back_inserter(list.shown));
+    return list.shown;
+}
 
 bool WasRead() { return LastReading(); }
 
 void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names) {
     if (!WasRead()) change.Refuse();
     std::vector<std::wstring> all = names;
-    for (std::wstring& name : ReadWholeSort().unseen)
+    for (std::wstring& name : ReadSortList().unseen)
         if (std::ranges::find(names, name) == names.end()) all.push_back(std::move(name));
     if (!WasRead()) change.Refuse();
     change.WriteKeyValue(kGeneral, kSort, Text::Join(all, L';'));
@@ -84,7 +91,7 @@ void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std
     change.WriteKeyValue(kGeneral, kSort, sort);
 }
 
-bool IsLongerThanShown() { return !ReadWholeSort().unseen.empty(); }
+bool IsLongerThanShown() { return !ReadSortList().unseen.empty(); }
 
 std::vector<std::wstring> ReadQuickSwitch() {
     LastReading() = FileHealth::CanBeTrusted(IniLib::SettingsFile());

@@ -41,6 +41,9 @@ inline constexpr size_t ButtonCount = 8;
 /// whole.
 std::vector<std::wstring> ReadSort();
 
+/// The same with those that ReadSort cannot show.
+std::vector<std::wstring> ReadWholeSort();
+
 /// Writes the databases in display order. Names that ReadSort cannot show stay in the list, behind the given ones. The
 /// change is refused when the list could not be read (WasRead).
 void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names);

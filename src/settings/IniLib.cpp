@@ -70,6 +70,20 @@ std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key)
     }
 }
 
+std::vector<std::pair<std::wstring, std::wstring>> ReadSection(const std::wstring& section) {
+    std::vector<std::pair<std::wstring, std::wstring>> values;
+    if (section.empty()) return values;
+    const std::string name = ToAnsi(section);
+    std::string keys;
+    for (DWORD size = kOfferedSize;; size *= 2) {
+        keys = Read(name.c_str(), nullptr, size, SettingsFile());
+        if (keys.size() + 2 < size) break; // a list that is cut fills the buffer
+    }
+    for (const std::wstring& key : Text::Split(ToWide(keys), L'\0'))
+        if (!key.empty()) values.emplace_back(key, GetWholeValue(section, key));
+    return values;
+}
+
 bool WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value,
                    std::wstring& fileName) {
     UseSettingsFile(fileName);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// The settings file: an INI text file in the ANSI code page. Every call opens and closes it; nothing is cached.
@@ -25,6 +26,9 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
 /// The value of a key without the cut (as far as the platform reads, 32766 bytes or more); "" when missing. For those
 /// who write a long value back and must not lose its end.
 std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key);
+
+/// Every key of a section with its whole value, in the file's order.
+std::vector<std::pair<std::wstring, std::wstring>> ReadSection(const std::wstring& section);
 
 /// Writes a value, or removes a key or a section with its keys, as a Change of one step. False when it could not be
 /// made; the file is as it was then. A blank at either end of a value and quotes around it survive.

@@ -75,6 +75,20 @@ std::wstring Get(const std::wstring& section, const std::wstring& key, const std
     return text;
 }
 
+std::vector<std::pair<std::wstring, std::wstring>> GetSection(const std::wstring& section) {
+    std::vector<std::pair<std::wstring, std::wstring>> values;
+    const RegistryKey opened = section.empty() ? RegistryKey() : Open(SectionPath(section), KEY_QUERY_VALUE);
+    if (!opened) return values;
+    std::wstring name(kLongestValueName, L'\0');
+    DWORD type = REG_NONE;
+    DWORD length = kLongestValueName;
+    for (DWORD index = 0;
+         RegEnumValueW(opened.Get(), index, name.data(), &length, nullptr, &type, nullptr, nullptr) == ERROR_SUCCESS;
+         ++index, length = kLongestValueName)
+        if (const std::wstring key(name.c_str()); type == REG_SZ) values.emplace_back(key, Get(section, key));
+    return values;
+}
+
 bool Set(const std::wstring& section, const std::wstring& key, const std::wstring& text) {
     if (section.empty()) return false;
     RegistryKey opened;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 /// The per-user store: texts in the current user's registry, by section and key. Sections and keys compare without
 /// letter case. Lengths are explicit both ways: a text keeps every character it holds, zeros included.
@@ -12,6 +14,9 @@ inline constexpr wchar_t Root[] = L"Software\\VB and VBA Program Settings";
 
 /// The stored text, which may be empty; `defaultText` when there is none or the value is not a text.
 std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
+
+/// Every text of a section by its key.
+std::vector<std::pair<std::wstring, std::wstring>> GetSection(const std::wstring& section);
 
 /// Stores a text; false when it could not be written.
 bool Set(const std::wstring& section, const std::wstring& key, const std::wstring& text);

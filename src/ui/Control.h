@@ -60,6 +60,8 @@ private:
     virtual void OnCommand(WORD) {}
     virtual LRESULT OnNotify(NMHDR&) { return 0; }
     virtual void OnContextMenu(POINT) {}
+    /// A line of a list box is being dragged; the answer as for DRAGLISTMSGSTRING.
+    virtual LRESULT OnDragList(const DRAGLISTINFO&) { return 0; }
     /// Paints a control that draws itself.
     virtual void OnDraw(const DRAWITEMSTRUCT&) {}
     /// Colours of a static control; null for the system's.

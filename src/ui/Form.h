@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Control.h"
+#include "ui/Keys.h"
 #include "ui/Menu.h"
 #include "ui/Twips.h"
 #include "win32/Owner.h"
@@ -70,6 +71,8 @@ public:
     static Form* FromWindow(HWND window);
     /// All loaded forms, oldest first.
     static const std::vector<Form*>& Loaded();
+    /// Lets the form below a message use it as a key of its own or of a dialog; true when it was used.
+    static bool Translate(MSG& message);
     /// Turns the program's message loop until WM_QUIT; returns its exit code.
     static int RunMessageLoop();
 
@@ -79,6 +82,8 @@ protected:
     virtual void Form_Deactivate() {}
     /// The close box or Alt+F4.
     virtual void Form_CloseBox() { CloseAsByUser(); }
+    /// A key that goes to the form or one of its controls; true when it was used and goes no further.
+    virtual bool Form_KeyDown(const KeyPress&) { return false; }
     virtual void Form_Resize() {}
     virtual void Form_Unload() {}
     /// Puts the window over the middle of a visible window, or of the screen for none, and wholly onto the screen.
@@ -114,7 +119,7 @@ private:
     void OnContextMenu(HWND window, POINT position);
     LRESULT DefaultIdentifier() const;
     static Control* ControlOf(HWND window);
-    static bool Translate(MSG& message);
+    bool TakesKey(const MSG& message);
     void ModalLoop() const;
 
     FormDesign design_;

@@ -41,6 +41,12 @@ Control* Form::ControlOf(HWND window) {
 LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = 0;
     if (OnMessage(message, wParam, lParam, result)) return result;
+    static const UINT dragList = RegisterWindowMessageW(DRAGLISTMSGSTRING);
+    if (message == dragList) {
+        const auto& drag = *reinterpret_cast<const DRAGLISTINFO*>(lParam);
+        Control* control = ControlOf(drag.hWnd);
+        return control ? control->OnDragList(drag) : 0;
+    }
     switch (message) {
     case WM_COMMAND: return DispatchCommand(wParam, lParam);
     case WM_NOTIFY: {

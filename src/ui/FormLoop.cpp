@@ -2,11 +2,26 @@
 
 #include "ui/Form.h"
 
+#include "support/Busy.h"
+#include "support/ErrorReport.h"
+
 #include <utility>
 
 bool Form::Translate(MSG& message) {
     Form* form = FromWindow(GetAncestor(message.hwnd, GA_ROOT));
-    return form && IsDialogMessageW(form->window_, &message);
+    return form && (form->TakesKey(message) || IsDialogMessageW(form->window_, &message));
+}
+
+bool Form::TakesKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+    if (Busy::Now() || unloaded_) return false;
+    const auto isDown = [](int key) { return GetKeyState(key) < 0; };
+    try {
+        return Form_KeyDown({static_cast<int>(message.wParam), isDown(VK_CONTROL), isDown(VK_MENU), isDown(VK_SHIFT)});
+    } catch (...) {
+        ErrorReport((std::wstring(Name()) + L": Sub Form_KeyDown").c_str());
+        return true;
+    }
 }
 
 int Form::RunMessageLoop() {

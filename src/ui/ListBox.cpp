@@ -1,11 +1,16 @@
 #include "ui/ListBox.h"
 
-#include <utility>
+#include "ui/Form.h"
 
-ListBox::ListBox(Form* form, const wchar_t* name, Twips place, Action click)
+#include <algorithm>
+
+ListBox::ListBox(Form* form, const wchar_t* name, Twips place)
     : Control(form, name, place,
-              {L"ListBox", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}),
-      click_(std::move(click)) {}
+              {L"ListBox", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
+
+void ListBox::OnCreated() {
+    if (drop_) MakeDragList(Handle());
+}
 
 void ListBox::InsertItem(const std::wstring& text, int index) {
     SendMessageW(Handle(), LB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.c_str()));
@@ -41,4 +46,40 @@ void ListBox::ItemData(int index, LONG_PTR datum) {
 
 void ListBox::OnCommand(WORD notification) {
     if (notification == LBN_SELCHANGE) Raise(L"Click", click_);
+    if (notification == LBN_DBLCLK) Raise(L"DblClick", dblClick_);
+}
+
+void ListBox::OnContextMenu(POINT position) {
+    if (!rightClick_) return;
+    if (position.x == -1 && position.y == -1) {
+        RECT line{};
+        SendMessageW(Handle(), LB_GETITEMRECT, static_cast<WPARAM>(std::max(ListIndex(), 0)),
+                     reinterpret_cast<LPARAM>(&line));
+        position = {line.left + (line.bottom - line.top), line.bottom};
+        ClientToScreen(Handle(), &position);
+    } else if (const int line = LineAt(position, false); line >= 0) {
+        ListIndex(line);
+    }
+    Raise(L"RightClick", [this, position] { rightClick_(position); });
+}
+
+int ListBox::LineAt(POINT position, bool scrolls) const { return LBItemFromPt(Handle(), position, scrolls); }
+
+LRESULT ListBox::OnDragList(const DRAGLISTINFO& drag) {
+    HWND form = Owner().Handle();
+    switch (drag.uNotification) {
+    case DL_BEGINDRAG: dragged_ = LineAt(drag.ptCursor, false); return dragged_ >= 0;
+    case DL_DRAGGING: {
+        const int target = LineAt(drag.ptCursor, true);
+        DrawInsert(form, Handle(), target);
+        return target >= 0 ? DL_MOVECURSOR : DL_STOPCURSOR;
+    }
+    case DL_DROPPED: {
+        const int target = LineAt(drag.ptCursor, true);
+        DrawInsert(form, Handle(), -1);
+        if (target >= 0 && target != dragged_) Raise(L"Drop", [this, target] { drop_(dragged_, target); });
+        return 0;
+    }
+    default: DrawInsert(form, Handle(), -1); return 0;
+    }
 }

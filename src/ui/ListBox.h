@@ -2,15 +2,30 @@
 
 #include "ui/Control.h"
 
+#include <functional>
 #include <string>
+#include <type_traits>
+
+/// Handlers of a list box; those not named stay empty.
+template <class F>
+struct ListBoxEvents {
+    void (F::*Click)() = nullptr;
+    void (F::*DblClick)() = nullptr;
+    void (F::*RightClick)(POINT) = nullptr;      ///< right button, Menu key or Shift+F10; where a menu is to come up
+    void (F::*Drop)(int from, int to) = nullptr; ///< a line was dragged to the place of another
+};
 
 /// A list of lines, one selected at a time. Each line carries a number of the caller's.
 class ListBox : public Control {
 public:
     template <class F>
-    ListBox(F* form, const wchar_t* name, Twips place, void (F::*click)())
-        : ListBox(static_cast<Form*>(form), name, place, Bind(form, click)) {}
-    ListBox(Form* form, const wchar_t* name, Twips place, Action click);
+    ListBox(F* form, const wchar_t* name, Twips place, std::type_identity_t<ListBoxEvents<F>> events)
+        : ListBox(static_cast<Form*>(form), name, place) {
+        click_ = Bind(form, events.Click);
+        dblClick_ = Bind(form, events.DblClick);
+        if (events.RightClick) rightClick_ = [form, handler = events.RightClick](POINT at) { (form->*handler)(at); };
+        if (events.Drop) drop_ = [form, handler = events.Drop](int from, int to) { (form->*handler)(from, to); };
+    }
 
     void AddItem(const std::wstring& text) { InsertItem(text, -1); }
     /// Inserts before a line; -1 appends.
@@ -26,7 +41,16 @@ public:
     void ItemData(int index, LONG_PTR datum);
 
 private:
+    ListBox(Form* form, const wchar_t* name, Twips place);
+    void OnCreated() override;
     void OnCommand(WORD notification) override;
+    void OnContextMenu(POINT position) override;
+    LRESULT OnDragList(const DRAGLISTINFO& drag) override;
+    int LineAt(POINT position, bool scrolls) const;
 
     Action click_;
+    Action dblClick_;
+    std::function<void(POINT)> rightClick_;
+    std::function<void(int, int)> drop_;
+    int dragged_ = -1;
 };

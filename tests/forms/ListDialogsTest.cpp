@@ -12,6 +12,8 @@
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
+#include <array>
+
 namespace {
 
 class SelectedRow : public MainWindow {
@@ -36,6 +38,33 @@ void Press(HWND dialog, const wchar_t* name) {
 bool IsEnabled(HWND dialog, const wchar_t* name) { return IsWindowEnabled(FindControl(dialog, name)) != FALSE; }
 
 LRESULT Selected(HWND dialog) { return SendMessageW(FindControl(dialog, L"lstDB"), LB_GETCURSEL, 0, 0); }
+
+/// Presses a key, with another one held or none (0), and lets the dialog deal with it.
+void Key(HWND dialog, WORD key, WORD held) {
+    std::array<BYTE, 256> before{}, keys{};
+    GetKeyboardState(before.data());
+    if (held) keys[held] = 0x80;
+    SetKeyboardState(keys.data());
+    MSG press{FindControl(dialog, L"lstDB"), held == VK_MENU ? UINT{WM_SYSKEYDOWN} : UINT{WM_KEYDOWN}, key, 1, 0, {}};
+    Form::Translate(press);
+    SetKeyboardState(before.data());
+}
+
+/// Drags a line to the place of another as the common controls tell of it.
+void Drag(HWND dialog, int from, int to) {
+    HWND list = FindControl(dialog, L"lstDB");
+    const UINT message = RegisterWindowMessageW(DRAGLISTMSGSTRING);
+    const auto notify = [&](UINT notification, int line) {
+        RECT place{};
+        SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(&place));
+        DRAGLISTINFO drag{notification, list, {place.left + 5, (place.top + place.bottom) / 2}};
+        ClientToScreen(list, &drag.ptCursor);
+        return SendMessageW(dialog, message, static_cast<WPARAM>(GetDlgCtrlID(list)), reinterpret_cast<LPARAM>(&drag));
+    };
+    CHECK(notify(DL_BEGINDRAG, from) == TRUE);
+    CHECK(notify(DL_DRAGGING, to) == DL_MOVECURSOR);
+    notify(DL_DROPPED, to);
+}
 
 /// Shows the list dialog over a list of A, B and C and plays one step in it. Returns what the main window selects.
 int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
@@ -130,6 +159,86 @@ TEST_CASE("Removing clears both stores and the buttons at once and selects the l
     CHECK(selected == -1);
     CHECK(Sort().empty());
     CHECK(IniLib::GetWholeValue(L"General", L"QuickSwitch") == L";;;;");
+}
+
+TEST_CASE("Removals are undone one after another, with both stores and the palette as they were") {
+    ActDesk desk;
+    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;B;C;;;;;");
+    IniLib::WriteKeyValue(L"B", L"Somebody's own", L"x");
+    Maintain(desk, 0, [&](HWND dialog) {
+        UserStore::Set(L"B", L"Password", std::wstring(L"\0p", 2));
+        Press(dialog, L"cmdRemove");
+        Press(dialog, L"cmdRemove");
+        CHECK(Sort() == L"C");
+        Key(dialog, 'Z', VK_CONTROL);
+        CHECK(Sort() == L"B;C");
+        Key(dialog, 'Z', VK_CONTROL);
+        Key(dialog, 'Z', VK_CONTROL); // nothing is left to be undone
+        CHECK(Selected(dialog) == 0);
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    CHECK(Sort() == L"A;B;C");
+    CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitch") == L"A;B;C;;;;;");
+    CHECK(IniLib::GetKeyValue(L"B", L"Path") == L"x");
+    CHECK(IniLib::GetKeyValue(L"B", L"Somebody's own") == L"x");
+    CHECK(UserStore::Get(L"A", L"Username") == L"Chris");
+    CHECK(UserStore::Get(L"B", L"Password") == std::wstring(L"\0p", 2));
+}
+
+TEST_CASE("What somebody else adds and removes meanwhile is kept, and the user is told once") {
+    ActDesk desk;
+    std::wstring told;
+    for (const wchar_t* name : {L"A", L"B", L"C"}) desk.AddDatabase(name, {});
+    SelectedRow row(0);
+    DialogScript script;
+    script.Then([](HWND dialog) {
+        Press(dialog, L"cmdDown");
+        IniLib::WriteKeyValue(L"General", L"Sort", L"A;C;Theirs");
+        Press(dialog, L"cmdUp");
+        Press(dialog, L"cmdDown");
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    script.Answer(IDOK);
+    frmListMaintenance(row).ShowModal();
+    CHECK(Sort() == L"A;C;Theirs");
+    CHECK(script.All()[1].Text.starts_with(L"Somebody else has changed the list"));
+}
+
+TEST_CASE("Keys and dragging do what the buttons do") {
+    ActDesk desk;
+    const int selected = Maintain(desk, 0, [](HWND dialog) {
+        Key(dialog, VK_DOWN, VK_MENU);
+        CHECK(Selected(dialog) == 1);
+        Key(dialog, VK_UP, VK_MENU);
+        CHECK(Selected(dialog) == 0);
+        Drag(dialog, 0, 2);
+        CHECK(Selected(dialog) == 2);
+        Key(dialog, VK_DELETE, 0);
+        CHECK(Sort() == L"B;C");
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    CHECK(selected == 0);
+}
+
+TEST_CASE("A duplicate begins with all values of its model, under a name of its own") {
+    ActDesk desk;
+    desk.AddDatabase(L"A (2)", {});
+    Maintain(
+        desk, 1,
+        [](HWND dialog) {
+            IniLib::WriteKeyValue(L"A", L"CLY", L"c");
+            IniLib::WriteKeyValue(L"A", L"Query", L"q");
+            Key(dialog, 'D', VK_CONTROL);
+            Click(FindControl(dialog, L"cmdClose"));
+        },
+        [](HWND properties) {
+            CHECK(WindowText(FindControl(properties, L"txtName")) == L"A (3)");
+            Click(FindControl(properties, L"cmdOK"));
+        });
+    CHECK(Sort() == L"A (2);A;B;C;A (3)");
+    CHECK(IniLib::GetKeyValue(L"A (3)", L"CLY") == L"c");
+    CHECK(IniLib::GetKeyValue(L"A (3)", L"Query") == L"q");
+    CHECK(UserStore::Get(L"A (3)", L"Username") == L"Chris");
 }
 
 TEST_CASE("An addition keeps the moves made before it and is selected") {

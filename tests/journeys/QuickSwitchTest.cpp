@@ -128,7 +128,7 @@ TEST_CASE_FIXTURE(Journey, "the control menu's close and Alt+F4 bring the main w
     HWND palette = StartWithPalette(*this, L"Customers");
     ChooseInControlMenu(*this, palette, kCloseItem);
     HWND window = MainWindow(Program());
-    CHECK(!IsWindow(palette));
+    CHECK(Within([&] { return !IsWindow(palette); }));
     palette = OpenByMenu(*this, L"mnuQuickSwitch", L"frmQuickSwitch");
     CHECK(!IsWindowVisible(window));
     PostMessageW(palette, WM_SYSCOMMAND, SC_CLOSE, 0);
