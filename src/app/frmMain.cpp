@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Module1.h"
+#include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/frmQuickSwitch.h"
@@ -18,6 +19,8 @@
 namespace {
 
 constexpr UINT kActIsClosing = WM_APP + 1;
+constexpr UINT kCheckFiles = WM_APP + 2;
+constexpr UINT kFileIsMissing = WM_APP + 3;
 constexpr unsigned kCloseRetryMilliseconds = 50;
 
 // The design size, which is the minimum too, in twips.
@@ -61,7 +64,7 @@ BOOL CALLBACK CancelNext(HWND window, LPARAM state) {
 
 } // namespace
 
-frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}) {}
+frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), pathCheck_(kFileIsMissing) {}
 
 void frmMain::Form_Load() try {
     if (StartSteps())
@@ -73,8 +76,17 @@ void frmMain::Form_Load() try {
     Unload();
 }
 
-bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
+void frmMain::ShowMain() {
+    Show();
+    CheckFilesLater();
+}
+
+void frmMain::CheckFilesLater() { PostMessageW(Handle(), kCheckFiles, 0, 0); }
+
+bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
+    case kCheckFiles: CheckFiles(); return true;
+    case kFileIsMissing: FileIsMissing(static_cast<int>(wParam), static_cast<long>(lParam)); return true;
     case kActIsClosing:
         Program().ActIsClosing = true;
         SilenceMessages(true);
@@ -113,7 +125,10 @@ void frmMain::LayOut(int width, int height) {
     const int inner = InnerSize().Width;
     Line1.Move({0, 0, inner, 15});
     Line2.Move({0, 15, inner, 15});
-    ListView1.Move({120, 120, width - 1980, height - 2775});
+    constexpr int kFindHeight = 405;
+    const int find = isFinding_ ? kFindHeight : 0;
+    txtFind.Move({1080, 120, width - 2940, 315});
+    ListView1.Move({120, 120 + find, width - 1980, height - 2775 - find});
     Frame1.Move({120, 2715 + growth, width - 1980, 1290});
     cmdOpen.Move({width - 1375, 120, 1135, 345});
     cmdCancel.Move({width - 1375, 570, 1135, 345});
@@ -128,6 +143,7 @@ void frmMain::SetCaptions() {
     cmdCancel.Text(LangText[2]);
     lblMore.Text(LangText[3]);
     lblLink.Text(Vendor::SiteName);
+    lblFind.Text(Translated(MoreText::Find));
     Frame1.Text(LangText[46]);
     for (std::size_t view = 0; view < ViewCount; ++view) {
         const std::wstring& caption = LangText[47 + static_cast<int>(view)];

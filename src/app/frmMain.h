@@ -5,6 +5,7 @@
 #include "integration/clsToolbarIcon.h"
 #include "program/MainWindow.h"
 #include "settings/Database.h"
+#include "support/PathCheck.h"
 #include "ui/Button.h"
 #include "ui/ControlArray.h"
 #include "ui/Form.h"
@@ -12,10 +13,12 @@
 #include "ui/Label.h"
 #include "ui/ListView.h"
 #include "ui/Menu.h"
+#include "ui/TextBox.h"
 #include "ui/Timer.h"
 
 #include <array>
 #include <string>
+#include <vector>
 
 /// The main window: the list of databases, the choice of the view to open in, and the menus. It owns the run: its load
 /// is the program's start, its unload the program's end.
@@ -24,7 +27,7 @@ public:
     frmMain();
 
     void Open_DB(const std::wstring& name, short viewCode, bool mainHidden) override;
-    void ShowMain() override { Show(); }
+    void ShowMain() override;
 
     int SelectedIndex() const override { return ListView1.Selected(); }
     void SelectedIndex(int index) override;
@@ -48,12 +51,15 @@ public:
 
     Line Line1{this, L"Line1", {0, 0, 8475, 15}, COLOR_BTNSHADOW};
     Line Line2{this, L"Line2", {0, 15, 8475, 15}, COLOR_BTNHIGHLIGHT};
+    Label lblFind{this, L"lblFind", {120, 165, 900, 225}};
+    TextBox txtFind{this, L"txtFind", {1080, 120, 5535, 315}, &frmMain::txtFind_Change};
     ListView ListView1{this,
                        L"ListView1",
                        {120, 120, 6495, 2415},
                        {.DblClick = &frmMain::ListView1_DblClick,
                         .ColumnClick = &frmMain::ListView1_ColumnClick,
-                        .RightClick = &frmMain::ListView1_MouseDown}};
+                        .RightClick = &frmMain::ListView1_MouseDown,
+                        .Tip = &frmMain::ListView1_Tip}};
     Frame Frame1{this, L"Frame1", {120, 2715, 6495, 1290}};
     ControlArray<OptionButton, ViewCount> optView{this, Frame1, L"optView", OptionPlaces, &frmMain::optView_Click};
     ControlArray<Label, ViewCount> lblView{this, Frame1, L"lblView", ViewLabelPlaces, &frmMain::lblView_Click};
@@ -98,6 +104,7 @@ private:
     void Form_Load() override;
     void Form_Resize() override;
     void Form_Unload() override;
+    bool Form_KeyDown(const KeyPress& press) override;
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
     void SetCaptions();
     void SetMenuCaptions();
@@ -136,12 +143,23 @@ private:
     void ReloadList();
     void CollectOpenNames() const;
     void FillColumns(int row, const std::wstring& name, const ActPlaces& places);
+    static int ColumnText(int column);
     std::wstring ColumnTitle(int column) const;
     void SetColumnTitles();
     std::wstring SelectedName() const;
     void ListView1_ColumnClick(int column);
     void ListView1_DblClick();
     void ListView1_MouseDown();
+
+    // Finding a row, and what a row's file is like (frmMainFind.cpp)
+    void ShowFind();
+    void HideFind();
+    void txtFind_Change();
+    bool FindKey(int key);
+    void CheckFilesLater();
+    void CheckFiles();
+    void FileIsMissing(int row, long number);
+    std::wstring ListView1_Tip(int row);
 
     // Opening (frmMainOpen.cpp)
     bool OpenInAct(const std::wstring& name, short viewCode, bool mainHidden);
@@ -174,6 +192,11 @@ private:
     SingleInstance instance_;
     ActEvent ActEvent1;
     clsToolbarIcon toolbarIcon_;
+    PathCheck pathCheck_;
+    long checkNumber_ = 0;            ///< of the last check of the rows' files
+    std::vector<std::wstring> paths_; ///< of the database files, by row
+    std::vector<bool> isMissing_;     ///< by row
+    bool isFinding_ = false;
     int ticks_ = 0; ///< of Timer1
     int sortColumn_ = -1;
     bool sortDescending_ = false;

@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 
+#include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "settings/UserStore.h"
@@ -33,6 +34,8 @@ void frmMain::FillList() {
     for (const std::wstring& name : program.DatabaseNames) FillColumns(ListView1.Add(name), name, places);
     CollectOpenNames();
     if (sortColumn_ >= 0) ListView1.Sort(sortColumn_, sortDescending_);
+    if (isFinding_) txtFind_Change();
+    CheckFilesLater();
 }
 
 void frmMain::FillColumns(int row, const std::wstring& name, const ActPlaces& places) {
@@ -41,7 +44,11 @@ void frmMain::FillColumns(int row, const std::wstring& name, const ActPlaces& pl
     ListView1.Cell(row, 2, ShownName(record.GroupLayout, places.Layouts));
     ListView1.Cell(row, 3, ShownName(record.OpeningMacro, places.Macros));
     ListView1.Cell(row, 4, record.Path);
-    ListView1.RowColor(row, Text::SamePath(record.Path, places.OpenDatabase) ? kOpenInAct : CLR_DEFAULT);
+    paths_.resize(static_cast<size_t>(ListView1.RowCount()));
+    paths_[static_cast<size_t>(row)] = record.Path;
+    const bool isOpen = Text::SamePath(record.Path, places.OpenDatabase);
+    ListView1.RowColor(row, isOpen ? kOpenInAct : CLR_DEFAULT);
+    ListView1.Note(row, isOpen ? Translated(MoreText::OpenInAct) : std::wstring());
 }
 
 void frmMain::CollectOpenNames() const {
@@ -67,10 +74,13 @@ void frmMain::ReplaceRow(const std::wstring& name) {
     CollectOpenNames();
     Program().DatabaseNames = DatabaseList::ReadSort();
     ListView1.Select(row);
+    CheckFilesLater();
 }
 
+int frmMain::ColumnText(int column) { return kColumnTitleRows[column]; }
+
 std::wstring frmMain::ColumnTitle(int column) const {
-    const std::wstring& title = LangText[kColumnTitleRows[column]];
+    const std::wstring& title = LangText[ColumnText(column)];
     if (column != sortColumn_) return title;
     return (sortDescending_ ? L"< " : L"> ") + title;
 }

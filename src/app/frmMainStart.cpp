@@ -164,6 +164,7 @@ void frmMain::CreateSettingsFile() {
 }
 
 void frmMain::RestoreWindow() {
+    if (!isFinding_) HideFind();
     const auto width = Text::Measure(UserStore::Get(L"Settings", L"Width"));
     const auto height = Text::Measure(UserStore::Get(L"Settings", L"Height"));
     const Twips design = OuterSize();
@@ -178,6 +179,7 @@ void frmMain::RestoreWindow() {
 }
 
 void frmMain::RestoreColumns() {
+    if (!columnsLoaded_) ListView1.Icon(1);
     while (ListView1.ColumnCount() < kColumnCount) ListView1.AddColumn({}, kDesignColumn);
     SetColumnTitles();
     for (int column = 0; column < kColumnCount; ++column) {

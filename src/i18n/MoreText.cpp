@@ -9,7 +9,7 @@ namespace {
 // English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const wchar_t*, 3>;
 
-constexpr std::array<Translations, 12> kTexts{{
+constexpr std::array<Translations, 15> kTexts{{
     {L"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      L"file.",
      L"La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -40,6 +40,10 @@ constexpr std::array<Translations, 12> kTexts{{
     {L"Ctrl", L"Ctrl", L"Strg"},
     {L"Up", L"Haut", L"Nach oben"},
     {L"Down", L"Bas", L"Nach unten"},
+    {L"Find:", L"Chercher :", L"Suchen:"},
+    {L"open in ACT!", L"ouverte dans ACT!", L"in ACT! geöffnet"},
+    {L"The database file is not there:", L"Le fichier de la base est introuvable :",
+     L"Die Datenbankdatei ist nicht vorhanden:"},
 }};
 
 } // namespace

@@ -18,6 +18,9 @@ enum class MoreText {
     KeyCtrl,
     KeyUp,
     KeyDown,
+    Find,
+    OpenInAct,
+    FileMissing,
 };
 
 /// A text in the current language.

@@ -51,7 +51,10 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND: return DispatchCommand(wParam, lParam);
     case WM_NOTIFY: {
         auto& header = *reinterpret_cast<NMHDR*>(lParam);
-        if (Control* control = ControlOf(header.hwndFrom)) return control->OnNotify(header);
+        // A tool tip asks in its control's name.
+        const bool isTip = header.code == TTN_GETDISPINFOW;
+        HWND sender = isTip ? reinterpret_cast<HWND>(header.idFrom) : header.hwndFrom; // NOLINT
+        if (Control* control = ControlOf(sender)) return control->OnNotify(header);
         break;
     }
     case WM_DRAWITEM: {

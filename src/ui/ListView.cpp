@@ -1,38 +1,10 @@
 #include "ui/ListView.h"
 
+#include "ui/Accessible.h"
 #include "ui/Form.h"
 
-namespace {
-
-// Texts of cells are paths and names; longer ones are cut in what the list shows.
-constexpr int kLongestCell = 1024;
-
-std::wstring ItemText(HWND list, int item, int column) {
-    std::wstring text(kLongestCell, L'\0');
-    LVITEMW query{};
-    query.iSubItem = column;
-    query.pszText = text.data();
-    query.cchTextMax = kLongestCell;
-    text.resize(static_cast<size_t>(
-        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&query))));
-    return text;
-}
-
-struct SortOrder {
-    HWND list;
-    int column;
-    bool descending;
-};
-
-int CALLBACK CompareItems(LPARAM left, LPARAM right, LPARAM order) {
-    const auto& sort = *reinterpret_cast<const SortOrder*>(order);
-    const std::wstring leftText = ItemText(sort.list, static_cast<int>(left), sort.column);
-    const std::wstring rightText = ItemText(sort.list, static_cast<int>(right), sort.column);
-    const int compared = lstrcmpiW(leftText.c_str(), rightText.c_str());
-    return sort.descending ? -compared : compared;
-}
-
-} // namespace
+#include <algorithm>
+#include <utility>
 
 ListView::ListView(Form* form, const wchar_t* name, Twips place)
     : Control(
@@ -40,8 +12,9 @@ ListView::ListView(Form* form, const wchar_t* name, Twips place)
           {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
 
 void ListView::OnCreated() {
-    constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+    constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
+    if (tip_) toolTip_.SetAsked(Owner().Handle(), Handle());
 }
 
 void ListView::AddColumn(const std::wstring& title, int width) {
@@ -84,23 +57,75 @@ int ListView::TitleWidth(const std::wstring& title) const {
 
 void ListView::Clear() {
     SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
-    rowColors_.clear();
+    rows_.clear();
 }
 
 int ListView::Add(const std::wstring& text) {
-    const int row = RowCount();
-    std::wstring label = text;
-    LVITEMW item{};
-    item.mask = LVIF_TEXT | LVIF_PARAM;
-    item.iItem = row;
-    item.lParam = row;
-    item.pszText = label.data();
-    rowColors_.push_back(CLR_DEFAULT);
-    SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    return row;
+    rows_.push_back({{text}, {}});
+    Insert(RowCount() - 1);
+    return RowCount() - 1;
 }
 
-int ListView::RowCount() const { return static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0)); }
+void ListView::Insert(int row) {
+    Row& added = rows_.at(static_cast<size_t>(row));
+    added.Cells.resize(static_cast<size_t>(std::max(1, ColumnCount())));
+    LVITEMW item{};
+    item.mask = LVIF_TEXT | LVIF_PARAM | LVIF_STATE;
+    item.iItem = RowCount();
+    item.lParam = row;
+    item.pszText = added.Cells[0].data();
+    item.stateMask = LVIS_CUT;
+    item.state = added.IsFaded ? LVIS_CUT : 0;
+    item.iItem = static_cast<int>(SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    for (size_t column = 1; column < added.Cells.size(); ++column) {
+        item.iSubItem = static_cast<int>(column);
+        item.pszText = added.Cells[column].data();
+        SendMessageW(Handle(), LVM_SETITEMTEXTW, static_cast<WPARAM>(item.iItem), reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+void ListView::ShowOnly(const std::function<bool(int row)>& isShown) {
+    const int selected = Selected();
+    SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+    SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
+    for (int row = 0; row < RowCount(); ++row)
+        if (!isShown || isShown(row)) Insert(row);
+    SortItems();
+    Select(ItemOf(selected) >= 0 ? selected : RowOf(0));
+    SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+    if (!toldItems_.empty()) TellNotes();
+}
+
+void ListView::Icon(WORD resource) {
+    const int side = GetSystemMetrics(SM_CXSMICON);
+    const IconHandle icon(static_cast<HICON>(
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, side, side, 0)));
+    icons_.Reset(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, 1, 0));
+    ImageList_AddIcon(icons_.Get(), icon.Get());
+    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons_.Get()));
+}
+
+void ListView::Fade(int row, bool isFaded) {
+    rows_.at(static_cast<size_t>(row)).IsFaded = isFaded;
+    LVITEMW state{};
+    state.stateMask = LVIS_CUT;
+    state.state = isFaded ? LVIS_CUT : 0;
+    if (const int item = ItemOf(row); item >= 0)
+        SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
+}
+
+void ListView::Note(int row, const std::wstring& text) { rows_.at(static_cast<size_t>(row)).Note = text; }
+
+void ListView::TellNotes() {
+    for (const int item : toldItems_) Accessible::ItemName(Handle(), item + 1, {});
+    toldItems_.clear();
+    for (int row = 0; row < RowCount(); ++row) {
+        const int item = ItemOf(row);
+        if (item < 0 || Note(row).empty()) continue;
+        Accessible::ItemName(Handle(), item + 1, Cell(row, 0) + L", " + Note(row));
+        toldItems_.push_back(item);
+    }
+}
 
 int ListView::ItemOf(int row) const {
     LVFINDINFOW find{};
@@ -118,22 +143,28 @@ int ListView::RowOf(int item) const {
     return found ? static_cast<int>(query.lParam) : -1;
 }
 
-std::wstring ListView::Cell(int row, int column) const { return ItemText(Handle(), ItemOf(row), column); }
+std::wstring ListView::Cell(int row, int column) const {
+    if (row < 0 || row >= RowCount()) return {};
+    const std::vector<std::wstring>& cells = rows_[static_cast<size_t>(row)].Cells;
+    return static_cast<size_t>(column) < cells.size() ? cells[static_cast<size_t>(column)] : std::wstring();
+}
 
 void ListView::Cell(int row, int column, const std::wstring& text) {
-    std::wstring copy = text;
+    std::wstring& cell = rows_.at(static_cast<size_t>(row)).Cells.at(static_cast<size_t>(column));
+    cell = text;
     LVITEMW item{};
     item.iSubItem = column;
-    item.pszText = copy.data();
-    SendMessageW(Handle(), LVM_SETITEMTEXTW, static_cast<WPARAM>(ItemOf(row)), reinterpret_cast<LPARAM>(&item));
+    item.pszText = cell.data();
+    if (const int shown = ItemOf(row); shown >= 0)
+        SendMessageW(Handle(), LVM_SETITEMTEXTW, static_cast<WPARAM>(shown), reinterpret_cast<LPARAM>(&item));
 }
 
 void ListView::RowColor(int row, COLORREF color) {
-    rowColors_.at(static_cast<size_t>(row)) = color;
+    rows_.at(static_cast<size_t>(row)).Color = color;
     SendMessageW(Handle(), LVM_REDRAWITEMS, static_cast<WPARAM>(ItemOf(row)), ItemOf(row));
 }
 
-COLORREF ListView::RowColor(int row) const { return rowColors_.at(static_cast<size_t>(row)); }
+COLORREF ListView::RowColor(int row) const { return rows_.at(static_cast<size_t>(row)).Color; }
 
 int ListView::Selected() const {
     return RowOf(static_cast<int>(SendMessageW(Handle(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)));
@@ -150,8 +181,40 @@ void ListView::Select(int row) {
 }
 
 void ListView::Sort(int column, bool descending) {
-    SortOrder order{Handle(), column, descending};
-    SendMessageW(Handle(), LVM_SORTITEMSEX, reinterpret_cast<WPARAM>(&order), reinterpret_cast<LPARAM>(&CompareItems));
+    sortColumn_ = column;
+    isDescending_ = descending;
+    SortItems();
+    if (!toldItems_.empty()) TellNotes();
+}
+
+void ListView::SortItems() {
+    if (sortColumn_ < 0) return;
+    Order order{&rows_, sortColumn_, isDescending_};
+    SendMessageW(Handle(), LVM_SORTITEMS, reinterpret_cast<WPARAM>(&order), reinterpret_cast<LPARAM>(&Compare));
+}
+
+int CALLBACK ListView::Compare(LPARAM left, LPARAM right, LPARAM order) {
+    const auto& [rows, column, isDescending] = *reinterpret_cast<const Order*>(order);
+    const auto text = [&, cells = rows, index = static_cast<size_t>(column)](LPARAM row) {
+        return (*cells)[static_cast<size_t>(row)].Cells[index].c_str();
+    };
+    const int compared = lstrcmpiW(text(left), text(right));
+    return isDescending ? -compared : compared;
+}
+
+int ListView::RowAt(POINT position) const {
+    LVHITTESTINFO hit{};
+    ScreenToClient(Handle(), &position);
+    hit.pt = position;
+    return RowOf(static_cast<int>(SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit))));
+}
+
+bool ListView::IsCut(int row, int column) const {
+    constexpr int kPadding = 12; // pixels at 96 DPI that the control leaves free
+    const std::wstring text = Cell(row, column);
+    const auto needed = SendMessageW(Handle(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str())) +
+                        MulDiv(kPadding, Owner().Dpi(), NormalDpi);
+    return needed > SendMessageW(Handle(), LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column), 0);
 }
 
 LRESULT ListView::OnNotify(NMHDR& header) {
@@ -164,16 +227,33 @@ LRESULT ListView::OnNotify(NMHDR& header) {
         if (columnClick_) Raise(L"ColumnClick", [this, column] { columnClick_(column); });
         return 0;
     }
+    case TTN_GETDISPINFOW: OnTip(reinterpret_cast<NMTTDISPINFOW&>(header)); return 0;
     case NM_CUSTOMDRAW: return OnCustomDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
     default: return 0;
     }
+}
+
+bool ListView::OnSetCursor() {
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    // A tip belongs to one row: on another one it begins anew.
+    if (tip_ && std::exchange(hotRow_, RowAt(pointer)) != hotRow_) toolTip_.Pop();
+    return false;
+}
+
+void ListView::OnTip(NMTTDISPINFOW& tip) {
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    const int row = RowAt(pointer);
+    shownTip_ = row < 0 || !tip_ ? std::wstring() : tip_(row);
+    tip.lpszText = shownTip_.data();
 }
 
 LRESULT ListView::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
     if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
     if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
     const auto row = static_cast<size_t>(draw.nmcd.lItemlParam);
-    if (row < rowColors_.size() && rowColors_[row] != CLR_DEFAULT) draw.clrText = rowColors_[row];
+    if (row < rows_.size() && rows_[row].Color != CLR_DEFAULT) draw.clrText = rows_[row].Color;
     return CDRF_NEWFONT;
 }
 

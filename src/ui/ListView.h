@@ -1,7 +1,10 @@
 #pragma once
 
 #include "ui/Control.h"
+#include "ui/ToolTip.h"
+#include "win32/Owner.h"
 
+#include <functional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -11,7 +14,8 @@ template <class F>
 struct ListViewEvents {
     void (F::*DblClick)() = nullptr;
     void (F::*ColumnClick)(int column) = nullptr;
-    void (F::*RightClick)() = nullptr; ///< right button, Menu key or Shift+F10
+    void (F::*RightClick)() = nullptr;         ///< right button, Menu key or Shift+F10
+    std::wstring (F::*Tip)(int row) = nullptr; ///< what to show while the pointer rests on a row, "" for nothing
 };
 
 /// A report-style list: rows of texts under clickable column headers, one row selected at a time. Rows keep the number
@@ -24,6 +28,7 @@ public:
         dblClick_ = Bind(form, events.DblClick);
         columnClick_ = Bind(form, events.ColumnClick);
         rightClick_ = Bind(form, events.RightClick);
+        if (events.Tip) tip_ = [form, handler = events.Tip](int row) { return (form->*handler)(row); };
     }
 
     /// Adds a column at the right end; the width is in twips.
@@ -38,7 +43,19 @@ public:
     void Clear();
     /// Adds a row behind the others and returns its number, from 0.
     int Add(const std::wstring& text);
-    int RowCount() const;
+    int RowCount() const { return static_cast<int>(rows_.size()); }
+    /// Shows only the rows for which `isShown` holds; empty shows all again. The others keep number and contents. When
+    /// the selected row is hidden the first one shown is selected.
+    void ShowOnly(const std::function<bool(int row)>& isShown);
+    /// Gives every row an icon (a resource of the program), in the system's size for small ones.
+    void Icon(WORD resource);
+    /// Draws a row's icon faded, or not.
+    void Fade(int row, bool isFaded);
+    /// A text that a screen reader says behind the row's first cell, "" for none. Told when TellNotes runs, which
+    /// costs some time, and from then on whenever the rows change places.
+    void Note(int row, const std::wstring& text);
+    const std::wstring& Note(int row) const { return rows_.at(static_cast<size_t>(row)).Note; }
+    void TellNotes();
     /// The text of a cell; row is the number given by Add.
     std::wstring Cell(int row, int column) const;
     void Cell(int row, int column, const std::wstring& text);
@@ -52,6 +69,10 @@ public:
     void Select(int row);
     /// Shows the rows in the order of a column's texts.
     void Sort(int column, bool descending);
+    /// The row at a place on the screen, or -1.
+    int RowAt(POINT position) const;
+    /// True when a cell's text does not fit its column.
+    bool IsCut(int row, int column) const;
     /// Where a menu that belongs to the selected row comes up when the keyboard asked for it, in screen pixels.
     POINT MenuPosition() const { return menuPosition_; }
 
@@ -60,13 +81,38 @@ private:
     void OnCreated() override;
     LRESULT OnNotify(NMHDR& header) override;
     void OnContextMenu(POINT position) override;
+    bool OnSetCursor() override;
+    void OnTip(NMTTDISPINFOW& tip);
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
     int ItemOf(int row) const;
     int RowOf(int item) const;
+    void Insert(int row);
+    void SortItems();
 
-    std::vector<COLORREF> rowColors_;
+    struct Row {
+        std::vector<std::wstring> Cells;
+        std::wstring Note;
+        COLORREF Color = CLR_DEFAULT;
+        bool IsFaded = false;
+    };
+    struct Order {
+        const std::vector<Row>* Rows;
+        int Column;
+        bool IsDescending;
+    };
+    static int CALLBACK Compare(LPARAM left, LPARAM right, LPARAM order);
+
+    std::vector<Row> rows_;
+    int sortColumn_ = -1;
+    bool isDescending_ = false;
+    ImageListHandle icons_;
+    std::vector<int> toldItems_;
     Action dblClick_;
     IndexAction columnClick_;
     Action rightClick_;
+    std::function<std::wstring(int)> tip_;
+    ToolTip toolTip_;
+    std::wstring shownTip_;
+    int hotRow_ = -1;
     POINT menuPosition_{};
 };

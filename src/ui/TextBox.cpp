@@ -24,3 +24,7 @@ void TextBox::OnCreated() {
 }
 
 void TextBox::SelectAll() { SendMessageW(Handle(), EM_SETSEL, 0, -1); }
+
+void TextBox::OnCommand(WORD notification) {
+    if (notification == EN_CHANGE) Raise(L"Change", change_);
+}

@@ -12,9 +12,18 @@ public:
     TextBox(Form* form, Frame& container, const wchar_t* name, Twips place, Kind kind = Kind::Plain)
         : TextBox(form, name, place, kind, &container) {}
 
+    /// With a handler that runs whenever the text changes.
+    template <class F>
+    TextBox(F* form, const wchar_t* name, Twips place, void (F::*change)()) : TextBox(form, name, place) {
+        change_ = Bind(form, change);
+    }
+
     void SelectAll();
 
 private:
     TextBox(Form* form, const wchar_t* name, Twips place, Kind kind, Frame* container);
     void OnCreated() override;
+    void OnCommand(WORD notification) override;
+
+    Action change_;
 };

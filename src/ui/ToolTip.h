@@ -10,6 +10,13 @@ public:
     /// Shows a text while the pointer rests on a control; "" for none. Both windows must exist.
     void Set(HWND form, HWND control, const std::wstring& text);
 
+    /// Shows a text that is asked for each time (TTN_GETDISPINFO goes to the form).
+    void SetAsked(HWND form, HWND control);
+    /// Takes a shown tip away; it comes again when the pointer rests anew.
+    void Pop() const { SendMessageW(window_, TTM_POP, 0, 0); }
+
 private:
+    void Add(HWND form, HWND control, wchar_t* text);
+
     HWND window_ = nullptr; ///< owned by the form, which takes it along
 };

@@ -12,8 +12,6 @@
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
-#include <array>
-
 namespace {
 
 class SelectedRow : public MainWindow {
@@ -38,17 +36,6 @@ void Press(HWND dialog, const wchar_t* name) {
 bool IsEnabled(HWND dialog, const wchar_t* name) { return IsWindowEnabled(FindControl(dialog, name)) != FALSE; }
 
 LRESULT Selected(HWND dialog) { return SendMessageW(FindControl(dialog, L"lstDB"), LB_GETCURSEL, 0, 0); }
-
-/// Presses a key, with another one held or none (0), and lets the dialog deal with it.
-void Key(HWND dialog, WORD key, WORD held) {
-    std::array<BYTE, 256> before{}, keys{};
-    GetKeyboardState(before.data());
-    if (held) keys[held] = 0x80;
-    SetKeyboardState(keys.data());
-    MSG press{FindControl(dialog, L"lstDB"), held == VK_MENU ? UINT{WM_SYSKEYDOWN} : UINT{WM_KEYDOWN}, key, 1, 0, {}};
-    Form::Translate(press);
-    SetKeyboardState(before.data());
-}
 
 /// Drags a line to the place of another as the common controls tell of it.
 void Drag(HWND dialog, int from, int to) {
@@ -170,10 +157,10 @@ TEST_CASE("Removals are undone one after another, with both stores and the palet
         Press(dialog, L"cmdRemove");
         Press(dialog, L"cmdRemove");
         CHECK(Sort() == L"C");
-        Key(dialog, 'Z', VK_CONTROL);
+        TranslateKey(FindControl(dialog, L"lstDB"), 'Z', VK_CONTROL);
         CHECK(Sort() == L"B;C");
-        Key(dialog, 'Z', VK_CONTROL);
-        Key(dialog, 'Z', VK_CONTROL); // nothing is left to be undone
+        TranslateKey(FindControl(dialog, L"lstDB"), 'Z', VK_CONTROL);
+        TranslateKey(FindControl(dialog, L"lstDB"), 'Z', VK_CONTROL); // nothing is left to be undone
         CHECK(Selected(dialog) == 0);
         PostMessageW(dialog, WM_CLOSE, 0, 0);
     });
@@ -207,13 +194,13 @@ TEST_CASE("What somebody else adds and removes meanwhile is kept, and the user i
 TEST_CASE("Keys and dragging do what the buttons do") {
     ActDesk desk;
     const int selected = Maintain(desk, 0, [](HWND dialog) {
-        Key(dialog, VK_DOWN, VK_MENU);
+        TranslateKey(FindControl(dialog, L"lstDB"), VK_DOWN, VK_MENU);
         CHECK(Selected(dialog) == 1);
-        Key(dialog, VK_UP, VK_MENU);
+        TranslateKey(FindControl(dialog, L"lstDB"), VK_UP, VK_MENU);
         CHECK(Selected(dialog) == 0);
         Drag(dialog, 0, 2);
         CHECK(Selected(dialog) == 2);
-        Key(dialog, VK_DELETE, 0);
+        TranslateKey(FindControl(dialog, L"lstDB"), VK_DELETE, 0);
         CHECK(Sort() == L"B;C");
         PostMessageW(dialog, WM_CLOSE, 0, 0);
     });
@@ -228,7 +215,7 @@ TEST_CASE("A duplicate begins with all values of its model, under a name of its 
         [](HWND dialog) {
             IniLib::WriteKeyValue(L"A", L"CLY", L"c");
             IniLib::WriteKeyValue(L"A", L"Query", L"q");
-            Key(dialog, 'D', VK_CONTROL);
+            TranslateKey(FindControl(dialog, L"lstDB"), 'D', VK_CONTROL);
             Click(FindControl(dialog, L"cmdClose"));
         },
         [](HWND properties) {

@@ -1,6 +1,7 @@
 #include "support/DialogScript.h"
 
 #include "support/Wide.h"
+#include "ui/Form.h"
 
 #include <algorithm>
 #include <array>
@@ -49,6 +50,16 @@ std::wstring WindowText(HWND window) {
 }
 
 void Click(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
+
+void TranslateKey(HWND control, WORD key, WORD held) {
+    std::array<BYTE, 256> before{}, keys{};
+    GetKeyboardState(before.data());
+    if (held) keys.at(held) = 0x80;
+    SetKeyboardState(keys.data());
+    MSG press{control, held == VK_MENU ? UINT{WM_SYSKEYDOWN} : UINT{WM_KEYDOWN}, key, 1, 0, {}};
+    Form::Translate(press);
+    SetKeyboardState(before.data());
+}
 
 void PumpUntil(const std::function<bool()>& condition, unsigned milliseconds) {
     const DWORD start = GetTickCount();

@@ -57,5 +57,8 @@ HWND FocusIn(HWND form);
 /// Clicks a button as a user does: the message is posted.
 void Click(HWND button);
 
+/// Presses a key in a control, with another one held or none (0), and lets the control's form deal with it.
+void TranslateKey(HWND control, WORD key, WORD held = 0);
+
 /// Handles waiting messages until a condition holds; fails the test after the deadline.
 void PumpUntil(const std::function<bool()>& condition, unsigned milliseconds = 5000);

@@ -1,0 +1,110 @@
+// The main window's keys, its find box, and what it tells of the files behind its rows.
+
+#include "i18n/modLangues.h"
+#include "settings/UserStore.h"
+#include "support/ActDesk.h"
+#include "support/DialogScript.h"
+#include "support/Wide.h"
+
+namespace {
+
+void AddThree(ActDesk& desk) {
+    desk.Act.Texts[L"GetOpenDBName"] = desk.SettingsFile(); // a file that is there
+    desk.AddDatabase(L"Sales", {{L"Path", desk.SettingsFile()}, {L"CLY", L"C:\\Act\\Layout\\Sales.cly"}});
+    desk.AddDatabase(L"Service", {{L"Path", L"C:\\Gone\\Service.dbf"}, {L"CLY", L"x"}});
+    desk.AddDatabase(L"Staff", {{L"Path", L"C:\\Gone\\Staff.dbf"}, {L"CLY", L"x"}});
+    UserStore::Set(L"Display", L"Selected", L"0");
+}
+
+LRESULT Shown(const frmMain& window) { return SendMessageW(window.ListView1.Handle(), LVM_GETITEMCOUNT, 0, 0); }
+
+std::wstring SelectedName(const frmMain& window) { return window.ListView1.Cell(window.ListView1.Selected(), 0); }
+
+std::wstring TipAt(const frmMain& window, int item) {
+    RECT place{};
+    place.left = LVIR_LABEL;
+    SendMessageW(window.ListView1.Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(item),
+                 reinterpret_cast<LPARAM>(&place));
+    POINT pointer{place.left + 5, (place.top + place.bottom) / 2};
+    ClientToScreen(window.ListView1.Handle(), &pointer);
+    SetCursorPos(pointer.x, pointer.y);
+    NMTTDISPINFOW tip{};
+    tip.hdr.code = TTN_GETDISPINFOW;
+    tip.hdr.idFrom = reinterpret_cast<UINT_PTR>(window.ListView1.Handle());
+    SendMessageW(window.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
+    return tip.lpszText;
+}
+
+bool IsFaded(const frmMain& window, int item) {
+    return SendMessageW(window.ListView1.Handle(), LVM_GETITEMSTATE, static_cast<WPARAM>(item), LVIS_CUT) != 0;
+}
+
+} // namespace
+
+TEST_CASE("The find box narrows the rows; properties, opening and the end act on the row that is seen") {
+    ActDesk desk;
+    AddThree(desk);
+    frmMain window;
+    window.Load();
+    HWND list = window.ListView1.Handle();
+    const Twips place = window.ListView1.Place();
+    CHECK_FALSE(IsWindowVisible(window.txtFind.Handle()));
+    window.ListView1.Sort(0, true); // Staff, Service, Sales
+    TranslateKey(list, 'F', VK_CONTROL);
+    CHECK(FocusIn(window.Handle()) == window.txtFind.Handle());
+    CHECK(window.ListView1.Place().Top > place.Top);
+    window.txtFind.Text(L"S");
+    CHECK(Shown(window) == 3);
+    CHECK(SelectedName(window) == L"Sales");
+    window.txtFind.Text(L"gONE");
+    CHECK(Shown(window) == 2);
+    CHECK(SelectedName(window) == L"Staff");
+    TranslateKey(window.txtFind.Handle(), VK_DOWN);
+    CHECK(SelectedName(window) == L"Service");
+    DialogScript script;
+    script.Then([](HWND properties) {
+        CHECK(WindowText(FindControl(properties, L"txtName")) == L"Service");
+        Click(FindControl(properties, L"cmdCancel"));
+    });
+    TranslateKey(window.txtFind.Handle(), VK_F2);
+    window.txtFind.Text(L"nowhere");
+    CHECK(window.ListView1.Selected() == -1);
+    TranslateKey(window.txtFind.Handle(), VK_ESCAPE);
+    CHECK(Shown(window) == 3);
+    CHECK(window.ListView1.Place().Top == place.Top);
+    CHECK(window.ListView1.Place().Height == place.Height);
+    CHECK(FocusIn(window.Handle()) == list);
+    TranslateKey(list, '6', VK_CONTROL);
+    CHECK(window.optView[5].Value());
+    End(window);
+}
+
+TEST_CASE("Typed letters find a name, and the open database is told of in words too") {
+    ActDesk desk;
+    AddThree(desk);
+    frmMain window;
+    window.Load();
+    for (const wchar_t letter : {L'S', L't'}) SendMessageW(window.ListView1.Handle(), WM_CHAR, letter, 1);
+    CHECK(SelectedName(window) == L"Staff");
+    CHECK(window.ListView1.Note(0) == L"open in ACT!");
+    CHECK(window.ListView1.Note(1).empty());
+    End(window);
+}
+
+TEST_CASE("A row whose file is missing is faded and says so; a tip holds the whole of what a cell cuts") {
+    ActDesk desk;
+    AddThree(desk);
+    frmMain window;
+    window.Load();
+    PumpUntil([&] { return IsFaded(window, 1) && IsFaded(window, 2); });
+    CHECK_FALSE(IsFaded(window, 0));
+    CHECK(TipAt(window, 1).starts_with(L"The database file is not there:\r\nC:\\Gone\\Service.dbf"));
+    CHECK(TipAt(window, 0).find(L"Contact Layout: C:\\Act\\Layout\\Sales.cly") != std::wstring::npos);
+    // A file that comes back is noticed with the next filling of the list.
+    window.ListView1.Fade(0, true);
+    DialogScript script;
+    script.Then([](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); });
+    window.mnuManageList.Click();
+    PumpUntil([&] { return IsFaded(window, 1) && !IsFaded(window, 0); });
+    End(window);
+}
