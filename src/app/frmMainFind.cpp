@@ -66,6 +66,7 @@ void frmMain::txtFind_Change() {
 
 void frmMain::CheckFiles() {
     if (!Visible()) return;
+    ListView1.AccessibleName(LangText[90]);
     ListView1.TellNotes();
     for (int row = 0; row < ListView1.RowCount(); ++row) ListView1.Fade(row, false);
     isMissing_.assign(paths_.size(), false);

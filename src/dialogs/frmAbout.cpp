@@ -18,6 +18,7 @@ void frmAbout::Form_Load() try {
     txtAbout.Text(name + L"\r\n" + Text::Replace(LangText[12], L"&", L"") + L"\r\n\r\n" +
                   Translated(MoreText::WhatThisIs) + L"\r\n\r\n" + LangText[5] + L"\r\n\r\n" + LangText[6] + L"\r\n" +
                   (isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail));
+    txtAbout.AccessibleName(LangText[4]);
     cmdOK.Text(LangText[1]);
 } catch (...) {
     ErrorReport(L"frmAbout: Sub Form_Load");

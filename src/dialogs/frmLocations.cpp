@@ -21,6 +21,7 @@ void frmLocations::Form_Activate() try {
     cmdOK.Text(LangText[1]);
     cmdCancel.Text(LangText[2]);
     cmdBrowse.Text(L"...");
+    cmdBrowse.AccessibleName(LangText[122] + L"...");
     pathAtActivation_ = IniLib::SettingsFile();
     txtPath.Text(pathAtActivation_);
     txtPath.SelectAll();

@@ -25,6 +25,7 @@ frmPrefLocations::frmPrefLocations(std::wstring currentName, std::wstring typedN
 
 void frmPrefLocations::Form_Load() try {
     Caption(LangText[124]);
+    lvwPref.AccessibleName(LangText[124]);
     cmdOK.Text(LangText[1]);
     cmdCancel.Text(LangText[2]);
     cmdEditlocation.Text(LangText[125] + L"...");

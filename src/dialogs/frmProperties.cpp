@@ -25,13 +25,14 @@ struct BrowseTarget {
     const wchar_t* Filter;
     long StartKind;
     TextBox frmProperties::*Box;
+    int LabelText;
 };
 
 constexpr BrowseTarget kBrowseTargets[] = {
-    {L"Contact Layouts (*.cly)|*.cly", DefaultLocation::Layouts, &frmProperties::txtCL},
-    {L"Group Layouts (*.gly)|*.gly", DefaultLocation::Layouts, &frmProperties::txtGL},
-    {L"Macros (*.mpr)|*.mpr|Programs (*.exe)|*.exe", DefaultLocation::Macros, &frmProperties::txtMacro},
-    {L"ACT! Database (*.dbf)|*.dbf", DefaultLocation::Databases, &frmProperties::txtPath},
+    {L"Contact Layouts (*.cly)|*.cly", DefaultLocation::Layouts, &frmProperties::txtCL, 84},
+    {L"Group Layouts (*.gly)|*.gly", DefaultLocation::Layouts, &frmProperties::txtGL, 85},
+    {L"Macros (*.mpr)|*.mpr|Programs (*.exe)|*.exe", DefaultLocation::Macros, &frmProperties::txtMacro, 86},
+    {L"ACT! Database (*.dbf)|*.dbf", DefaultLocation::Databases, &frmProperties::txtPath, 91},
 };
 
 bool IsChecked(const std::wstring& name, const wchar_t* key) {
@@ -80,7 +81,12 @@ void frmProperties::SetCaptions() {
     chkNotAtACTLaunch.Text(LangText[152]);
     cmdOK.Text(LangText[1]);
     cmdCancel.Text(LangText[2]);
-    for (CommandButton* browse : {&cmdBrowse0, &cmdBrowse1, &cmdBrowse2, &cmdBrowse3}) browse->Text(L"...");
+    for (CommandButton* browse : {&cmdBrowse0, &cmdBrowse1, &cmdBrowse2, &cmdBrowse3}) {
+        browse->Text(L"...");
+        browse->AccessibleName(LangText[kBrowseTargets[browse->Index()].LabelText] + L"...");
+    }
+    cboDB.AccessibleName(LangText[134]);
+    txtPassword.AccessibleName(LangText[137]);
 }
 
 void frmProperties::LoadModel() {

@@ -95,8 +95,7 @@ void frmAssign::SetCaptions() {
     mstAssign.AddTab(LangText[138]);
     mstAssign.AddTab(LangText[139]);
     fraButtons.Text(LangText[140] + L":");
-    for (size_t index = 0; index < ButtonCount; ++index)
-        lblDB[index].Text(LangText[141] + L" " + std::to_wstring(index + 1) + L":");
+    for (size_t index = 0; index < ButtonCount; ++index) SetButtonCaption(index);
     chkStartup.Text(LangText[145]);
     lblLayout.Text(LangText[138] + L":");
     fraColors.Text(LangText[146] + L":");
@@ -104,6 +103,12 @@ void frmAssign::SetCaptions() {
         optColor[scheme].Text(LangText[139] + L" " + std::to_wstring(scheme + 1)); // for screen readers
     cmdOK.Text(LangText[1]);
     cmdCancel.Text(LangText[2]);
+}
+
+void frmAssign::SetButtonCaption(size_t index) {
+    const std::wstring button = LangText[141] + L" " + std::to_wstring(index + 1);
+    lblDB[index].Text(button + L":");
+    cboDB[index].AccessibleName(button);
 }
 
 void frmAssign::FillLists() {

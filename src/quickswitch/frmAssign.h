@@ -42,6 +42,7 @@ public:
 private:
     void Form_Load() override;
     void SetCaptions();
+    void SetButtonCaption(size_t index);
     void FillLists();
     void mstAssign_Click(int previousTab);
     void cmdOK_Click();

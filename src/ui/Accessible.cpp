@@ -15,6 +15,8 @@ constexpr GUID kName{0x608d3df8, 0x8128, 0x4aa7, {0xa4, 0x28, 0xf5, 0x5e, 0x49, 
 
 namespace Accessible {
 
+void Name(HWND control, const std::wstring& name) { ItemName(control, CHILDID_SELF, name); }
+
 void ItemName(HWND control, int item, const std::wstring& name) {
     ComPtr<IAccPropServices> services;
     if (FAILED(CoCreateInstance(kServices, nullptr, CLSCTX_INPROC_SERVER, kServicesInterface, services.ReceiveVoid())))

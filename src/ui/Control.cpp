@@ -2,6 +2,7 @@
 
 #include "support/Busy.h"
 #include "support/ErrorReport.h"
+#include "ui/Accessible.h"
 #include "ui/Form.h"
 #include "ui/Frame.h"
 
@@ -18,6 +19,10 @@ std::wstring Control::Text() const {
 }
 
 void Control::Text(std::wstring_view text) { SetWindowTextW(window_, std::wstring(text).c_str()); }
+void Control::AccessibleName(const std::wstring& name) {
+    accessibleName_ = name;
+    Accessible::Name(window_, name);
+}
 bool Control::Enabled() const { return IsWindowEnabled(window_) != FALSE; }
 void Control::Enabled(bool enabled) { EnableWindow(window_, enabled); }
 void Control::Visible(bool visible) { ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE); }

@@ -32,6 +32,9 @@ public:
 
     std::wstring Text() const;
     void Text(std::wstring_view text);
+    /// What assistive tools call the control when neither its text nor a label before it names it.
+    const std::wstring& AccessibleName() const { return accessibleName_; }
+    void AccessibleName(const std::wstring& name);
     bool Enabled() const;
     void Enabled(bool enabled);
     void Visible(bool visible);
@@ -69,6 +72,8 @@ private:
     /// True when the control has set a pointer of its own.
     virtual bool OnSetCursor() { return false; }
     virtual void OnFontChanged(const LOGFONTW&) {}
+    /// The form has come to another resolution; `dpi` is the one before.
+    virtual void OnDpiChanged(int /*dpi*/) {}
     void Create(int ordinal);
     void PlaceWindow() const;
 
@@ -79,4 +84,5 @@ private:
     Frame* container_;
     int index_;
     HWND window_ = nullptr;
+    std::wstring accessibleName_;
 };

@@ -7,6 +7,7 @@
 #include "ui/Timer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -137,11 +138,14 @@ void Form::OnActivate(WPARAM wParam) {
 }
 
 void Form::OnDpiChanged(int dpi, const RECT& suggested) {
-    dpi_ = dpi;
+    const int before = std::exchange(dpi_, dpi);
     ApplyFont();
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    for (const Control* control : controls_) control->PlaceWindow();
+    for (Control* control : controls_) {
+        control->PlaceWindow();
+        control->OnDpiChanged(before);
+    }
     Form_Resize();
 }
 

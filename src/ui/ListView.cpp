@@ -97,12 +97,22 @@ void ListView::ShowOnly(const std::function<bool(int row)>& isShown) {
 }
 
 void ListView::Icon(WORD resource) {
-    const int side = GetSystemMetrics(SM_CXSMICON);
+    constexpr int kSide = 16;
+    const int side = MulDiv(kSide, Owner().Dpi(), NormalDpi);
+    iconResource_ = resource;
     const IconHandle icon(static_cast<HICON>(
         LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, side, side, 0)));
-    icons_.Reset(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, 1, 0));
-    ImageList_AddIcon(icons_.Get(), icon.Get());
-    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons_.Get()));
+    ImageListHandle icons(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, 1, 0));
+    ImageList_AddIcon(icons.Get(), icon.Get());
+    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons.Get()));
+    icons_ = std::move(icons);
+}
+
+void ListView::OnDpiChanged(int dpi) {
+    for (int column = 0; column < ColumnCount(); ++column)
+        SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column),
+                     MulDiv(ToPixels(ColumnWidth(column), Owner().Dpi()), Owner().Dpi(), dpi));
+    if (iconResource_) Icon(iconResource_);
 }
 
 void ListView::Fade(int row, bool isFaded) {

@@ -47,7 +47,7 @@ public:
     /// Shows only the rows for which `isShown` holds; empty shows all again. The others keep number and contents. When
     /// the selected row is hidden the first one shown is selected.
     void ShowOnly(const std::function<bool(int row)>& isShown);
-    /// Gives every row an icon (a resource of the program), in the system's size for small ones.
+    /// Gives every row an icon (a resource of the program), 16 pixels at 96 DPI.
     void Icon(WORD resource);
     /// Draws a row's icon faded, or not.
     void Fade(int row, bool isFaded);
@@ -82,6 +82,7 @@ private:
     LRESULT OnNotify(NMHDR& header) override;
     void OnContextMenu(POINT position) override;
     bool OnSetCursor() override;
+    void OnDpiChanged(int dpi) override;
     void OnTip(NMTTDISPINFOW& tip);
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
     int ItemOf(int row) const;
@@ -105,6 +106,7 @@ private:
     std::vector<Row> rows_;
     int sortColumn_ = -1;
     bool isDescending_ = false;
+    WORD iconResource_ = 0;
     ImageListHandle icons_;
     std::vector<int> toldItems_;
     Action dblClick_;

@@ -36,6 +36,9 @@ void FillDesk(ActDesk& desk) {
 void Inspect(HWND window, const wchar_t* name) {
     CHECK(CutCaptions(window) == L"");
     CHECK(ControlsOutside(window) == L"");
+    CHECK(Overlaps(window) == L"");
+    CHECK(Nameless(window) == L"");
+    CHECK(ClashingKeys(window) == L"");
     constexpr const wchar_t* kLanguages[] = {L"en", L"fr", L"de"};
     TakePicture(window,
                 std::wstring(name) + L"-" + kLanguages[CurrentLanguage] + L"-" + std::to_wstring(WindowDpi(window)));
@@ -86,6 +89,7 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         DialogScript script;
         frmMain window;
         window.Load();
+        PumpUntil([&] { return !window.ListView1.AccessibleName().empty(); }); // told once the window stands
         Inspect(window.Handle(), L"main");
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"language"); });
         window.mnuLanguages.Click();

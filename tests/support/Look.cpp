@@ -1,7 +1,11 @@
 #include "support/Look.h"
 
 #include "support/DialogScript.h"
+#include "ui/Control.h"
+#include "win32/ComPtr.h"
 #include "win32/Owner.h"
+
+#include <oleacc.h>
 
 #include <array>
 #include <vector>
@@ -84,6 +88,48 @@ void WriteBitmap(const std::wstring& path, const BITMAPINFOHEADER& info, const s
     WriteFile(file.Get(), pixels.data(), static_cast<DWORD>(pixels.size()), &written, nullptr);
 }
 
+std::wstring ClassOf(HWND window) {
+    std::array<wchar_t, 32> name{};
+    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    return name.data();
+}
+
+std::vector<HWND> VisibleControls(HWND form) {
+    std::vector<HWND> controls;
+    for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        if (IsWindowVisible(child)) controls.push_back(child);
+    return controls;
+}
+
+bool LiesBelow(HWND control) {
+    const std::wstring kind = ClassOf(control);
+    const auto style = GetWindowLongPtrW(control, GWL_STYLE);
+    return kind == WC_TABCONTROLW || (kind == L"Button" && (style & BS_TYPEMASK) == BS_GROUPBOX) ||
+           (kind == L"Static" && (style & WS_CLIPSIBLINGS) != 0 && WindowText(control).empty());
+}
+
+/// A control's name as the rules have it: a button's text without its access key, else the label before it.
+std::wstring PlainName(HWND control) {
+    HWND before = GetWindow(control, GW_HWNDPREV);
+    const bool isButton = ClassOf(control) == L"Button";
+    std::wstring name = isButton ? WindowText(control) : ClassOf(before) == L"Static" ? WindowText(before) : L"";
+    std::erase(name, L'&');
+    return name;
+}
+
+std::wstring ServiceName(HWND control) {
+    ComPtr<IAccessible> accessible;
+    constexpr GUID kAccessible{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+    AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), kAccessible, accessible.ReceiveVoid());
+    VARIANT self{};
+    self.vt = VT_I4;
+    BSTR name = nullptr;
+    if (!accessible || accessible->get_accName(self, &name) != S_OK || !name) return {};
+    const std::wstring text = name;
+    SysFreeString(name);
+    return text;
+}
+
 } // namespace
 
 RECT PlaceOf(HWND control) {
@@ -103,6 +149,49 @@ std::wstring ControlsOutside(HWND form) {
     std::wstring found;
     for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
         CheckEdges(child, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+std::wstring Overlaps(HWND form) {
+    std::wstring found;
+    const std::vector<HWND> controls = VisibleControls(form);
+    for (size_t first = 0; first < controls.size(); ++first)
+        for (size_t second = first + 1; second < controls.size(); ++second) {
+            const RECT one = PlaceOf(controls[first]);
+            const RECT other = PlaceOf(controls[second]);
+            RECT common{};
+            if (!LiesBelow(controls[first]) && !LiesBelow(controls[second]) && IntersectRect(&common, &one, &other))
+                found += WindowText(controls[first]) + L" and " + WindowText(controls[second]) + L"; ";
+        }
+    return found;
+}
+
+std::wstring Nameless(HWND form) {
+    std::wstring found;
+    for (HWND control : VisibleControls(form)) {
+        const std::wstring kind = ClassOf(control);
+        if (kind == L"Static" || kind == WC_TABCONTROLW) continue;
+        const auto* ours = reinterpret_cast<const Control*>(GetWindowLongPtrW(control, GWLP_USERDATA));
+        const std::wstring name = ours->AccessibleName().empty() ? PlainName(control) : ours->AccessibleName();
+        if (name.empty() || name == L"...") found += ours->Name() + std::wstring(L"; ");
+        // Wine's service knows buttons and text boxes, and no annotations.
+        const bool isKnown = (kind == L"Button" || kind == L"Edit") && ours->AccessibleName().empty();
+        if (isKnown && ServiceName(control) != name) found += ours->Name() + (L" is " + ServiceName(control)) + L"; ";
+    }
+    return found;
+}
+
+std::wstring ClashingKeys(HWND form) {
+    std::wstring keys, found;
+    for (HWND control : VisibleControls(form)) {
+        const std::wstring text = WindowText(control);
+        const bool hasNone = ClassOf(control) == L"Edit" || GetDlgCtrlID(control) == IDCANCEL;
+        const size_t mark = hasNone ? std::wstring::npos : text.find(L'&');
+        if (mark == std::wstring::npos || mark + 1 == text.size()) continue;
+        const wchar_t key = static_cast<wchar_t>(towlower(text[mark + 1]));
+        if (keys.find(key) != std::wstring::npos) found += text + L"; ";
+        keys += key;
+    }
     return found;
 }
 

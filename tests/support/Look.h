@@ -10,6 +10,15 @@ std::wstring CutCaptions(HWND form);
 /// The controls of a form that reach over its edge, by caption; "" when none does.
 std::wstring ControlsOutside(HWND form);
 
+/// Pairs of a form's visible controls that cover each other; frames and pages lie below their contents.
+std::wstring Overlaps(HWND form);
+
+/// Visible controls that assistive tools have no name for. Where the system's own answer can be had, it must be ours.
+std::wstring Nameless(HWND form);
+
+/// Letters that are the access key of more than one visible control. A Cancel button has Esc.
+std::wstring ClashingKeys(HWND form);
+
 /// Writes the window as it stands on the screen, with its frame, to a bitmap file of that name in the folder that the
 /// environment variable KELMORRA_PICTURES names. Does nothing when there is no such variable.
 void TakePicture(HWND window, const std::wstring& name);
