@@ -6,22 +6,32 @@
 
 namespace {
 
-constexpr DWORD kPatience = 400;       // milliseconds for all waiting of one change
-constexpr DWORD kDeniedPatience = 200; // of it for "access denied": a file on its way out, or truly no right
-constexpr DWORD kPause = 7;
+constexpr DWORD kLockPatience = 240; // milliseconds, for other writers
+constexpr DWORD kPatience = 200;     // for everybody else; "access denied" may mean truly no right
+constexpr DWORD kPause = 1;          // short: whoever reads the file in a loop leaves it closed for no longer
+
+/// How long a part of a change has been waiting.
+class Patience {
+public:
+    explicit Patience(DWORD milliseconds) : start_(GetTickCount()), milliseconds_(milliseconds) {}
+    bool IsOver() const { return GetTickCount() - start_ >= milliseconds_; }
+
+private:
+    DWORD start_;
+    DWORD milliseconds_;
+};
 
 /// Repeats a call that others get in the way of. The error code of the last try, ERROR_SUCCESS when it went well.
 template <class Call>
-DWORD Persist(DWORD start, Call call) {
-    DWORD deniedSince = GetTickCount();
+DWORD Persist(const Patience& patience, Call call) {
+    Patience denied(kPatience);
     while (!call()) {
         const DWORD error = GetLastError();
-        const DWORD now = GetTickCount();
         if (error == ERROR_SHARING_VIOLATION)
-            deniedSince = now;
-        else if (error != ERROR_ACCESS_DENIED || now - deniedSince >= kDeniedPatience)
+            denied = Patience(kPatience);
+        else if (error != ERROR_ACCESS_DENIED || denied.IsOver())
             return error;
-        if (now - start >= kPatience) return error;
+        if (patience.IsOver()) return error;
         Sleep(kPause);
     }
     return ERROR_SUCCESS;
@@ -66,7 +76,7 @@ public:
     WorkingCopy& operator=(const WorkingCopy&) = delete;
 
     /// Copies the original, if there is one, changes the copy and moves it over the original. An error code.
-    DWORD Replace(DWORD start, const SafeFile::Edit& edit) const;
+    DWORD Replace(const SafeFile::Edit& edit) const;
 
 private:
     void Remove() const {
@@ -76,23 +86,24 @@ private:
 
     const std::wstring& original_;
     std::wstring path_;
+    Patience patience_{kPatience};
 };
 
-DWORD WorkingCopy::Replace(DWORD start, const SafeFile::Edit& edit) const {
+DWORD WorkingCopy::Replace(const SafeFile::Edit& edit) const {
     const DWORD attributes = GetFileAttributesW(original_.c_str());
     const bool isNew = attributes == INVALID_FILE_ATTRIBUTES;
     const auto copy = [&] { return CopyFileW(original_.c_str(), path_.c_str(), FALSE) != 0; };
-    if (const DWORD error = isNew ? ERROR_SUCCESS : Persist(start, copy)) return error;
+    if (const DWORD error = isNew ? ERROR_SUCCESS : Persist(patience_, copy)) return error;
     // A hidden copy could not be opened by every kind of writing.
     SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (const DWORD error = Persist(start, [&] { return edit(path_); })) return error;
+    if (const DWORD error = Persist(patience_, [&] { return edit(path_); })) return error;
     if (SafeFile::Read(path_) == SafeFile::Read(original_)) return ERROR_SUCCESS;
     FlushToDisk(path_);
     if (!isNew) {
         KeepPermissions(original_, path_);
         SetFileAttributesW(path_.c_str(), attributes);
     }
-    return Persist(start, [&] {
+    return Persist(patience_, [&] {
         return MoveFileExW(path_.c_str(), original_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     });
 }
@@ -103,17 +114,16 @@ namespace SafeFile {
 
 bool Change(const std::wstring& path, const Edit& edit) {
     if (!MayBeWritten(path)) return false;
-    const DWORD start = GetTickCount();
     const std::wstring lockPath = path + L".lock";
     FileHandle lock;
-    const DWORD refused = Persist(start, [&] {
+    const DWORD refused = Persist(Patience(kLockPatience), [&] {
         lock.Reset(CreateFileW(lockPath.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
         return static_cast<bool>(lock);
     });
     if (refused != ERROR_SUCCESS && refused != ERROR_ACCESS_DENIED) return false;
     if (!lock) return edit(path);
-    const DWORD error = WorkingCopy(path).Replace(start, edit);
+    const DWORD error = WorkingCopy(path).Replace(edit);
     return error == ERROR_SUCCESS || (IsInTheWay(error) && edit(path));
 }
 

@@ -18,7 +18,7 @@ using Edit = std::function<bool(const std::wstring& path)>;
 ///
 /// Where no file may be created beside it, or somebody holds it open, `edit` is let at the file itself. False, with
 /// the file untouched, when it is read-only, a folder or in a missing folder, or when another writer does not finish.
-/// Waits for others no longer than 400 milliseconds.
+/// Waits for other writers up to 240 milliseconds, and as long for whoever holds the file open.
 bool Change(const std::wstring& path, const Edit& edit);
 
 /// All bytes of a file; nothing when it cannot be opened or read.

@@ -26,7 +26,7 @@ int wmain(int count, wchar_t** arguments) {
     int refused = 0;
     for (unsigned long number = 0; wanted == 0 || number < wanted; ++number) {
         const std::wstring key = L"K" + std::to_wstring(wanted == 0 ? number % kFewKeys : number);
-        const std::wstring value(number % 200 + 1, L'v');
+        const std::wstring value(number % 20 + 1, L'v');
         int tries = 0;
         while (tries < kTries && !Write(arguments[2], key, value, count > 4)) ++tries;
         if (tries == kTries) ++refused;

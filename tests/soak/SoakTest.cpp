@@ -44,9 +44,9 @@ struct Office {
         return bytes.starts_with(before) && bytes.ends_with("\r\n");
     }
     std::string Value(const std::string& section, const std::string& key) const {
-        std::string value(300, '\0');
+        std::string value(100, '\0');
         value.resize(
-            GetPrivateProfileStringA(section.c_str(), key.c_str(), "", value.data(), 300, ToAnsi(file.Path()).c_str()));
+            GetPrivateProfileStringA(section.c_str(), key.c_str(), "", value.data(), 100, ToAnsi(file.Path()).c_str()));
         return value;
     }
     bool IsAlone() const { return std::distance(fs::directory_iterator(file.Folder()), fs::directory_iterator()) == 1; }
@@ -90,7 +90,7 @@ Losses LostAmongWriters(const Office& office, unsigned long updates, bool isPlai
     for (const Process& writer : writers) losses.refused += writer.ExitCode().value_or(0);
     for (int number = 0; number < kWriters; ++number)
         for (unsigned long update = 0; update < updates; ++update)
-            if (office.Value("W" + std::to_string(number), "K" + std::to_string(update)).size() != update % 200 + 1)
+            if (office.Value("W" + std::to_string(number), "K" + std::to_string(update)).size() != update % 20 + 1)
                 ++losses.lost;
     losses.lost -= std::min(losses.lost, losses.refused);
     return losses;
