@@ -1,6 +1,7 @@
 #include "settings/Database.h"
 
 #include "settings/FileHealth.h"
+#include "settings/NameList.h"
 #include "settings/UserStore.h"
 #include "support/Text.h"
 
@@ -27,12 +28,6 @@ bool IsOneOf(Names sections, const std::wstring& name) {
     return std::ranges::any_of(sections, [&](const wchar_t* section) { return Text::EqualNoCase(section, name); });
 }
 
-/// The list "Sort" as it is stored, divided into the names that a cut read shows whole and those behind them.
-struct SortList {
-    std::vector<std::wstring> shown;
-    std::vector<std::wstring> unseen;
-};
-
 bool& LastReading() {
     static bool wasGood = true;
     return wasGood;
@@ -44,15 +39,9 @@ std::wstring ReadList(const wchar_t* key) {
     return IniLib::GetWholeValue(kGeneral, key);
 }
 
-SortList ReadSortList() {
-    const std::vector<std::wstring> all = Text::Split(ReadList(kSort), L';');
-    SortList list{Text::Split(IniLib::GetKeyValue(kGeneral, kSort), L';'), {}};
-    // Counted in names, not in bytes: the cut may have gone through a character of two bytes.
-    if (!list.shown.empty() && list.shown.size() <= all.size() && list.shown.back() != all[list.shown.size() - 1])
-        list.shown.pop_back();
-    if (list.shown.size() < all.size())
-        list.unseen.assign(all.begin() + static_cast<std::ptrdiff_t>(list.shown.size()), all.end());
-    return list;
+NameList::Divided ReadSortList() {
+    const std::wstring whole = ReadList(kSort);
+    return NameList::Divide(IniLib::GetKeyValue(kGeneral, kSort), whole);
 }
 
 } // namespace
@@ -67,7 +56,7 @@ namespace DatabaseList {
 std::vector<std::wstring> ReadSort() { return ReadSortList().shown; }
 
 std::vector<std::wstring> ReadWholeSort() {
-    SortList list = ReadSortList();
+    NameList::Divided list = ReadSortList();
     std::ranges::move(list.unseen, std::back_inserter(list.shown));
     return list.shown;
 }
@@ -76,19 +65,15 @@ bool WasRead() { return LastReading(); }
 
 void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names) {
     if (!WasRead()) change.Refuse();
-    std::vector<std::wstring> all = names;
-    for (std::wstring& name : ReadSortList().unseen)
-        if (std::ranges::find(names, name) == names.end()) all.push_back(std::move(name));
+    const NameList::Divided stored = ReadSortList();
     if (!WasRead()) change.Refuse();
-    change.WriteKeyValue(kGeneral, kSort, Text::Join(all, L';'));
+    change.WriteKeyValue(kGeneral, kSort, NameList::WithUnseen(names, stored.unseen));
 }
 
 void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
-    std::wstring sort = ReadList(kSort) + L';';
+    const std::wstring sort = ReadList(kSort);
     if (!WasRead()) change.Refuse();
-    sort = Text::Replace(sort, oldName + L';', newName + L';');
-    sort.pop_back();
-    change.WriteKeyValue(kGeneral, kSort, sort);
+    change.WriteKeyValue(kGeneral, kSort, NameList::RenamedByText(sort, oldName, newName));
 }
 
 bool IsLongerThanShown() { return !ReadSortList().unseen.empty(); }
@@ -101,18 +86,16 @@ std::vector<std::wstring> ReadQuickSwitch() {
 }
 
 void ReplaceInQuickSwitch(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
-    std::vector<std::wstring> names = Text::Split(ReadList(kQuickSwitch), L';');
+    const std::wstring buttons = ReadList(kQuickSwitch);
     if (!WasRead()) change.Refuse();
     // An empty name is a button without a database, not one to be renamed.
-    if (oldName.empty() || std::ranges::find(names, oldName) == names.end()) return;
-    if (newName.empty())
-        std::erase(names, oldName);
-    else
-        std::ranges::replace(names, oldName, newName);
-    change.WriteKeyValue(kGeneral, kQuickSwitch, Text::Join(names, L';'));
+    if (oldName.empty()) return;
+    const std::wstring renamed = NameList::Renamed(buttons, oldName, newName);
+    if (renamed != buttons) change.WriteKeyValue(kGeneral, kQuickSwitch, renamed);
 }
 
 void DeleteFileRecord(IniLib::Change& change, const std::wstring& name) {
+    if (name.empty()) return; // has no section
     if (!IsOneOf(kFileSections, name)) {
         change.DeleteSection(name);
         return;

@@ -48,7 +48,7 @@ std::vector<std::wstring> ReadWholeSort();
 /// change is refused when the list could not be read (WasRead).
 void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names);
 
-/// Renames a database in the list, by exact text replacement of the name and the separator behind it.
+/// Renames a database in the list, by exact text replacement (NameList::RenamedByText).
 void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName);
 
 /// False when the last reading of a list of names met a file that could not be trusted (FileHealth). What was returned

@@ -1,24 +1,9 @@
 #include "support/Text.h"
 
-#include "win32/Windows.h"
-
 #include <algorithm>
-#include <cmath>
 #include <cwchar>
 
 namespace {
-
-wchar_t Lower(wchar_t character) {
-    // CharLowerW with the character in the low word folds one character.
-    auto* folded = CharLowerW(reinterpret_cast<wchar_t*>(static_cast<ULONG_PTR>(character)));
-    return static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(folded));
-}
-
-std::wstring Lower(std::wstring_view text) {
-    std::wstring folded(text);
-    std::ranges::transform(folded, folded.begin(), [](wchar_t character) { return Lower(character); });
-    return folded;
-}
 
 std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
     if (path.ends_with(L'\\')) path.remove_suffix(1);
@@ -85,24 +70,6 @@ std::wstring Trim(std::wstring_view text) {
     return std::wstring(text.substr(first, text.find_last_not_of(L" \t") - first + 1));
 }
 
-bool EqualNoCase(std::wstring_view left, std::wstring_view right) {
-    return std::ranges::equal(
-        left, right, {}, [](wchar_t c) { return Lower(c); }, [](wchar_t c) { return Lower(c); });
-}
-
-bool ContainsNoCase(std::wstring_view text, std::wstring_view part) {
-    return !part.empty() && Lower(text).find(Lower(part)) != std::wstring::npos;
-}
-
-bool SamePath(std::wstring_view left, std::wstring_view right) {
-    return !left.empty() && !right.empty() && EqualNoCase(WithoutTrailingSlash(left), WithoutTrailingSlash(right));
-}
-
-bool ContainsFolder(std::wstring_view path, std::wstring_view folder) {
-    const std::wstring_view bare = WithoutTrailingSlash(folder);
-    return !bare.empty() && ContainsNoCase(path, std::wstring(bare) + L'\\');
-}
-
 std::optional<long> WholeNumber(std::wstring_view text) {
     const std::wstring trimmed = Trim(text);
     const size_t digits = !trimmed.empty() && trimmed[0] == L'-' ? 1 : 0;
@@ -124,12 +91,6 @@ std::optional<long> Measure(std::wstring_view text) {
     const bool roundsAway = !fraction.empty() && fraction[0] >= L'5';
     const bool negative = trimmed[0] == L'-';
     return roundsAway ? *whole + (negative ? -1 : 1) : *whole;
-}
-
-bool IsNumeric(std::wstring_view text) {
-    double ignored = 0;
-    std::wstring terminated(text);
-    return SUCCEEDED(VarR8FromStr(terminated.data(), LOCALE_USER_DEFAULT, 0, &ignored));
 }
 
 } // namespace Text

@@ -126,6 +126,25 @@ TEST_CASE_FIXTURE(Stores, "Renaming and removing on the buttons goes by whole na
     CHECK(DatabaseList::ReadQuickSwitch() == Names{L"A", L"", L"B", L"", L"", L"", L"", L""});
 }
 
+TEST_CASE_FIXTURE(Stores,
+                  "Renaming in the list is text replacement; an empty name renames only itself, and can be removed") {
+    struct Row {
+        const wchar_t* before;
+        const wchar_t* oldName;
+        const wchar_t* after;
+    };
+    constexpr Row rows[] = {{L"Sales;Admin;Staff", L"Staff", L"Sales;Admin;New"},
+                            {L"BigSales;Sales", L"Sales", L"BigNew;New"},
+                            {L"A;;B", L"", L"A;New;B"}};
+    for (const Row& row : rows) {
+        IniLib::WriteKeyValue(L"General", L"Sort", row.before);
+        CHECK(Commit([&](IniLib::Change& change) { DatabaseList::RenameInSort(change, row.oldName, L"New"); }));
+        CHECK(Sort() == row.after);
+    }
+    DeleteDatabase(L"");
+    CHECK(Sort() == L"A;New;B");
+}
+
 TEST_CASE_FIXTURE(Stores, "A record is read from the section of its name") {
     file.Bytes("[Sales]\r\nPath=C:\\s.dbf\r\nCLY=C:\\c.cly\r\nGLY=C:\\g.gly\r\nStartupMacro=C:\\m.mpr\r\n");
     const DatabaseRecord record = ExtractInfo(L"Sales");

@@ -1,0 +1,56 @@
+// What Text leaves to the platform: letter case and the numbers of the user's locale.
+
+#include "support/Text.h"
+
+#include "win32/Windows.h"
+
+#include <algorithm>
+
+namespace {
+
+wchar_t Lower(wchar_t character) {
+    // CharLowerW with the character in the low word folds one character.
+    auto* folded = CharLowerW(reinterpret_cast<wchar_t*>(static_cast<ULONG_PTR>(character)));
+    return static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(folded));
+}
+
+std::wstring Lower(std::wstring_view text) {
+    std::wstring folded(text);
+    std::ranges::transform(folded, folded.begin(), [](wchar_t character) { return Lower(character); });
+    return folded;
+}
+
+std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
+    if (path.ends_with(L'\\')) path.remove_suffix(1);
+    return path;
+}
+
+} // namespace
+
+namespace Text {
+
+bool EqualNoCase(std::wstring_view left, std::wstring_view right) {
+    return std::ranges::equal(
+        left, right, {}, [](wchar_t c) { return Lower(c); }, [](wchar_t c) { return Lower(c); });
+}
+
+bool ContainsNoCase(std::wstring_view text, std::wstring_view part) {
+    return !part.empty() && Lower(text).find(Lower(part)) != std::wstring::npos;
+}
+
+bool SamePath(std::wstring_view left, std::wstring_view right) {
+    return !left.empty() && !right.empty() && EqualNoCase(WithoutTrailingSlash(left), WithoutTrailingSlash(right));
+}
+
+bool ContainsFolder(std::wstring_view path, std::wstring_view folder) {
+    const std::wstring_view bare = WithoutTrailingSlash(folder);
+    return !bare.empty() && ContainsNoCase(path, std::wstring(bare) + L'\\');
+}
+
+bool IsNumeric(std::wstring_view text) {
+    double ignored = 0;
+    std::wstring terminated(text);
+    return SUCCEEDED(VarR8FromStr(terminated.data(), LOCALE_USER_DEFAULT, 0, &ignored));
+}
+
+} // namespace Text
