@@ -7,6 +7,7 @@
 #include "win32/AnsiText.h"
 #include "win32/Windows.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -64,15 +65,15 @@ void Change::DeleteSection(const std::wstring& section) { Add(section, {}, {}); 
 
 bool Change::Make(const std::wstring& path) const {
     const std::string file = ToAnsi(path);
-    for (const Step& step : steps_) {
-        const char* const section = step.section.c_str();
-        const char* const key = step.key ? step.key->c_str() : nullptr;
-        // The platform would rewrite the file for a key that is not there.
-        if (key && !step.value && !KeyExists(section, key, file.c_str())) continue;
-        if (!WritePrivateProfileStringA(section, key, step.value ? step.value->c_str() : nullptr, file.c_str()))
-            return false;
-    }
-    return true;
+    return std::ranges::all_of(steps_, [&](const Step& step) { return MakeStep(step, file.c_str()); });
+}
+
+bool Change::MakeStep(const Step& step, const char* file) {
+    const char* const section = step.section.c_str();
+    const char* const key = step.key ? step.key->c_str() : nullptr;
+    // The platform would rewrite the file for a key that is not there.
+    if (key && !step.value && !KeyExists(section, key, file)) return true;
+    return WritePrivateProfileStringA(section, key, step.value ? step.value->c_str() : nullptr, file) != 0;
 }
 
 bool Change::Commit() const {

@@ -70,6 +70,7 @@ private:
     };
     void Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value);
     bool Make(const std::wstring& path) const;
+    static bool MakeStep(const Step& step, const char* file);
 
     std::wstring fileName_;
     std::vector<Step> steps_;

@@ -2,6 +2,8 @@
 
 #include "win32/Owner.h"
 
+#include <shlobj.h>
+
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -110,6 +112,12 @@ std::wstring UserSection(const std::wstring& section) {
         text += key + L'=' + User(section, key).value_or(L"(no text)") + L';';
     }
     return values.empty() ? L"(none)" : text;
+}
+
+void DeleteBackups() {
+    std::array<wchar_t, MAX_PATH> local{};
+    if (SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, local.data()) == S_OK)
+        std::filesystem::remove_all(std::filesystem::path(local.data()) / L"Kelmorra" / L"Backup");
 }
 
 std::string FileBytes(const std::wstring& path) {
