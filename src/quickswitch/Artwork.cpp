@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 
 namespace Artwork {
 
@@ -90,7 +91,8 @@ struct Sum {
 };
 
 /// Draws one tile into a rectangle of a picture.
-void DrawTile(Picture& picture, int left, int top, int width, int height, int shape, Rgb fill, bool hasRim) {
+void DrawTile(Picture& picture, int left, int top, int width, int height, int shape, Rgb fill,
+              std::optional<Rgb> rimColor) {
     const double rim = std::max(1.5, std::min(width, height) / 24.0);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
@@ -98,8 +100,8 @@ void DrawTile(Picture& picture, int left, int top, int width, int height, int sh
             Rgb& pixel = picture.At(left + x, top + y);
             for (int sample = 0; sample < kSamples * kSamples; ++sample) {
                 const double depth = Depth(shape, width, height, x, y, sample);
-                const bool isRim = hasRim && depth < rim;
-                sum.Add(depth < 0 ? pixel : (isRim ? kRim : fill));
+                const bool isRim = rimColor && depth < rim;
+                sum.Add(depth < 0 ? pixel : (isRim ? *rimColor : fill));
             }
             pixel = sum.Mean();
         }
@@ -125,7 +127,14 @@ Picture ButtonImage(int scheme, int image, int width, int height, Rgb background
     const int shape = image - 1 - (isHighlighted ? ShapeCount : 0);
     const Paint& paint = kPaint.at(static_cast<std::size_t>(scheme)).at(static_cast<std::size_t>(shape));
     Picture picture = Blank(width, height, background);
-    DrawTile(picture, 0, 0, width, height, shape, isHighlighted ? paint.Highlighted : paint.Normal, isHighlighted);
+    DrawTile(picture, 0, 0, width, height, shape, isHighlighted ? paint.Highlighted : paint.Normal,
+             isHighlighted ? std::optional(kRim) : std::nullopt);
+    return picture;
+}
+
+Picture PlainImage(int image, int width, int height, Rgb background, Rgb fill, Rgb rim) {
+    Picture picture = Blank(width, height, background);
+    DrawTile(picture, 0, 0, width, height, (image - 1) % ShapeCount, fill, rim);
     return picture;
 }
 
@@ -155,7 +164,7 @@ Picture SchemeSample(int scheme, int width, int height, Rgb background) {
     for (int shape = 0; shape < ShapeCount; ++shape) {
         const int place = kPlaces.at(static_cast<std::size_t>(shape));
         DrawTile(picture, place % 2 * (tileWidth + gap), place / 2 * (tileHeight + gap), tileWidth, tileHeight, shape,
-                 kPaint.at(static_cast<std::size_t>(scheme)).at(static_cast<std::size_t>(shape)).Normal, false);
+                 kPaint.at(static_cast<std::size_t>(scheme)).at(static_cast<std::size_t>(shape)).Normal, std::nullopt);
     }
     return picture;
 }

@@ -31,6 +31,9 @@ struct Picture {
 /// pixels; `background` shows around the shape. Throws std::out_of_range for another scheme or image.
 Picture ButtonImage(int scheme, int image, int width, int height, Rgb background);
 
+/// The same shape in two given colours, for those who need them plain: filled and with a rim.
+Picture PlainImage(int image, int width, int height, Rgb background, Rgb fill, Rgb rim);
+
 /// Draws a thin line in a button's image, along its outline and inside it: the button has the keyboard's focus.
 void AddFocus(Picture& picture, int image, Rgb color);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/MainWindow.h"
+#include "quickswitch/Artwork.h"
 #include "quickswitch/Tracker.h"
 #include "ui/Button.h"
 #include "ui/Form.h"
@@ -60,6 +61,7 @@ private:
     void Tracker_Click(int button);
     void MouseAction(PictureBox& picture, int action, int button);
     void DrawButton(int button, HDC canvas, const RECT& area, bool isFocused);
+    Artwork::Rgb CaptionColor(int button) const;
     void Write_Picture(int button, HDC canvas, const RECT& area) const;
     bool KeyDown(int button, int key);
     void ShowControlMenu(POINT position);

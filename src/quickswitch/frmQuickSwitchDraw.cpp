@@ -4,6 +4,7 @@
 
 #include "quickswitch/Drawing.h"
 #include "support/ErrorReport.h"
+#include "ui/Contrast.h"
 #include "win32/Owner.h"
 
 namespace {
@@ -54,11 +55,21 @@ std::function<bool(int)> frmQuickSwitch::KeyHandler(int button) {
 void frmQuickSwitch::DrawButton(int button, HDC canvas, const RECT& area, bool isFocused) {
     const bool isHighlighted = isHighlighted_.at(static_cast<size_t>(button) - 1);
     const int image = Artwork::ImageOfButton(button) + (isHighlighted ? Artwork::ShapeCount : 0);
+    const Artwork::Rgb face = SystemColor(COLOR_BTNFACE);
     Artwork::Picture picture =
-        Artwork::ButtonImage(Scheme_, image, area.right, area.bottom, SystemColor(COLOR_BTNFACE));
-    if (isFocused) Artwork::AddFocus(picture, image, Artwork::TextColor(Scheme_, button - 1));
+        Contrast::IsHigh()
+            ? Artwork::PlainImage(image, area.right, area.bottom, face,
+                                  isHighlighted ? SystemColor(COLOR_HIGHLIGHT) : face, SystemColor(COLOR_BTNTEXT))
+            : Artwork::ButtonImage(Scheme_, image, area.right, area.bottom, face);
+    if (isFocused) Artwork::AddFocus(picture, image, CaptionColor(button));
     PutPicture(canvas, {area.left, area.top}, picture);
     Write_Picture(button, canvas, area);
+}
+
+Artwork::Rgb frmQuickSwitch::CaptionColor(int button) const {
+    const Artwork::Rgb color = Artwork::TextColor(Scheme_, button - 1);
+    if (!Contrast::IsHigh()) return color;
+    return SystemColor(isHighlighted_.at(static_cast<size_t>(button) - 1) ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT);
 }
 
 void frmQuickSwitch::Write_Picture(int button, HDC canvas, const RECT& area) const try {
@@ -66,7 +77,7 @@ void frmQuickSwitch::Write_Picture(int button, HDC canvas, const RECT& area) con
     if (caption.empty()) return;
     const FontHandle font = CaptionFont(Dpi());
     const HGDIOBJ before = SelectObject(canvas, font.Get());
-    SetTextColor(canvas, ToColorRef(Artwork::TextColor(Scheme_, button - 1)));
+    SetTextColor(canvas, ToColorRef(CaptionColor(button)));
     SetBkMode(canvas, TRANSPARENT);
     SIZE extent{};
     GetTextExtentPoint32W(canvas, caption.c_str(), static_cast<int>(caption.size()), &extent);

@@ -1,6 +1,7 @@
 #include "ui/ListView.h"
 
 #include "ui/Accessible.h"
+#include "ui/Contrast.h"
 #include "ui/Form.h"
 
 #include <algorithm>
@@ -263,7 +264,10 @@ LRESULT ListView::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
     if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
     if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
     const auto row = static_cast<size_t>(draw.nmcd.lItemlParam);
-    if (row < rows_.size() && rows_[row].Color != CLR_DEFAULT) draw.clrText = rows_[row].Color;
+    if (row < rows_.size() && rows_[row].Color != CLR_DEFAULT)
+        draw.clrText = Contrast::IsHigh() ? Contrast::Readable(rows_[row].Color, GetSysColor(COLOR_WINDOW),
+                                                               GetSysColor(COLOR_HIGHLIGHT))
+                                          : rows_[row].Color;
     return CDRF_NEWFONT;
 }
 

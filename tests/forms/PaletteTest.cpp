@@ -9,6 +9,7 @@
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"
+#include "ui/Contrast.h"
 
 namespace {
 
@@ -153,6 +154,12 @@ TEST_CASE("Keys move the focus and press buttons") {
         SendMessageW(FocusIn(window), WM_KEYDOWN, '2', 1);
     });
     CHECK(main.Opened == L"B/0/hidden;");
+}
+
+TEST_CASE("Red stays red where it can be read on the window's colour") {
+    CHECK(Contrast::Ratio(RGB(255, 0, 0), RGB(255, 255, 255)) == doctest::Approx(4.0).epsilon(0.01));
+    CHECK(Contrast::Readable(RGB(255, 0, 0), RGB(255, 255, 255), RGB(1, 2, 3)) == RGB(1, 2, 3));
+    CHECK(Contrast::Readable(RGB(255, 0, 0), RGB(0, 0, 0), RGB(1, 2, 3)) == RGB(255, 0, 0));
 }
 
 TEST_CASE("A scheme that is none is reported, and the palette still comes up") {

@@ -85,3 +85,15 @@ TEST_CASE("Schemes and images that do not exist are refused") {
     CHECK_THROWS_AS(Artwork::TextColor(0, 8), std::out_of_range);
     CHECK_THROWS_AS(Artwork::TextColor(-1, 0), std::out_of_range);
 }
+
+TEST_CASE("The plain image has the given colours inside and along the outline, and the focus line lies between") {
+    constexpr Artwork::Rgb kFace{10, 20, 30}, kFill{40, 50, 60}, kRim{70, 80, 90}, kFocus{200, 0, 0};
+    constexpr int kSide = 72;
+    for (int image = 1; image <= 2 * Artwork::ShapeCount; ++image) {
+        Artwork::Picture picture = Artwork::PlainImage(image, kSide, kSide, kFace, kFill, kRim);
+        Artwork::AddFocus(picture, image, kFocus);
+        CHECK(picture.At(kSide / 2, kSide / 2).Red == kFill.Red);
+        CHECK(picture.At(kSide / 2, 1).Red == kRim.Red);
+        CHECK(picture.At(kSide / 2, 5).Red > kRim.Red);
+    }
+}
