@@ -11,6 +11,7 @@
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Shell.h"
+#include "support/Text.h"
 #include "support/Vendor.h"
 
 #include <algorithm>
@@ -176,14 +177,14 @@ void frmMain::SetMenuCaptions() {
 }
 
 void frmMain::SaveLayout() {
-    if (listLoaded_) UserStore::Set(L"Display", L"Selected", std::to_wstring(ListView1.Selected()));
+    if (listLoaded_) UserStore::Set(L"Display", L"Selected", Text::FromNumber(ListView1.Selected()));
     for (int column = 0; columnsLoaded_ && column < ListView1.ColumnCount(); ++column)
-        UserStore::Set(L"Settings", L"Column" + std::to_wstring(column),
-                       std::to_wstring(ListView1.ColumnWidth(column)));
+        UserStore::Set(L"Settings", L"Column" + Text::FromNumber(column),
+                       Text::FromNumber(ListView1.ColumnWidth(column)));
     if (!sizeLoaded_) return;
     const Twips size = OuterSize();
-    UserStore::Set(L"Settings", L"Height", std::to_wstring(size.Height));
-    UserStore::Set(L"Settings", L"Width", std::to_wstring(size.Width));
+    UserStore::Set(L"Settings", L"Height", Text::FromNumber(size.Height));
+    UserStore::Set(L"Settings", L"Width", Text::FromNumber(size.Width));
 }
 
 void frmMain::Form_Unload() {

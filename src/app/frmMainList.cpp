@@ -63,7 +63,7 @@ void frmMain::ReloadList() {
     ListView1.Select(static_cast<int>(Text::WholeNumber(UserStore::Get(L"Display", L"Selected")).value_or(-1)));
 }
 
-void frmMain::SelectedIndex(int index) { UserStore::Set(L"Display", L"Selected", std::to_wstring(index)); }
+void frmMain::SelectedIndex(int index) { UserStore::Set(L"Display", L"Selected", Text::FromNumber(index)); }
 
 void frmMain::ReplaceRow(const std::wstring& name) {
     const int row = ListView1.Selected();

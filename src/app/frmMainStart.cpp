@@ -183,7 +183,7 @@ void frmMain::RestoreColumns() {
     while (ListView1.ColumnCount() < kColumnCount) ListView1.AddColumn({}, kDesignColumn);
     SetColumnTitles();
     for (int column = 0; column < kColumnCount; ++column) {
-        const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + std::to_wstring(column)));
+        const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + Text::FromNumber(column)));
         if (width && *width >= 0 && *width <= kWidestColumn) {
             ListView1.ColumnWidth(column, static_cast<int>(*width));
         } else if (!columnsLoaded_) {

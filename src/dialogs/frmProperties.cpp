@@ -94,7 +94,7 @@ void frmProperties::LoadModel() {
     const std::vector<std::wstring> names = DatabaseList::ReadSort();
     std::wstring name;
     for (int number = 2; name.empty() || std::ranges::find(names, name) != names.end(); ++number)
-        name = model_ + L" (" + std::to_wstring(number) + L')';
+        name = model_ + L" (" + Text::FromNumber(number) + L')';
     txtName.Text(name);
     txtName.SelectAll();
 }

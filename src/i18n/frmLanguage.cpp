@@ -38,7 +38,7 @@ void frmLanguage::Form_Load() try {
 }
 
 void frmLanguage::cmdOK_Click() {
-    UserStore::Set(L"Options", L"Language", std::to_wstring(cmbLanguage.ListIndex()));
+    UserStore::Set(L"Options", L"Language", Text::FromNumber(cmbLanguage.ListIndex()));
     Unload();
 }
 

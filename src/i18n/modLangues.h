@@ -8,7 +8,7 @@
 /// The texts of the language in use, by index (1 to 152); empty until a language is set.
 class LangTexts {
 public:
-    /// Throws std::out_of_range for any other index.
+    /// Error 9 for any other index.
     const std::wstring& operator[](int index) const { return texts_.at(static_cast<std::size_t>(index) - 1); }
     /// Takes all texts from one column of the table.
     void Fill(const wchar_t* LangTextRow::*column);

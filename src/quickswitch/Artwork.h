@@ -28,7 +28,7 @@ struct Picture {
 };
 
 /// A button image. `image` counts from 1: 1 to 4 are the normal shapes, 5 to 8 the same highlighted. Sizes are in
-/// pixels; `background` shows around the shape. Throws std::out_of_range for another scheme or image.
+/// pixels; `background` shows around the shape. Error 9 for another scheme or image.
 Picture ButtonImage(int scheme, int image, int width, int height, Rgb background);
 
 /// The same shape in two given colours, for those who need them plain: filled and with a rim.
@@ -40,7 +40,7 @@ void AddFocus(Picture& picture, int image, Rgb color);
 /// Four small tiles in a scheme's colours, as the settings dialog shows it.
 Picture SchemeSample(int scheme, int width, int height, Rgb background);
 
-/// The text colour of a button (0 to 7) in a scheme (0 to 4). Throws std::out_of_range for others.
+/// The text colour of a button (0 to 7) in a scheme (0 to 4). Error 9 for others.
 Rgb TextColor(int scheme, int button);
 
 /// The normal image (1 to 4) of a button (1 to 8).

@@ -70,7 +70,7 @@ void frmAssign::DrawPosition(HDC canvas, const RECT& area, bool) {
                    Artwork::ButtonImage(1, Artwork::ImageOfButton(button), tile, tile, SystemColor(COLOR_BTNFACE)));
         SetTextColor(canvas, ToColorRef(Artwork::TextColor(1, button - 1)));
         RECT number{left, top, left + tile, top + tile};
-        DrawTextW(canvas, std::to_wstring(button).c_str(), 1, &number, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        DrawTextW(canvas, Text::FromNumber(button).c_str(), 1, &number, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     }
 }
 
@@ -100,13 +100,13 @@ void frmAssign::SetCaptions() {
     lblLayout.Text(LangText[138] + L":");
     fraColors.Text(LangText[146] + L":");
     for (size_t scheme = 0; scheme < Artwork::SchemeCount; ++scheme)
-        optColor[scheme].Text(LangText[139] + L" " + std::to_wstring(scheme + 1)); // for screen readers
+        optColor[scheme].Text(LangText[139] + L" " + Text::FromNumber(scheme + 1)); // for screen readers
     cmdOK.Text(LangText[1]);
     cmdCancel.Text(LangText[2]);
 }
 
 void frmAssign::SetButtonCaption(size_t index) {
-    const std::wstring button = LangText[141] + L" " + std::to_wstring(index + 1);
+    const std::wstring button = LangText[141] + L" " + Text::FromNumber(index + 1);
     lblDB[index].Text(button + L":");
     cboDB[index].AccessibleName(button);
 }
@@ -139,7 +139,7 @@ void frmAssign::cmdOK_Click() try {
     if (!areListsRead_) change.Refuse(); // the lists were filled from nothing
     change.WriteKeyValue(L"General", L"QuickSwitch", Text::Join(names, L';'));
     change.WriteKeyValue(L"General", L"QuickSwitchStartup", chkStartup.Value() ? L"1" : L"0");
-    change.WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
+    change.WriteKeyValue(L"General", L"QuickSwitchScheme", Text::FromNumber(scheme));
     change.Commit();
     Unload();
 } catch (...) {

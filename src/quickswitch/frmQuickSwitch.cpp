@@ -116,8 +116,8 @@ void frmQuickSwitch::RestorePosition() {
 
 void frmQuickSwitch::Save_Position() const try {
     const Twips position = Position();
-    UserStore::Set(L"Settings", L"QuickLeft", std::to_wstring(position.Left));
-    UserStore::Set(L"Settings", L"QuickTop", std::to_wstring(position.Top));
+    UserStore::Set(L"Settings", L"QuickLeft", Text::FromNumber(position.Left));
+    UserStore::Set(L"Settings", L"QuickTop", Text::FromNumber(position.Top));
 } catch (...) {
     ErrorReport(L"frmQuickSwitch: Sub Save_Position");
 }
@@ -143,7 +143,7 @@ void frmQuickSwitch::Tracker_Click(int button) try {
     mainWindow_.Open_DB(name, kContactView, true);
     Unload();
 } catch (...) {
-    ErrorReport((L"frmQuickSwitch: Sub Tracker" + std::to_wstring(button) + L"_Click").c_str());
+    ErrorReport((L"frmQuickSwitch: Sub Tracker" + Text::FromNumber(button) + L"_Click").c_str());
 }
 
 void frmQuickSwitch::mnuAssign_Click() try {

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cwchar>
 #include <vector>
 
 namespace {
@@ -34,7 +33,7 @@ std::wstring Prefix(std::wstring path) {
     std::uint32_t number = 2166136261U;
     for (const wchar_t character : path) number = (number ^ static_cast<std::uint16_t>(character)) * 16777619U;
     std::array<wchar_t, 32> text{};
-    std::swprintf(text.data(), text.size(), L"Kelmorra-%08lX-", static_cast<unsigned long>(number));
+    wsprintfW(text.data(), L"Kelmorra-%08lX-", static_cast<unsigned long>(number));
     return text.data();
 }
 
@@ -42,8 +41,8 @@ std::wstring TimeStamp() {
     SYSTEMTIME now{};
     GetSystemTime(&now);
     std::array<wchar_t, 32> text{};
-    std::swprintf(text.data(), text.size(), L"%04u%02u%02u-%02u%02u%02u", now.wYear, now.wMonth, now.wDay, now.wHour,
-                  now.wMinute, now.wSecond);
+    wsprintfW(text.data(), L"%04u%02u%02u-%02u%02u%02u", now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute,
+              now.wSecond);
     return text.data();
 }
 

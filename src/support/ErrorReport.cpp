@@ -2,9 +2,9 @@
 
 #include "support/Application.h"
 #include "support/MsgBox.h"
+#include "support/Text.h"
 
 #include <new>
-#include <stdexcept>
 
 namespace {
 
@@ -17,9 +17,9 @@ Error Foreign(long number, const wchar_t* description) { return {number, descrip
 void SetSupportSentence(std::wstring (*sentence)()) { supportSentence = sentence; }
 
 std::wstring ErrorText(const Error& error, const std::wstring& procedure) {
-    std::wstring text = L"Error " + std::to_wstring(error.Number) + L": '" + error.Description + L"'\rin ";
+    std::wstring text = L"Error " + Text::FromNumber(error.Number) + L": '" + error.Description + L"'\rin ";
     text += error.Procedure.empty() ? procedure : error.Procedure;
-    text += L" - Line # " + std::to_wstring(error.At.line()) + L"\r\r";
+    text += L" - Line # " + Text::FromNumber(error.At.line()) + L"\r\r";
     if (supportSentence) text += supportSentence();
     return text;
 }
@@ -31,8 +31,6 @@ Error CurrentError() noexcept {
         return error;
     } catch (const std::bad_alloc&) {
         return Foreign(BasicError::OutOfMemory, L"Out of memory");
-    } catch (const std::out_of_range&) {
-        return Foreign(BasicError::OutOfRange, L"Subscript out of range");
     } catch (...) {
         return Foreign(BasicError::InvalidCall, L"Invalid procedure call or argument");
     }

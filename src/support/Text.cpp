@@ -93,4 +93,15 @@ std::optional<long> Measure(std::wstring_view text) {
     return roundsAway ? *whole + (negative ? -1 : 1) : *whole;
 }
 
+std::wstring FromNumber(long number) {
+    constexpr unsigned long kTen = 10;
+    std::wstring digits;
+    unsigned long rest = number < 0 ? 0UL - static_cast<unsigned long>(number) : static_cast<unsigned long>(number);
+    do {
+        digits.insert(digits.begin(), static_cast<wchar_t>(L'0' + rest % kTen));
+        rest /= kTen;
+    } while (rest != 0);
+    return number < 0 ? L'-' + digits : digits;
+}
+
 } // namespace Text

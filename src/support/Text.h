@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -47,6 +48,13 @@ std::optional<long> WholeNumber(std::wstring_view text);
 
 /// A stored measure: digits with "." or "," as decimal sign, rounded to a whole number; nothing for anything else.
 std::optional<long> Measure(std::wstring_view text);
+
+/// A whole number as decimal digits.
+std::wstring FromNumber(long number);
+template <std::integral Number>
+std::wstring FromNumber(Number number) {
+    return FromNumber(static_cast<long>(number));
+}
 
 /// True when the platform's number parser accepts the text in the user's locale (VarR8FromStr).
 bool IsNumeric(std::wstring_view text);

@@ -1,5 +1,7 @@
 #include "quickswitch/Artwork.h"
 
+#include "support/Error.h"
+
 #include <doctest/doctest.h>
 
 #include <algorithm>
@@ -80,10 +82,10 @@ TEST_CASE("A highlighted button differs at a glance, and the four shapes differ 
 }
 
 TEST_CASE("Schemes and images that do not exist are refused") {
-    CHECK_THROWS_AS(Artwork::ButtonImage(5, 1, 8, 8, kFace), std::out_of_range);
-    CHECK_THROWS_AS(Artwork::ButtonImage(0, 9, 8, 8, kFace), std::out_of_range);
-    CHECK_THROWS_AS(Artwork::TextColor(0, 8), std::out_of_range);
-    CHECK_THROWS_AS(Artwork::TextColor(-1, 0), std::out_of_range);
+    CHECK_THROWS_AS(Artwork::ButtonImage(5, 1, 8, 8, kFace), Error);
+    CHECK_THROWS_AS(Artwork::ButtonImage(0, 9, 8, 8, kFace), Error);
+    CHECK_THROWS_AS(Artwork::TextColor(0, 8), Error);
+    CHECK_THROWS_AS(Artwork::TextColor(-1, 0), Error);
 }
 
 TEST_CASE("The plain image has the given colours inside and along the outline, and the focus line lies between") {
