@@ -10,10 +10,13 @@
 #include "i18n/modLangues.h"
 #include "integration/frmIntegrateNew.h"
 #include "program/Program.h"
+#include "settings/modFolderFileExists.h"
 #include "support/Application.h"
 #include "support/MsgBox.h"
 #include "support/Shell.h"
 #include "support/Vendor.h"
+
+#include <array>
 
 void frmMain::cmdOpen_Click() { Open_DB(SelectedName(), CheckedView(), false); }
 void frmMain::mnuFileOpen_Click() { cmdOpen_Click(); }
@@ -30,7 +33,14 @@ void frmMain::lblView_Click(int index) {
 void frmMain::optView_Click(int) { ListView1.SetFocus(); }
 
 void frmMain::lblLink_Click() { OpenWithShell(Vendor::Site); }
-void frmMain::mnuManual_Click() { OpenWithShell(Application::FileInFolder(L"Kelmorra_manual.pdf")); }
+
+void frmMain::mnuManual_Click() {
+    // In the order of the languages' numbers. An installation may have left out those that it does not need.
+    constexpr std::array kManuals{L"Kelmorra_manual.pdf", L"Kelmorra_manual_fr.pdf", L"Kelmorra_manual_de.pdf"};
+    const std::wstring own = Application::FileInFolder(kManuals.at(static_cast<size_t>(CurrentLanguage)));
+    OpenWithShell(modFolderFileExists::FileExists(own) ? own : Application::FileInFolder(kManuals.front()));
+}
+
 void frmMain::mnuOnline_Click() { OpenWithShell(Vendor::Tutorials + LangText[63] + L".htm"); }
 
 void frmMain::mnuEditProperties_Click() {

@@ -1,4 +1,4 @@
-// Leaves a file beside itself that tells how it was started: its current folder, and "+" when it got arguments.
+// Leaves a file beside itself that tells how it was started: its current folder, and behind a "+" its first argument.
 
 #include "win32/Owner.h"
 
@@ -8,7 +8,7 @@
 int wmain(int count, wchar_t** arguments) {
     std::array<wchar_t, MAX_PATH> folder{};
     GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data());
-    const std::wstring text = folder.data() + std::wstring(count > 1 ? L"+" : L"");
+    const std::wstring text = folder.data() + (count > 1 ? std::wstring(L"+") + arguments[1] : std::wstring());
     const std::wstring mark = std::wstring(arguments[0]) + L".mark";
     {
         const FileHandle file(CreateFileW((mark + L".new").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
