@@ -28,6 +28,7 @@ void FillDesk(ActDesk& desk) {
                                 {L"Document", L"C:\\Data\\Letters"}});
     desk.AddDatabase(L"Service", {{L"Path", L"C:\\Data\\Service.dbf"}, {L"CLY", L"D:\\Layouts\\Service.cly"}});
     desk.AddDatabase(L"Staff", {{L"Path", L"C:\\Data\\Staff.dbf"}, {L"UseLocationsFrom", L"Sales"}});
+    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"Sales;Service;Staff");
     UserStore::Set(L"Sales", L"Username", L"Chris Huffman");
     UserStore::Set(L"Display", L"Selected", L"0");
 }
