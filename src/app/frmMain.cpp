@@ -206,7 +206,7 @@ void frmMain::Form_Unload() {
 
 std::wstring frmMain::CloseActForRestart() const {
     constexpr short kCloseAct = 150; // ACT!'s own number
-    const std::wstring database = Program().Application.GetOpenDBName();
+    std::wstring database = Program().Application.GetOpenDBName();
     Program().Application.Command(kCloseAct);
     return database;
 }
