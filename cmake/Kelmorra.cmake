@@ -7,15 +7,17 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # The oldest Windows served is XP. Newer functions are looked up at run time.
 add_compile_definitions(UNICODE _UNICODE WINVER=0x0501 _WIN32_WINNT=0x0501 _WIN32_IE=0x0600)
 add_compile_options(
-  $<$<COMPILE_LANGUAGE:CXX>:-Os> $<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>
+  $<$<COMPILE_LANGUAGE:CXX>:-Oz> $<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>
   $<$<COMPILE_LANGUAGE:CXX>:-Wall> $<$<COMPILE_LANGUAGE:CXX>:-Wextra> $<$<COMPILE_LANGUAGE:CXX>:-Wpedantic>
   $<$<COMPILE_LANGUAGE:CXX>:-Wconversion> $<$<COMPILE_LANGUAGE:CXX>:-Wshadow> $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast> $<$<COMPILE_LANGUAGE:CXX>:-Wimplicit-fallthrough>
   $<$<COMPILE_LANGUAGE:CXX>:-Wduplicated-cond> $<$<COMPILE_LANGUAGE:CXX>:-Wnull-dereference>
   $<$<COMPILE_LANGUAGE:CXX>:-Werror>)
+# No dynamic_cast or typeid, and statics are first used by the one thread of windows.
+add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fno-rtti> $<$<COMPILE_LANGUAGE:CXX>:-fno-threadsafe-statics>)
 # GetProcAddress results are cast to their real function types.
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type>)
-# Paths in diagnostics and in source_location start at the project folder.
+# Paths in diagnostics start at the project folder.
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
 add_link_options(-static -s -Wl,--gc-sections -Wl,--no-insert-timestamp)
 

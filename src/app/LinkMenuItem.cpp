@@ -27,7 +27,7 @@ private:
 };
 
 std::string LinkLine() {
-    return ToAnsi(L"]" + std::wstring(Vendor::Site) + L" " + Text::Replace(LangText[12], L"&", L"") + L"\r\n");
+    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", Text::Replace(LangText[12], L"&", L""), L"\r\n"}));
 }
 
 } // namespace

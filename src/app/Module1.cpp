@@ -13,7 +13,7 @@ bool Create_object() try {
     program.Preferences = program.Application.Preferences();
     return true;
 } catch (...) {
-    ErrorReport(L"Module1: Sub Create_object");
+    ErrorReport("Module1: Sub Create_object");
     return false;
 }
 

@@ -73,7 +73,7 @@ void frmMain::Form_Load() try {
     else
         Unload();
 } catch (...) {
-    ErrorReport(L"frmMain: Sub Form_Load");
+    ErrorReport("frmMain: Sub Form_Load");
     Unload();
 }
 
@@ -194,7 +194,7 @@ void frmMain::Form_Unload() {
         if (Program().RestartAct) database = CloseActForRestart();
     } catch (...) {
         Program().RestartAct = false;
-        ErrorReport(L"frmMain: Sub Form_Unload");
+        ErrorReport("frmMain: Sub Form_Unload");
     }
     Module1::Release_object();
     ActEvent1.Close();

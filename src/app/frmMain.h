@@ -195,7 +195,7 @@ private:
     PathCheck pathCheck_;
     long checkNumber_ = 0;            ///< of the last check of the rows' files
     std::vector<std::wstring> paths_; ///< of the database files, by row
-    std::vector<bool> isMissing_;     ///< by row
+    std::vector<char> isMissing_;     ///< by row
     bool isFinding_ = false;
     int ticks_ = 0; ///< of Timer1
     int sortColumn_ = -1;

@@ -69,20 +69,20 @@ void frmMain::CheckFiles() {
     ListView1.AccessibleName(LangText[90]);
     ListView1.TellNotes();
     for (int row = 0; row < ListView1.RowCount(); ++row) ListView1.Fade(row, false);
-    isMissing_.assign(paths_.size(), false);
+    isMissing_.assign(paths_.size(), 0);
     checkNumber_ = pathCheck_.Start(Handle(), paths_);
 }
 
 void frmMain::FileIsMissing(int row, long number) {
     if (number != checkNumber_ || row >= ListView1.RowCount() || paths_[static_cast<size_t>(row)].empty()) return;
-    isMissing_.at(static_cast<size_t>(row)) = true;
+    isMissing_.at(static_cast<size_t>(row)) = 1;
     ListView1.Fade(row, true);
 }
 
 std::wstring frmMain::ListView1_Tip(int row) {
     constexpr int kPathColumn = 4;
     const DatabaseRecord record = ExtractInfo(ListView1.Cell(row, 0));
-    const bool isMissing = static_cast<size_t>(row) < isMissing_.size() && isMissing_[static_cast<size_t>(row)];
+    const bool isMissing = static_cast<size_t>(row) < isMissing_.size() && isMissing_[static_cast<size_t>(row)] != 0;
     std::wstring tip = isMissing ? Translated(MoreText::FileMissing) + L"\r\n" + record.Path : std::wstring();
     const auto add = [&](int column, const std::wstring& whole) {
         if (whole.empty() || (whole == ListView1.Cell(row, column) && !ListView1.IsCut(row, column))) return;

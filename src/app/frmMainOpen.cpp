@@ -34,7 +34,7 @@ void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden)
         if (OpenInAct(name, viewCode, mainHidden)) Unload();
     } catch (...) {
         if (!Program().ActIsClosing) Show();
-        ErrorReport(L"frmMain: Sub cmdOpen_Click");
+        ErrorReport("frmMain: Sub cmdOpen_Click");
     }
     EndIfInvisible();
 }

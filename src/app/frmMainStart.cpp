@@ -145,7 +145,7 @@ void frmMain::FinishStart() {
         } catch (...) {
             // The window stays usable, so that for example the settings file's place can be mended. What fails
             // further on has the same cause and is not reported again.
-            if (!isReported) ErrorReport(L"frmMain: Sub Form_Load");
+            if (!isReported) ErrorReport("frmMain: Sub Form_Load");
             isReported = true;
         }
     }

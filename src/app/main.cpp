@@ -38,7 +38,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
         mainWindow.Load();
         return Form::RunMessageLoop();
     } catch (...) {
-        ErrorReport(L"frmMain: Sub Form_Load");
+        ErrorReport("frmMain: Sub Form_Load");
         return 1;
     }
 }

@@ -78,7 +78,7 @@ void StartACT_mode(MainWindow& mainWindow, const clsToolbarIcon& toolbarIcon) tr
     WriteLogonValues(name);
     OpenWithShell(Application::FileInFolder(L"logon.exe"));
 } catch (...) {
-    ErrorReport(L"modStartACT: Sub StartACT_mode");
+    ErrorReport("modStartACT: Sub StartACT_mode");
 }
 
 } // namespace modStartACT

@@ -6,22 +6,23 @@
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 #include "support/Vendor.h"
+#include "win32/AnsiText.h"
 #include "win32/Owner.h"
 
 frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3810}) {}
 
 void frmAbout::Form_Load() try {
     Caption(LangText[4]);
-    const std::wstring name = Application::Title + (L' ' + Application::Version());
     constexpr short kGerman = 2;
     const bool isGerman = CurrentLanguage == kGerman;
-    txtAbout.Text(name + L"\r\n" + Text::Replace(LangText[12], L"&", L"") + L"\r\n\r\n" +
-                  Translated(MoreText::WhatThisIs) + L"\r\n\r\n" + LangText[5] + L"\r\n\r\n" + LangText[6] + L"\r\n" +
-                  (isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail));
+    txtAbout.Text(
+        Text::Concat({Application::Title, L" ", Application::Version(), L"\r\n", Text::Replace(LangText[12], L"&", L""),
+                      L"\r\n\r\n", Translated(MoreText::WhatThisIs), L"\r\n\r\n", LangText[5], L"\r\n\r\n", LangText[6],
+                      L"\r\n", FromUtf8(isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail)}));
     txtAbout.AccessibleName(LangText[4]);
     cmdOK.Text(LangText[1]);
 } catch (...) {
-    ErrorReport(L"frmAbout: Sub Form_Load");
+    ErrorReport("frmAbout: Sub Form_Load");
 }
 
 void frmAbout::DrawIcon(HDC canvas, const RECT& area, bool) {

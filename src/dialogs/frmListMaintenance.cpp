@@ -7,6 +7,7 @@
 #include "settings/Database.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
+#include "support/Text.h"
 
 #include <algorithm>
 
@@ -28,17 +29,20 @@ void frmListMaintenance::Form_Load() try {
     if (const int selected = mainWindow_.SelectedIndex(); selected != -1) lstDB.ListIndex(selected);
     EnableButtons();
 } catch (...) {
-    ErrorReport(L"frmListMaintenance: Sub Form_Load");
+    ErrorReport("frmListMaintenance: Sub Form_Load");
 }
 
 void frmListMaintenance::SetMenuCaptions() {
-    const auto key = [](MoreText name) { return Translated(name); };
-    mnuAdd.Caption(LangText[87] + L'\t' + key(MoreText::KeyInsert));
-    mnuDuplicate.Caption(Translated(MoreText::Duplicate) + L'\t' + key(MoreText::KeyCtrl) + L"+D");
-    mnuRemove.Caption(LangText[88] + L'\t' + key(MoreText::KeyDelete));
-    mnuUndo.Caption(Translated(MoreText::UndoRemoval) + L'\t' + key(MoreText::KeyCtrl) + L"+Z");
-    mnuUp.Caption(LangText[94] + L"\tAlt+" + key(MoreText::KeyUp));
-    mnuDown.Caption(LangText[95] + L"\tAlt+" + key(MoreText::KeyDown));
+    const auto set = [](MenuItem& item, const std::wstring& caption, const wchar_t* held, const std::wstring& key) {
+        item.Caption(Text::Concat({caption, L"\t", held, key}));
+    };
+    const std::wstring ctrl = Translated(MoreText::KeyCtrl);
+    set(mnuAdd, LangText[87], L"", Translated(MoreText::KeyInsert));
+    set(mnuDuplicate, Translated(MoreText::Duplicate), ctrl.c_str(), L"+D");
+    set(mnuRemove, LangText[88], L"", Translated(MoreText::KeyDelete));
+    set(mnuUndo, Translated(MoreText::UndoRemoval), ctrl.c_str(), L"+Z");
+    set(mnuUp, LangText[94], L"Alt+", Translated(MoreText::KeyUp));
+    set(mnuDown, LangText[95], L"Alt+", Translated(MoreText::KeyDown));
 }
 
 void frmListMaintenance::Create_List() {
@@ -54,7 +58,7 @@ void frmListMaintenance::Form_Unload() try {
     mainWindow_.SelectedIndex(lstDB.ListIndex());
     if (isMerged_) MsgBox(Translated(MoreText::ListMerged), MsgIcon::Information);
 } catch (...) {
-    ErrorReport(L"frmListMaintenance: Sub Form_Unload");
+    ErrorReport("frmListMaintenance: Sub Form_Unload");
 }
 
 bool frmListMaintenance::Form_KeyDown(const KeyPress& press) {

@@ -26,7 +26,7 @@ void frmLocations::Form_Activate() try {
     txtPath.Text(pathAtActivation_);
     txtPath.SelectAll();
 } catch (...) {
-    ErrorReport(L"frmLocations: Sub Form_Activate");
+    ErrorReport("frmLocations: Sub Form_Activate");
 }
 
 void frmLocations::cmdBrowse_Click() try {
@@ -35,7 +35,7 @@ void frmLocations::cmdBrowse_Click() try {
     pickedFile_ = PickFile(Handle(), L"ini Files (*.ini)|*.ini", folder).value_or(pickedFile_);
     txtPath.Text(pickedFile_);
 } catch (...) {
-    ErrorReport(L"frmLocations: Sub cmdBrowse_Click");
+    ErrorReport("frmLocations: Sub cmdBrowse_Click");
 }
 
 void frmLocations::cmdOK_Click() try {
@@ -52,7 +52,7 @@ void frmLocations::cmdOK_Click() try {
     }
     Unload();
 } catch (...) {
-    ErrorReport(L"frmLocations: Sub cmdOK_Click");
+    ErrorReport("frmLocations: Sub cmdOK_Click");
 }
 
 void frmLocations::cmdCancel_Click() { Unload(); }

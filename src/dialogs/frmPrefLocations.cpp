@@ -38,7 +38,7 @@ void frmPrefLocations::Form_Load() try {
     }
     lvwPref.Select(0);
 } catch (...) {
-    ErrorReport(L"frmPrefLocations: Sub Form_Load");
+    ErrorReport("frmPrefLocations: Sub Form_Load");
 }
 
 void frmPrefLocations::Form_Resize() {
@@ -65,7 +65,7 @@ void frmPrefLocations::cmdClear_Click() try {
     IniLib::DeleteKey(currentName_, KeyOf(row));
     lvwPref.Cell(row, 1, {});
 } catch (...) {
-    ErrorReport(L"frmPrefLocations: Sub cmdClear_Click");
+    ErrorReport("frmPrefLocations: Sub cmdClear_Click");
 }
 
 void frmPrefLocations::cmdOK_Click() try {
@@ -74,7 +74,7 @@ void frmPrefLocations::cmdOK_Click() try {
     change.Commit();
     Unload();
 } catch (...) {
-    ErrorReport(L"frmPrefLocations: Sub cmdOK_Click");
+    ErrorReport("frmPrefLocations: Sub cmdOK_Click");
 }
 
 void frmPrefLocations::cmdCancel_Click() { Unload(); }

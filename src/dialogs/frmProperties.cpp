@@ -62,7 +62,7 @@ void frmProperties::Form_Load() try {
     txtPassword.Enabled(chkPassword.Value());
     LoadLocations();
 } catch (...) {
-    ErrorReport(L"frmProperties: Sub Form_Load");
+    ErrorReport("frmProperties: Sub Form_Load");
 }
 
 void frmProperties::SetCaptions() {
@@ -190,13 +190,13 @@ void frmProperties::cmdBrowse_Click(int index) try {
         mainWindow_ ? Program().Preferences.GetDefaultLocation(target.StartKind) : Text::ExtractPath(box.Text());
     if (const auto file = PickFile(Handle(), target.Filter, folder)) box.Text(*file);
 } catch (...) {
-    ErrorReport(L"frmProperties: Sub cmdBrowse_Click");
+    ErrorReport("frmProperties: Sub cmdBrowse_Click");
 }
 
 void frmProperties::cmdEditLocations_Click() try {
     frmPrefLocations(Program().FriendlyName, Text::Trim(txtName.Text())).ShowModal();
 } catch (...) {
-    ErrorReport(L"frmProperties: Sub cmdEditLocations_Click");
+    ErrorReport("frmProperties: Sub cmdEditLocations_Click");
 }
 
 void frmProperties::cmdCancel_Click() {

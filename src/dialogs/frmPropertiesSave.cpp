@@ -55,7 +55,7 @@ void frmProperties::cmdOK_Click() try {
     isNew_ = false;
     Unload();
 } catch (...) {
-    ErrorReport(L"frmProperties: Sub cmdOK_Click");
+    ErrorReport("frmProperties: Sub cmdOK_Click");
 }
 
 void frmProperties::Save() {

@@ -3,12 +3,13 @@
 #include <array>
 #include <cstddef>
 
-/// One text of the user interface in each language. Captions carry the "&" of their access key.
+/// One text of the user interface in each language, in UTF-8 (the table is half the size that it has in UTF-16).
+/// Captions carry the "&" of their access key.
 struct LangTextRow {
     int Index;
-    const wchar_t* English;
-    const wchar_t* French;
-    const wchar_t* German;
+    const char* English;
+    const char* French;
+    const char* German;
 };
 
 inline constexpr std::size_t LangTextRows = 152;

@@ -34,7 +34,7 @@ void frmLanguage::Form_Load() try {
     for (const wchar_t* language : {L"English", L"Français", L"Deutsch"}) cmbLanguage.AddItem(language);
     cmbLanguage.ListIndex(CurrentLanguage);
 } catch (...) {
-    ErrorReport(L"frmLanguage: Sub Form_Load");
+    ErrorReport("frmLanguage: Sub Form_Load");
 }
 
 void frmLanguage::cmdOK_Click() {

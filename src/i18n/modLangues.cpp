@@ -1,12 +1,21 @@
 #include "i18n/modLangues.h"
 
 #include "support/ErrorReport.h"
+#include "win32/AnsiText.h"
 
 LangTexts LangText;
 short CurrentLanguage = 0;
 
-void LangTexts::Fill(const wchar_t* LangTextRow::*column) {
-    for (const LangTextRow& row : LangTextTable) texts_.at(static_cast<std::size_t>(row.Index) - 1) = row.*column;
+const std::wstring& LangTexts::operator[](int index) const {
+    static const std::wstring none;
+    const auto row = static_cast<std::size_t>(index) - 1;
+    return texts_.empty() && row < LangTextRows ? none : texts_.at(row);
+}
+
+void LangTexts::Fill(const char* LangTextRow::*column) {
+    texts_.resize(LangTextRows);
+    for (const LangTextRow& row : LangTextTable)
+        texts_.at(static_cast<std::size_t>(row.Index) - 1) = FromUtf8(row.*column);
 }
 
 namespace modLangues {
@@ -17,19 +26,19 @@ void Init_Language(const short& language) try {
     kLanguages.at(static_cast<std::size_t>(language))();
     CurrentLanguage = language;
 } catch (...) {
-    ErrorReport(L"modLangues: Sub Init_Language");
+    ErrorReport("modLangues: Sub Init_Language");
 }
 
 void English() try { LangText.Fill(&LangTextRow::English); } catch (...) {
-    ErrorReport(L"modLangues: Sub English");
+    ErrorReport("modLangues: Sub English");
 }
 
 void French() try { LangText.Fill(&LangTextRow::French); } catch (...) {
-    ErrorReport(L"modLangues: Sub French");
+    ErrorReport("modLangues: Sub French");
 }
 
 void German() try { LangText.Fill(&LangTextRow::German); } catch (...) {
-    ErrorReport(L"modLangues: Sub German");
+    ErrorReport("modLangues: Sub German");
 }
 
 } // namespace modLangues

@@ -2,19 +2,19 @@
 
 #include "i18n/LangText.h"
 
-#include <array>
 #include <string>
+#include <vector>
 
 /// The texts of the language in use, by index (1 to 152); empty until a language is set.
 class LangTexts {
 public:
     /// Error 9 for any other index.
-    const std::wstring& operator[](int index) const { return texts_.at(static_cast<std::size_t>(index) - 1); }
+    const std::wstring& operator[](int index) const;
     /// Takes all texts from one column of the table.
-    void Fill(const wchar_t* LangTextRow::*column);
+    void Fill(const char* LangTextRow::*column);
 
 private:
-    std::array<std::wstring, LangTextRows> texts_;
+    std::vector<std::wstring> texts_;
 };
 
 extern LangTexts LangText;

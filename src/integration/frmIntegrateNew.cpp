@@ -5,6 +5,7 @@
 #include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
+#include "support/Text.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ ActAuxCommands::Definition OwnCommand() {
             program + L".exe",
             Application::Folder(),
             title,
-            title + L' ' + LangText[23],
+            Text::Concat({title, L" ", LangText[23]}),
             program + L".ico",
             program + L"32.ico"};
 }
@@ -51,7 +52,7 @@ void frmIntegrateNew::Form_Load() try {
     Changed_ = false;
 } catch (...) {
     isLoading_ = false;
-    ErrorReport(L"frmIntegrateNew: Sub Form_Load");
+    ErrorReport("frmIntegrateNew: Sub Form_Load");
 }
 
 void frmIntegrateNew::SetCaptions() {

@@ -65,7 +65,7 @@ double Depth(int shape, double width, double height, double x, double y) {
     const double fromSide = isRight ? width - x : x;
     const double fromEnd = isLower ? height - y : y;
     if (fromSide >= radius || fromEnd >= radius) return std::min(fromSide, fromEnd);
-    return radius - std::hypot(radius - fromSide, radius - fromEnd);
+    return radius - std::sqrt((radius - fromSide) * (radius - fromSide) + (radius - fromEnd) * (radius - fromEnd));
 }
 
 /// The same for a sub-pixel of a pixel.

@@ -87,7 +87,7 @@ void frmAssign::Form_Load() try {
     optColor[0].Value(false);
     optColor[static_cast<size_t>(*scheme)].Value(true);
 } catch (...) {
-    ErrorReport(L"frmAssign: Sub Form_Load");
+    ErrorReport("frmAssign: Sub Form_Load");
 }
 
 void frmAssign::SetCaptions() {
@@ -143,7 +143,7 @@ void frmAssign::cmdOK_Click() try {
     change.Commit();
     Unload();
 } catch (...) {
-    ErrorReport(L"frmAssign: Sub cmdOK_Click");
+    ErrorReport("frmAssign: Sub cmdOK_Click");
 }
 
 void frmAssign::cmdCancel_Click() { Unload(); }

@@ -50,7 +50,7 @@ void frmQuickSwitch::Form_Load() try {
     mnuExit.Caption(LangText[129]);
     Caption(L"QuickSwitch");
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Form_Load");
+    ErrorReport("frmQuickSwitch: Sub Form_Load");
 }
 
 void frmQuickSwitch::Refresh_Screen() try {
@@ -66,7 +66,7 @@ void frmQuickSwitch::Refresh_Screen() try {
     ReadScheme();
     InvalidateRect(Handle(), nullptr, TRUE);
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Refresh_Screen");
+    ErrorReport("frmQuickSwitch: Sub Refresh_Screen");
 }
 
 void frmQuickSwitch::ReadScheme() {
@@ -119,7 +119,7 @@ void frmQuickSwitch::Save_Position() const try {
     UserStore::Set(L"Settings", L"QuickLeft", Text::FromNumber(position.Left));
     UserStore::Set(L"Settings", L"QuickTop", Text::FromNumber(position.Top));
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Save_Position");
+    ErrorReport("frmQuickSwitch: Sub Save_Position");
 }
 
 void frmQuickSwitch::Form_Unload() try {
@@ -129,7 +129,7 @@ void frmQuickSwitch::Form_Unload() try {
     Hide();
     mainWindow_.ShowMain();
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Form_Unload");
+    ErrorReport("frmQuickSwitch: Sub Form_Unload");
 }
 
 void frmQuickSwitch::Tracker_Click(int button) try {
@@ -143,14 +143,14 @@ void frmQuickSwitch::Tracker_Click(int button) try {
     mainWindow_.Open_DB(name, kContactView, true);
     Unload();
 } catch (...) {
-    ErrorReport((L"frmQuickSwitch: Sub Tracker" + Text::FromNumber(button) + L"_Click").c_str());
+    ErrorReport(L"frmQuickSwitch: Sub Tracker" + Text::FromNumber(button) + L"_Click");
 }
 
 void frmQuickSwitch::mnuAssign_Click() try {
     frmAssign().ShowModal();
     Refresh_Screen();
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub mnuAssign_Click");
+    ErrorReport("frmQuickSwitch: Sub mnuAssign_Click");
 }
 
 void frmQuickSwitch::mnuControlClose_Click() { Unload(); }

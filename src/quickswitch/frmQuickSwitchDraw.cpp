@@ -88,7 +88,7 @@ void frmQuickSwitch::Write_Picture(int button, HDC canvas, const RECT& area) con
                 caption.c_str(), static_cast<UINT>(caption.size()), nullptr);
     SelectObject(canvas, before);
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Write_Picture");
+    ErrorReport("frmQuickSwitch: Sub Write_Picture");
 }
 
 void frmQuickSwitch::MouseAction(PictureBox& picture, int action, int button) try {
@@ -97,7 +97,7 @@ void frmQuickSwitch::MouseAction(PictureBox& picture, int action, int button) tr
     isHighlighted_.at(static_cast<size_t>(button) - 1) = action == Tracker::Enter;
     picture.Refresh();
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub MouseAction");
+    ErrorReport("frmQuickSwitch: Sub MouseAction");
 }
 
 void frmQuickSwitch::Form_Activate() {
@@ -129,7 +129,7 @@ void frmQuickSwitch::Form_Paint() try {
     RECT square = ControlBoxRect_;
     DrawEdge(canvas.Get(), &square, EDGE_RAISED, BF_RECT);
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Form_Paint");
+    ErrorReport("frmQuickSwitch: Sub Form_Paint");
 }
 
 void frmQuickSwitch::Form_MouseDown(POINT position) try {
@@ -144,7 +144,7 @@ void frmQuickSwitch::Form_MouseDown(POINT position) try {
     ReleaseCapture();
     SendMessageW(Handle(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
 } catch (...) {
-    ErrorReport(L"frmQuickSwitch: Sub Form_MouseDown");
+    ErrorReport("frmQuickSwitch: Sub Form_MouseDown");
 }
 
 void frmQuickSwitch::ShowControlMenu(POINT position) { mnuControl.PopUp(position, TPM_RIGHTBUTTON); }

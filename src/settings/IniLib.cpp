@@ -54,7 +54,7 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
     const bool mustBeNumber = valueKind == L"Numeric" || valueKind == L"Boolean";
     return mustBeNumber && !replacement.empty() && !Text::IsNumeric(value) ? replacement : value;
 } catch (...) {
-    ErrorReport(L"IniLib: Function GetKeyValue");
+    ErrorReport("IniLib: Function GetKeyValue");
     return defaultText;
 }
 
@@ -132,7 +132,7 @@ std::vector<std::wstring> Extract_Sections(std::wstring& fileName) {
             start = end + 1;
         }
     } catch (...) {
-        ErrorReport(L"IniLib: Sub Extract_Sections");
+        ErrorReport("IniLib: Sub Extract_Sections");
     }
     return names;
 }

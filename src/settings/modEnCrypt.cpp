@@ -9,7 +9,7 @@ std::wstring EncryptText(std::wstring text, std::wstring key) try {
     Cipher::Shift(text, key, 1);
     return text;
 } catch (...) {
-    ErrorReport(L"modEnCrypt: Function EncryptText");
+    ErrorReport("modEnCrypt: Function EncryptText");
     return {};
 }
 
@@ -17,7 +17,7 @@ std::wstring DecryptText(std::wstring text, std::wstring key) try {
     Cipher::Shift(text, key, -1);
     return text;
 } catch (...) {
-    ErrorReport(L"modEnCrypt: Function DecryptText");
+    ErrorReport("modEnCrypt: Function DecryptText");
     return {};
 }
 

@@ -24,7 +24,7 @@ bool FileExists(const std::wstring& path) try {
     return SHGetFileInfoA(bytes.c_str(), 0, &info, sizeof info, SHGFI_DISPLAYNAME) != 0 &&
            GetFileAttributesA(bytes.c_str()) != INVALID_FILE_ATTRIBUTES;
 } catch (...) {
-    ErrorReport(L"modFolderFileExists: Function FileExists");
+    ErrorReport("modFolderFileExists: Function FileExists");
     return false;
 }
 

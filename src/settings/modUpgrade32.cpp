@@ -28,7 +28,7 @@ void Upgrade_to_32() try {
         change.Commit();
     }
 } catch (...) {
-    ErrorReport(L"modUpgrade32: Function Upgrade_to_32");
+    ErrorReport("modUpgrade32: Function Upgrade_to_32");
 }
 
 } // namespace modUpgrade32

@@ -3,11 +3,22 @@
 #include "win32/Windows.h"
 
 #include <exception>
-#include <source_location>
 #include <string>
 
-/// A place in the source: as a last default argument it names the caller's line.
-using Where = std::source_location;
+/// A place in the source: as a last default argument it names the caller's line. The standard library's class would
+/// also keep the names of file and function of every call in the program.
+class Where {
+public:
+    static constexpr Where current(unsigned line = __builtin_LINE()) {
+        Where here;
+        here.line_ = line;
+        return here;
+    }
+    constexpr unsigned line() const { return line_; }
+
+private:
+    unsigned line_ = 0;
+};
 
 /// A failure on its way to the report that the user sees.
 struct Error : std::exception {

@@ -3,6 +3,7 @@
 #include "support/Application.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
+#include "win32/AnsiText.h"
 
 #include <new>
 
@@ -17,11 +18,10 @@ Error Foreign(long number, const wchar_t* description) { return {number, descrip
 void SetSupportSentence(std::wstring (*sentence)()) { supportSentence = sentence; }
 
 std::wstring ErrorText(const Error& error, const std::wstring& procedure) {
-    std::wstring text = L"Error " + Text::FromNumber(error.Number) + L": '" + error.Description + L"'\rin ";
-    text += error.Procedure.empty() ? procedure : error.Procedure;
-    text += L" - Line # " + Text::FromNumber(error.At.line()) + L"\r\r";
-    if (supportSentence) text += supportSentence();
-    return text;
+    return Text::Concat({L"Error ", Text::FromNumber(error.Number), L": '", error.Description, L"'\rin ",
+                         error.Procedure.empty() ? procedure : error.Procedure, L" - Line # ",
+                         Text::FromNumber(error.At.line()), L"\r\r",
+                         supportSentence ? supportSentence() : std::wstring()});
 }
 
 Error CurrentError() noexcept {
@@ -36,7 +36,7 @@ Error CurrentError() noexcept {
     }
 }
 
-void ErrorReport(const wchar_t* procedure) noexcept {
+void ErrorReport(const std::wstring& procedure) noexcept {
     const Error error = CurrentError();
     try {
         const std::wstring title = std::wstring(Application::Title) + L" error";
@@ -45,3 +45,5 @@ void ErrorReport(const wchar_t* procedure) noexcept {
         MessageBeep(MB_ICONERROR);
     }
 }
+
+void ErrorReport(const char* procedure) noexcept { ErrorReport(FromUtf8(procedure)); }

@@ -17,5 +17,6 @@ std::wstring ErrorText(const Error& error, const std::wstring& procedure);
 Error CurrentError() noexcept;
 
 /// Shows the common error report about the exception being handled, naming the given procedure such as
-/// L"frmMain: Sub Form_Load" unless the error names its own. Call it only inside a catch block; lets nothing escape.
-void ErrorReport(const wchar_t* procedure) noexcept;
+/// "frmMain: Sub Form_Load" unless the error names its own. Call it only inside a catch block; lets nothing escape.
+void ErrorReport(const char* procedure) noexcept;
+void ErrorReport(const std::wstring& procedure) noexcept;

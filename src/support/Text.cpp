@@ -36,6 +36,12 @@ std::wstring Join(const std::vector<std::wstring>& elements, wchar_t separator) 
     return joined;
 }
 
+std::wstring Concat(std::initializer_list<std::wstring_view> parts) {
+    std::wstring whole;
+    for (const std::wstring_view part : parts) whole += part;
+    return whole;
+}
+
 std::wstring Replace(std::wstring_view text, std::wstring_view from, std::wstring_view to) {
     std::wstring result;
     size_t start = 0;

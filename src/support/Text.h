@@ -1,6 +1,7 @@
 #pragma once
 
 #include <concepts>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,9 @@ std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator);
 
 /// The elements with one separator between neighbours: the reverse of Split.
 std::wstring Join(const std::vector<std::wstring>& elements, wchar_t separator);
+
+/// The parts one after another.
+std::wstring Concat(std::initializer_list<std::wstring_view> parts);
 
 /// Every occurrence of `from` replaced by `to`, from left to right; letter case counts. An empty `from` changes
 /// nothing.

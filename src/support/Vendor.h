@@ -6,7 +6,7 @@ namespace Vendor {
 inline constexpr wchar_t SiteName[] = L"varnholtine.example"; ///< as shown to the user
 inline constexpr wchar_t Site[] = L"https://www.varnholtine.example/";
 inline constexpr wchar_t Tutorials[] = L"https://www.varnholtine.example/tutorials/"; ///< folder of the help pages
-inline constexpr wchar_t SupportEmail[] = L"support@varnholtine.example";
-inline constexpr wchar_t GermanSupportEmail[] = L"hilfe@varnholtine.example";
+inline constexpr char SupportEmail[] = "support@varnholtine.example";
+inline constexpr char GermanSupportEmail[] = "hilfe@varnholtine.example";
 
 } // namespace Vendor

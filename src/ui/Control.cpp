@@ -2,6 +2,7 @@
 
 #include "support/Busy.h"
 #include "support/ErrorReport.h"
+#include "support/Text.h"
 #include "ui/Accessible.h"
 #include "ui/Form.h"
 #include "ui/Frame.h"
@@ -33,13 +34,12 @@ void Control::Move(const Twips& place) {
     PlaceWindow();
 }
 
-void Control::Raise(const wchar_t* event, const Action& action) const {
-    if (!action || Busy::Now() || form_->Unloaded()) return;
+void Control::Guard(const wchar_t* event, void (*call)(const void*), const void* target) const {
+    if (Busy::Now() || form_->Unloaded()) return;
     try {
-        action();
+        call(target);
     } catch (...) {
-        const std::wstring procedure = std::wstring(form_->Name()) + L": Sub " + name_ + L"_" + event;
-        ErrorReport(procedure.c_str());
+        ErrorReport(Text::Concat({form_->Name(), L": Sub ", name_, L"_", event}));
     }
 }
 

@@ -48,13 +48,22 @@ protected:
     Form& Owner() const { return *form_; }
     /// Runs a handler behind the outermost guard: whatever it throws is reported under "form: Sub name_event".
     /// Does nothing while a call into ACT! is running and once the form is unloaded.
-    void Raise(const wchar_t* event, const Action& action) const;
+    void Raise(const wchar_t* event, const Action& action) const {
+        if (action) RaiseCall(event, action);
+    }
+    /// The same for anything that can be called.
+    template <class Call>
+    void RaiseCall(const wchar_t* event, const Call& call) const {
+        Guard(
+            event, [](const void* target) { (*static_cast<const Call*>(target))(); }, &call);
+    }
     /// The place of the control's window relative to the form.
     virtual Twips WindowPlace() const;
 
 private:
     friend class Form;
     friend class Frame;
+    void Guard(const wchar_t* event, void (*call)(const void*), const void* target) const;
     /// The control's command identifier.
     virtual int Identifier(int ordinal) const { return ordinal; }
     virtual void OnCreated() {}

@@ -28,7 +28,7 @@ LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT message, WPARAM wParam,
         return form->Dispatch(message, wParam, lParam);
     } catch (...) {
         // No exception may cross into user32's frames.
-        ErrorReport((std::wstring(form->Name()) + L": Sub Form_Message").c_str());
+        ErrorReport(std::wstring(form->Name()) + L": Sub Form_Message");
         return 0;
     }
 }

@@ -19,7 +19,7 @@ bool Form::TakesKey(const MSG& message) {
     try {
         return Form_KeyDown({static_cast<int>(message.wParam), isDown(VK_CONTROL), isDown(VK_MENU), isDown(VK_SHIFT)});
     } catch (...) {
-        ErrorReport((std::wstring(Name()) + L": Sub Form_KeyDown").c_str());
+        ErrorReport(std::wstring(Name()) + L": Sub Form_KeyDown");
         return true;
     }
 }

@@ -60,7 +60,7 @@ void ListBox::OnContextMenu(POINT position) {
     } else if (const int line = LineAt(position, false); line >= 0) {
         ListIndex(line);
     }
-    Raise(L"RightClick", [this, position] { rightClick_(position); });
+    RaiseCall(L"RightClick", [this, position] { rightClick_(position); });
 }
 
 int ListBox::LineAt(POINT position, bool scrolls) const { return LBItemFromPt(Handle(), position, scrolls); }
@@ -77,7 +77,7 @@ LRESULT ListBox::OnDragList(const DRAGLISTINFO& drag) {
     case DL_DROPPED: {
         const int target = LineAt(drag.ptCursor, true);
         DrawInsert(form, Handle(), -1);
-        if (target >= 0 && target != dragged_) Raise(L"Drop", [this, target] { drop_(dragged_, target); });
+        if (target >= 0 && target != dragged_) RaiseCall(L"Drop", [this, target] { drop_(dragged_, target); });
         return 0;
     }
     default: DrawInsert(form, Handle(), -1); return 0;

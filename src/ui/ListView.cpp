@@ -235,7 +235,7 @@ LRESULT ListView::OnNotify(NMHDR& header) {
         return 0;
     case LVN_COLUMNCLICK: {
         const int column = reinterpret_cast<const NMLISTVIEW&>(header).iSubItem;
-        if (columnClick_) Raise(L"ColumnClick", [this, column] { columnClick_(column); });
+        if (columnClick_) RaiseCall(L"ColumnClick", [this, column] { columnClick_(column); });
         return 0;
     }
     case TTN_GETDISPINFOW: OnTip(reinterpret_cast<NMTTDISPINFOW&>(header)); return 0;

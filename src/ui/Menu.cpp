@@ -2,6 +2,7 @@
 
 #include "support/Busy.h"
 #include "support/ErrorReport.h"
+#include "support/Text.h"
 #include "ui/Form.h"
 
 #include <utility>
@@ -58,7 +59,7 @@ void MenuItem::Click() const {
     try {
         click_();
     } catch (...) {
-        ErrorReport((std::wstring(form_->Name()) + L": Sub " + name_ + L"_Click").c_str());
+        ErrorReport(Text::Concat({form_->Name(), L": Sub ", name_, L"_Click"}));
     }
 }
 

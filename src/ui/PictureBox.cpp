@@ -1,6 +1,7 @@
 #include "ui/PictureBox.h"
 
 #include "support/ErrorReport.h"
+#include "support/Text.h"
 #include "ui/Form.h"
 
 #include <utility>
@@ -40,7 +41,7 @@ LRESULT CALLBACK PictureBox::Procedure(HWND window, UINT message, WPARAM wParam,
     try {
         return box->Dispatch(message, wParam, lParam);
     } catch (...) {
-        ErrorReport((std::wstring(box->Owner().Name()) + L": Sub " + box->Name() + L"_Message").c_str());
+        ErrorReport(Text::Concat({box->Owner().Name(), L": Sub ", box->Name(), L"_Message"}));
         return 0;
     }
 }
@@ -50,7 +51,7 @@ LRESULT PictureBox::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSEMOVE: OnMouseMove(); break;
     case WM_CAPTURECHANGED:
     case WM_MOUSELEAVE:
-        if (std::exchange(isHot_, false)) Raise(L"Mouse", events_.MouseLeave);
+        if (std::exchange(isHot_, false)) Tell(L"Mouse", events_.MouseLeave);
         break;
     case WM_GETDLGCODE: {
         const LRESULT code = CallWindowProcW(original_, Handle(), message, wParam, lParam);
@@ -81,8 +82,8 @@ void PictureBox::OnMouseMove() {
         TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Handle(), 0};
         TrackMouseEvent(&track);
         isHot_ = true;
-        Raise(L"Mouse", events_.MouseMove);
+        Tell(L"Mouse", events_.MouseMove);
     } else if (!isInside && std::exchange(isHot_, false)) {
-        Raise(L"Mouse", events_.MouseLeave);
+        Tell(L"Mouse", events_.MouseLeave);
     }
 }

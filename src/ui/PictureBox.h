@@ -13,9 +13,9 @@ public:
     using Draw = std::function<void(HDC canvas, const RECT& area, bool isFocused)>;
     /// What happens to the box. Empty ones are ignored.
     struct Events {
-        Action MouseMove;  ///< the pointer is over the box
-        Action MouseLeave; ///< it has left, or the mouse belongs to somebody else now
-        Action Click;      ///< pressed and released on the box, or Space or Enter
+        std::function<void()> MouseMove;  ///< the pointer is over the box
+        std::function<void()> MouseLeave; ///< it has left, or the mouse belongs to somebody else now
+        std::function<void()> Click;      ///< pressed and released on the box, or Space or Enter
     };
 
     /// A picture to look at, in a frame or not.
@@ -27,7 +27,7 @@ public:
     void Listen(Events events) { events_ = std::move(events); }
     void Refresh();
     /// Does what a click does.
-    void Press() const { Raise(L"Click", events_.Click); }
+    void Press() const { Tell(L"Click", events_.Click); }
 
 private:
     void OnCreated() override;
@@ -36,6 +36,9 @@ private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
     void OnMouseMove();
+    void Tell(const wchar_t* event, const std::function<void()>& handler) const {
+        if (handler) RaiseCall(event, handler);
+    }
 
     Draw draw_;
     std::function<bool(int)> keyDown_;

@@ -18,13 +18,13 @@ void TabControl::Tab(int tab) {
     if (tab == tab_) return;
     SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(tab), 0);
     const int previous = std::exchange(tab_, tab);
-    Raise(L"Click", [this, previous] { click_(previous); });
+    RaiseCall(L"Click", [this, previous] { click_(previous); });
 }
 
 LRESULT TabControl::OnNotify(NMHDR& header) {
     if (header.code == TCN_SELCHANGE) {
         const int previous = std::exchange(tab_, static_cast<int>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0)));
-        Raise(L"Click", [this, previous] { click_(previous); });
+        RaiseCall(L"Click", [this, previous] { click_(previous); });
     }
     return 0;
 }

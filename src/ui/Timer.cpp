@@ -1,6 +1,7 @@
 #include "ui/Timer.h"
 
 #include "support/ErrorReport.h"
+#include "support/Text.h"
 #include "ui/Form.h"
 
 #include <utility>
@@ -22,6 +23,6 @@ void Timer::Tick() const {
     try {
         timer_();
     } catch (...) {
-        ErrorReport((std::wstring(form_->Name()) + L": Sub " + name_ + L"_Timer").c_str());
+        ErrorReport(Text::Concat({form_->Name(), L": Sub ", name_, L"_Timer"}));
     }
 }

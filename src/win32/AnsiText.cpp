@@ -11,11 +11,18 @@ std::string ToAnsi(std::wstring_view text) {
     return bytes;
 }
 
-std::wstring ToWide(std::string_view bytes) {
+namespace {
+
+std::wstring Widened(std::string_view bytes, UINT codePage) {
     if (bytes.empty()) return {};
     const int size = static_cast<int>(bytes.size());
-    const int length = MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, nullptr, 0);
+    const int length = MultiByteToWideChar(codePage, 0, bytes.data(), size, nullptr, 0);
     std::wstring text(static_cast<size_t>(length), L'\0');
-    MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), length);
+    MultiByteToWideChar(codePage, 0, bytes.data(), size, text.data(), length);
     return text;
 }
+
+} // namespace
+
+std::wstring ToWide(std::string_view bytes) { return Widened(bytes, CP_ACP); }
+std::wstring FromUtf8(std::string_view bytes) { return Widened(bytes, CP_UTF8); }

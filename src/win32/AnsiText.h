@@ -9,3 +9,6 @@ std::string ToAnsi(std::wstring_view text);
 
 /// ANSI bytes (CP_ACP) as wide text.
 std::wstring ToWide(std::string_view bytes);
+
+/// UTF-8 as wide text.
+std::wstring FromUtf8(std::string_view bytes);

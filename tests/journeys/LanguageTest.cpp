@@ -10,9 +10,9 @@
 namespace {
 
 using JourneyStores::User;
-using Language = const wchar_t* LangTextRow::*;
+using Language = const char* LangTextRow::*;
 
-std::wstring Row(size_t index, Language language) { return LangTextTable.at(index - 1).*language; }
+std::wstring Row(size_t index, Language language) { return FromUtf8(LangTextTable.at(index - 1).*language); }
 
 HWND LanguageList(HWND dialog) { return JourneyWindow::Control(dialog, L"cmbLanguage"); }
 

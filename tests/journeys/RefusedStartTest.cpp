@@ -2,6 +2,7 @@
 
 #include "i18n/LangText.h"
 #include "support/Journey.h"
+#include "win32/AnsiText.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ JourneyWindow::Box RefusedStart(Journey& journey) {
     return box;
 }
 
-const LangTextRow& Row(size_t index) { return LangTextTable.at(index - 1); }
+std::wstring German(size_t index) { return FromUtf8(LangTextTable.at(index - 1).German); }
 
 } // namespace
 
@@ -56,7 +57,7 @@ TEST_CASE_FIXTURE(Journey, "an event component that is not registered with ACT! 
     JourneyStores::User(L"Options", L"Language", L"2");
     const Stores before = Read(*this);
     const JourneyWindow::Box box = RefusedStart(*this);
-    CHECK(box.Text == std::wstring(Row(10).German) + L"\r\n" + Row(11).German);
+    CHECK(box.Text == German(10) + L"\r\n" + German(11));
     CHECK(Read(*this) == before);
 }
 
@@ -88,7 +89,8 @@ TEST_CASE_FIXTURE(Journey, "a second instance is refused and leaves the first on
         const wchar_t* language;
         const wchar_t* message;
     };
-    const Case cases[] = {{L"0", L"An instance of this program is already running!"}, {L"1", Row(7).French}};
+    const Case cases[] = {{L"0", L"An instance of this program is already running!"},
+                          {L"1", L"Une copie de ce programme est d\u00e9j\u00e0 en marche !"}};
     StartAct(ListRealDatabase(L"Customers"));
     const Process& first = Start();
     HWND window = MainWindow(first);

@@ -1,6 +1,7 @@
 #include "support/Journey.h"
 
 #include "support/Text.h"
+#include "win32/AnsiText.h"
 
 #include <array>
 #include <filesystem>
@@ -49,14 +50,6 @@ std::wstring NewFolder() {
     std::filesystem::copy_file(std::filesystem::path(KELMORRA_FOLDER) / L"Kelmorra.exe",
                                folder + L"\\Kelmorra\\Kelmorra.exe");
     return folder;
-}
-
-std::wstring FromUtf8(const std::string& bytes) {
-    const int size = static_cast<int>(bytes.size());
-    std::wstring text(bytes.size(), L'\0');
-    text.resize(static_cast<size_t>(
-        MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, text.data(), static_cast<int>(text.size()))));
-    return text;
 }
 
 std::wstring ReadProfile(const std::wstring& file, const std::wstring& section, const std::wstring& key) {

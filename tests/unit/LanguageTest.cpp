@@ -3,17 +3,20 @@
 #include "support/Text.h"
 #include "support/Vendor.h"
 #include "support/Wide.h"
+#include "win32/AnsiText.h"
 
 #include <algorithm>
 #include <set>
 
 namespace {
 
-using Column = const wchar_t* LangTextRow::*;
+using Column = const char* LangTextRow::*;
 
 constexpr Column kColumns[] = {&LangTextRow::English, &LangTextRow::French, &LangTextRow::German};
 
-const wchar_t* TextAt(int index, Column column) { return LangTextTable.at(static_cast<size_t>(index) - 1).*column; }
+std::wstring TextAt(int index, Column column) {
+    return FromUtf8(LangTextTable.at(static_cast<size_t>(index) - 1).*column);
+}
 
 /// The access key of a caption, lower case; 0 when it has none.
 wchar_t AccessKey(const std::wstring& caption) {
@@ -34,7 +37,7 @@ TEST_CASE("Rows stand at their index; every used one has a text in each language
     for (int index = 1; index <= 152; ++index) {
         CAPTURE(index);
         CHECK(LangTextTable.at(static_cast<size_t>(index) - 1).Index == index);
-        for (const Column column : kColumns) CHECK((*TextAt(index, column) == 0) == IsUnused(index));
+        for (const Column column : kColumns) CHECK(TextAt(index, column).empty() == IsUnused(index));
     }
 }
 
@@ -68,35 +71,35 @@ TEST_CASE("Rows that are known to the letter") {
     };
     for (const Row& row : rows)
         for (size_t language = 0; language < 3; ++language)
-            CHECK(std::wstring(TextAt(row.index, kColumns[language])) == row.texts[language]);
+            CHECK(TextAt(row.index, kColumns[language]) == row.texts[language]);
     for (const int index : {130, 146})
-        CHECK(std::wstring(TextAt(index, &LangTextRow::German)) == TextAt(index, &LangTextRow::English));
+        CHECK(TextAt(index, &LangTextRow::German) == TextAt(index, &LangTextRow::English));
 }
 
 TEST_CASE("Texts that others build upon keep their shape in every language") {
     for (const Column column : kColumns) {
-        for (const int index : {8, 9, 149}) CHECK(std::wstring(TextAt(index, column)).ends_with(L' '));
-        CHECK(*TextAt(89, column) == L'&');
+        for (const int index : {8, 9, 149}) CHECK(TextAt(index, column).ends_with(L' '));
+        CHECK(TextAt(89, column).front() == L'&');
         const std::wstring twoLines = TextAt(121, column);
         CHECK(std::ranges::count(twoLines, L'\r') == 1);
         CHECK(twoLines.find(L'\n') == std::wstring::npos);
         for (const int index : {12, 60, 61}) CHECK(AccessKey(TextAt(index, column)) != 0);
         for (const LangTextRow& row : LangTextTable)
-            if (row.Index != 121) CHECK(std::wstring(row.*column).find_first_of(L"\r\n") == std::wstring::npos);
+            if (row.Index != 121) CHECK(std::string_view(row.*column).find_first_of("\r\n") == std::string_view::npos);
     }
     const std::wstring german = TextAt(108, &LangTextRow::German);
-    CHECK(std::wstring(TextAt(108, &LangTextRow::English)) ==
-          std::wstring(L"Please contact ") + Vendor::SupportEmail + L" with this error message.");
-    CHECK(std::wstring(TextAt(108, &LangTextRow::French)).find(Vendor::SupportEmail) != std::wstring::npos);
-    CHECK(german.find(Vendor::GermanSupportEmail) != std::wstring::npos);
-    CHECK(german.find(Vendor::SupportEmail) == std::wstring::npos);
+    const std::wstring email = FromUtf8(Vendor::SupportEmail);
+    CHECK(TextAt(108, &LangTextRow::English) == L"Please contact " + email + L" with this error message.");
+    CHECK(TextAt(108, &LangTextRow::French).find(email) != std::wstring::npos);
+    CHECK(german.find(FromUtf8(Vendor::GermanSupportEmail)) != std::wstring::npos);
+    CHECK(german.find(email) == std::wstring::npos);
 }
 
 TEST_CASE("Access keys exist where English has them and do not clash within a menu or dialog") {
     for (const LangTextRow& row : LangTextTable)
         for (const Column column : kColumns) {
             CAPTURE(row.Index);
-            CHECK((AccessKey(row.*column) != 0) == (AccessKey(row.English) != 0));
+            CHECK((AccessKey(FromUtf8(row.*column)) != 0) == (AccessKey(FromUtf8(row.English)) != 0));
         }
     const std::vector<int> groups[] = {{128, 125, 59, 56},   {55, 89},  {122, 61, 60},
                                        {130, 57, 58},        {62, 129}, {62, 55},
