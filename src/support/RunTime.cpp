@@ -14,8 +14,10 @@ void __verbose_terminate_handler() { std::abort(); } // NOLINT
 
 namespace {
 
-[[noreturn]] void InvalidCall() { throw Error(BasicError::InvalidCall, L"Invalid procedure call or argument"); }
-[[noreturn]] void OutOfRange() { throw Error(BasicError::OutOfRange, L"Subscript out of range"); }
+[[noreturn]] void InvalidCall() {
+    throw Error(BasicError::InvalidCall, L"Invalid procedure call or argument", Where());
+}
+[[noreturn]] void OutOfRange() { throw Error(BasicError::OutOfRange, L"Subscript out of range", Where()); }
 
 } // namespace
 
