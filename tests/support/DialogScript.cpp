@@ -49,6 +49,15 @@ std::wstring WindowText(HWND window) {
     return text;
 }
 
+void Leave(HWND window) {
+    if (HWND cancel = FindControl(window, L"cmdCancel"); cancel && IsWindowVisible(cancel))
+        Click(cancel);
+    else if (GetDlgItem(window, IDNO))
+        PostMessageW(window, WM_COMMAND, IDNO, 0);
+    else
+        PostMessageW(window, WM_CLOSE, 0, 0);
+}
+
 void Click(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
 
 void TranslateKey(HWND control, WORD key, WORD held) {
@@ -111,6 +120,11 @@ DialogScript& DialogScript::Answer(int button) {
     return Then([button](HWND window) { PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0); });
 }
 
+DialogScript& DialogScript::Otherwise(std::function<void(HWND)> step) {
+    otherwise_ = std::move(step);
+    return *this;
+}
+
 LRESULT CALLBACK DialogScript::OnHook(int code, WPARAM wParam, LPARAM lParam) {
     HWND window = reinterpret_cast<HWND>(wParam);
     if (current && code == HCBT_ACTIVATE && IsDialog(window) && std::ranges::count(current->met_, window) == 0) {
@@ -137,6 +151,10 @@ void CALLBACK DialogScript::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 
 void DialogScript::Meet(HWND window) {
     seen_.push_back({WindowText(window), MessageText(window)});
+    if (steps_.empty() && otherwise_) {
+        otherwise_(window);
+        return;
+    }
     if (steps_.empty()) {
         unexpected_.push_back(seen_.back());
         PostMessageW(window, WM_CLOSE, 0, 0);

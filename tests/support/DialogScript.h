@@ -27,6 +27,8 @@ public:
     DialogScript& Then(std::function<void(HWND)> step);
     /// The next window is a message box and gets this answer (IDOK, IDYES, ...).
     DialogScript& Answer(int button);
+    /// Every window that no step expects gets this, and is expected so.
+    DialogScript& Otherwise(std::function<void(HWND)> step);
     /// Everything that came up so far, in order.
     const std::vector<Seen>& All() const { return seen_; }
 
@@ -38,6 +40,7 @@ private:
     HHOOK hook_;
     UINT_PTR timer_;
     std::deque<std::function<void(HWND)>> steps_;
+    std::function<void(HWND)> otherwise_;
     std::vector<HWND> waiting_;
     std::vector<HWND> met_;
     std::vector<Seen> seen_;
@@ -46,6 +49,9 @@ private:
 
 /// The control of that name (and index) on a form, found as a screen-automation tool finds it; null when there is none.
 HWND FindControl(HWND form, const wchar_t* name, int index = 0);
+
+/// Leaves a dialog as by Cancel, a message box by OK or No.
+void Leave(HWND window);
 
 /// A window's text.
 std::wstring WindowText(HWND window);

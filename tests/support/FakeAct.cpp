@@ -222,6 +222,7 @@ HRESULT FakeAct::Invoke(const std::wstring& member, WORD flags, const DISPPARAMS
     for (UINT index = parameters.cArgs; index > 0; --index)
         call += Shown(parameters.rgvarg[index - 1]) + (index > 1 ? L", " : L"");
     Calls.push_back(flags == DISPATCH_PROPERTYPUT ? call : call + L")");
+    if (const auto outcome = Fault ? Fault(member, result) : std::nullopt) return *outcome;
     if (const auto failure = Failures.find(member); failure != Failures.end()) {
         if (failure->second.Plain) return failure->second.Plain;
         exception->wCode = failure->second.wCode;

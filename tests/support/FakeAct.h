@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,9 @@ public:
     bool UseLastDatabase = false;
     long InstanceCount = 1;
     bool RegistrationFailed = false;
+    /// Asked before each call is answered; what it returns is the call's outcome then. `result`, null where none is
+    /// wanted, may have been set.
+    std::function<std::optional<HRESULT>(const std::wstring& member, VARIANT* result)> Fault;
 
     /// Raises OnActUserWantsToClose in the listener, as the event component does.
     void UserWantsToClose();
