@@ -64,6 +64,13 @@ bool HoldsSettings(const std::wstring& path) {
     return bytes && bytes->find('[') != std::string::npos && FileHealth::Inspect(path) == FileHealth::State::Sound;
 }
 
+/// A write cuts lines at their first zero byte: what such a file holds behind it would be gone.
+bool WouldBeCut(const std::wstring& path) {
+    const auto bytes = SafeFile::Read(path);
+    return bytes && bytes->find_first_not_of('\0') != std::string::npos &&
+           FileHealth::Inspect(path) == FileHealth::State::Empty;
+}
+
 /// Neither hidden nor read-only: the copy must be easy to find and to replace.
 bool Copy(const std::wstring& from, const std::wstring& to) {
     return CopyFileW(from.c_str(), to.c_str(), FALSE) && SetFileAttributesW(to.c_str(), FILE_ATTRIBUTE_NORMAL);
@@ -77,8 +84,10 @@ void KeepOnce(const std::wstring& settingsFile) {
     static std::wstring kept;
     if (settingsFile == kept) return;
     kept = settingsFile;
-    const std::wstring folder = HoldsSettings(settingsFile) ? BackupFolder() : L"";
-    if (folder.empty() || !Copy(settingsFile, folder + Prefix(settingsFile) + TimeStamp() + L".ini")) return;
+    const bool isSound = HoldsSettings(settingsFile);
+    const std::wstring folder = isSound || WouldBeCut(settingsFile) ? BackupFolder() : L"";
+    const wchar_t* const ending = isSound ? L".ini" : L".damaged.txt"; // the latter is never offered
+    if (folder.empty() || !Copy(settingsFile, folder + Prefix(settingsFile) + TimeStamp() + ending)) return;
     const std::vector<std::wstring> copies = Copies(settingsFile);
     for (size_t index = 0; index + kKept < copies.size(); ++index) DeleteFileW(copies[index].c_str());
 }

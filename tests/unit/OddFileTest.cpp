@@ -1,0 +1,170 @@
+// Settings files and names as no careful program writes them: what is read stays readable, and nothing is lost by a
+// write.
+
+#include "settings/Backup.h"
+#include "settings/Database.h"
+#include "settings/FileHealth.h"
+#include "settings/SafeFile.h"
+#include "settings/UserStore.h"
+#include "support/ScratchRegistry.h"
+#include "support/TempFile.h"
+#include "support/Wide.h"
+#include "win32/AnsiText.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+
+namespace {
+
+struct OddFile : ScratchRegistry {
+    OddFile() {
+        LocalData(file.Folder() + L"\\Local");
+        IniLib::SettingsFile(file.Path());
+    }
+    ~OddFile() { IniLib::SettingsFile({}); }
+
+    TempFile file{L"Kelmorra.ini"};
+};
+
+using Section = std::vector<std::pair<std::wstring, std::wstring>>;
+using Contents = std::vector<std::pair<std::wstring, Section>>;
+
+Contents ReadAll() {
+    Contents all;
+    constexpr size_t kMost = 6; // of each file: all would take long
+    for (const std::wstring& section : IniLib::Extract_Sections())
+        if (all.size() < kMost) all.emplace_back(section, IniLib::ReadSection(section));
+    return all;
+}
+
+bool HasNew() { return IniLib::GetKeyValue(L"New", L"Key") == L"value"; }
+
+std::string Utf16(const std::string& text, bool isBigEndian) {
+    std::string bytes = isBigEndian ? "\xFE\xFF" : "\xFF\xFE";
+    for (const char byte : text) bytes += isBigEndian ? std::string{'\0', byte} : std::string{byte, '\0'};
+    return bytes;
+}
+
+} // namespace
+
+TEST_CASE_FIXTURE(OddFile, "Marks, line ends, rubbish and size keep no value from being read and kept by a write") {
+    const std::string plain = "[General]\r\nSort=A;B\r\n[A]\r\nPath=C:\\A.dbf\r\n";
+    const std::string longLine(1'000'000, 'x');
+    std::string lf = plain;
+    std::erase(lf, '\r');
+    std::string big = plain;
+    while (big.size() < 10'000'000)
+        big += "[Filler " + std::to_string(big.size()) + "]\r\nPath=" + longLine.substr(0, 990) + "\r\n";
+    std::string sections = plain;
+    for (int number = 0; number < 100'000; ++number) sections += '[' + std::to_string(number) + "]\r\n";
+    const std::pair<const char*, std::string> files[] = {
+        {"UTF-8 with a mark", "\xEF\xBB\xBF" + plain},
+        {"UTF-16", Utf16(plain, false)},
+        {"UTF-16, other byte order", Utf16(plain, true)},
+        {"LF", lf},
+        {"no line end at the end", plain.substr(0, plain.size() - 2)},
+        {"an end-of-file mark of DOS", plain + "\x1A"},
+        {"rubbish", "rubbish\r\n[\r\n=\r\n[]\r\n]\r\n" + plain + "[A\r\n=x\r\n;[A]\r\n[A]]\r\nPath=other\r\n"},
+        {"a long line", plain + "Long=" + longLine + "\r\n[B]\r\nPath=C:\\B.dbf\r\n"},
+        {"10 MB", big},
+        {"100,000 sections", sections}};
+    for (const auto& [name, bytes] : files) {
+        CAPTURE(name);
+        file.Bytes(bytes);
+        const Contents before = ReadAll();
+        CHECK(DatabaseList::ReadSort() == std::vector<std::wstring>{L"A", L"B"});
+        CHECK(ExtractInfo(L"A").Path == L"C:\\A.dbf");
+        CHECK(IniLib::WriteKeyValue(L"New", L"Key", L"value"));
+        CHECK(HasNew());
+        CHECK(DatabaseList::ReadSort() == std::vector<std::wstring>{L"A", L"B"});
+        Contents after = ReadAll();
+        if (after.size() > before.size()) after.resize(before.size());
+        CHECK(after == before);
+    }
+}
+
+TEST_CASE_FIXTURE(OddFile, "A list longer than the platform reads is shown in part and never written back in part") {
+    for (const size_t length : {34'000U, 65'534U, 65'540U, 1'000'000U}) {
+        CAPTURE(length);
+        std::string sort;
+        while (sort.size() < length) sort += "Database " + std::to_string(sort.size()) + ';';
+        file.Bytes("[General]\r\nSort=" + sort + "\r\n");
+        const std::string before = file.Bytes();
+        CHECK(DatabaseList::ReadSort().size() > 50);
+        IniLib::Change change;
+        DatabaseList::WriteSort(change, {L"A"});
+        CHECK_FALSE(change.Commit());
+        CHECK((file.Bytes() == before)); // in parentheses: not to be shown
+    }
+}
+
+TEST_CASE_FIXTURE(OddFile, "Of random bytes whatever reads as a value still does so after a write") {
+    std::mt19937 random(4711); // NOLINT(cert-msc51-cpp): the same files in every run
+    constexpr std::string_view kOften = "[]=;\"' \t\r\n\r\nAB";
+    for (int round = 0; round < 40; ++round) {
+        std::string bytes;
+        for (unsigned left = random() % 400; left > 0; --left)
+            bytes += random() % 2 ? kOften[random() % kOften.size()] : static_cast<char>(random() % 255 + 1);
+        CAPTURE(round);
+        file.Bytes(bytes);
+        const Contents before = ReadAll();
+        const bool isWritten = IniLib::WriteKeyValue(L"New", L"Key", L"value");
+        CHECK((isWritten ? HasNew() : file.Bytes() == bytes));
+        for (const auto& [section, values] : before) {
+            const Section after = IniLib::ReadSection(section); // may have more: the platform drops blank sections
+            for (const auto& value : values) CHECK(std::ranges::count(after, value) > 0);
+        }
+    }
+}
+
+TEST_CASE_FIXTURE(OddFile, "What a file with zero bytes holds is kept before the first write, which cuts its lines") {
+    const std::string damaged("[General]\r\nSort=A;B\0;C;D\r\n", 26);
+    file.Bytes(damaged);
+    CHECK(IniLib::WriteKeyValue(L"New", L"Key", L"value"));
+    bool isKept = false;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(file.Folder()))
+        isKept = isKept || SafeFile::Read(entry.path().wstring()) == damaged;
+    CHECK(isKept);
+    CHECK_FALSE(Backup::LastGood(file.Path())); // not offered: it is no sound file
+}
+
+TEST_CASE_FIXTURE(OddFile, "A database may have any name: it keeps its own values and touches nobody else's") {
+    std::vector<std::wstring> names{L"CON",     L"NUL.txt", L"C:",    L"A\\B", L"\\", L"Display\\A", L"[A]",
+                                    L"A]B",     L"\"A\"",   L"'",     L"=",    L";A", L"General",    L"Settings",
+                                    L"Options", L"Display", L"Logon", L"A\tB", L"%s"};
+    for (int code = 0x21; code < 249; code += 8) {
+        std::string bytes;
+        for (int next = code; next < code + 8; ++next) bytes += static_cast<char>(next);
+        names.push_back(ToWide(bytes));
+    }
+    for (const size_t length : {2U, 253U, 255U, 256U, 998U}) names.emplace_back(length, L'n');
+    for (const std::wstring& name : names) {
+        CAPTURE(name);
+        file.Bytes("[General]\r\nSort=Other\r\n[Other]\r\nPath=C:\\Other.dbf\r\n");
+        UserStore::Set(L"Settings", L"Width", L"9000");
+        UserStore::Set(L"Other", L"Username", L"Pat");
+        const std::string before = file.Bytes();
+        CHECK(IniLib::WriteKeyValue(name, L"Path", L"C:\\Own.dbf"));
+        CHECK(ExtractInfo(name).Path == L"C:\\Own.dbf");
+        // The registry knows no longer names of keys.
+        const bool isStored = UserStore::Set(name, L"Username", L"Chris");
+        if (name.size() <= 255) CHECK(isStored);
+        CHECK(UserStore::Get(name, L"Username") == (isStored ? L"Chris" : L""));
+        if (name.find(L';') == std::wstring::npos) {
+            IniLib::Change change;
+            DatabaseList::WriteSort(change, {name, L"Other"});
+            CHECK(change.Commit());
+            CHECK(DatabaseList::ReadWholeSort() == std::vector<std::wstring>{name, L"Other"});
+        }
+        IniLib::Change change;
+        DatabaseList::DeleteFileRecord(change, name);
+        change.WriteKeyValue(L"General", L"Sort", L"Other");
+        CHECK(change.Commit());
+        DatabaseList::DeleteUserRecord(name);
+        CHECK(file.Bytes() == before);
+        CHECK(UserStore::Get(name, L"Username").empty());
+        CHECK(UserStore::Get(L"Settings", L"Width") == L"9000");
+        CHECK(UserStore::Get(L"Other", L"Username") == L"Pat");
+    }
+}
