@@ -66,6 +66,8 @@ void frmProperties::Form_Load() try {
 }
 
 void frmProperties::SetCaptions() {
+    constexpr WPARAM kLongestName = 255; // a key of the registry, for the log-on, has no longer one
+    SendMessageW(txtName.Handle(), EM_LIMITTEXT, kLongestName, 0);
     Caption(OldName_.empty() ? LangText[83] : LangText[83] + L": " + OldName_);
     Label1.Text(LangText[84] + L":");
     Label2.Text(LangText[85] + L":");

@@ -79,6 +79,19 @@ TEST_CASE("A new database gets its section, its log-on values and its place at t
     CHECK(session.Row.Replaced.empty());
 }
 
+TEST_CASE("No longer name can be typed than the log-on can be stored under") {
+    ActDesk desk;
+    Session session;
+    session.Open(L"", [](HWND dialog) {
+        FillNew(dialog, L"");
+        for (int count = 0; count < 300; ++count) SendMessageW(FindControl(dialog, L"txtName"), WM_CHAR, L'n', 0);
+        PressOK(dialog);
+    });
+    session.Run();
+    CHECK(Ini(L"General", L"Sort") == std::wstring(255, L'n'));
+    CHECK(Stored(std::wstring(255, L'n').c_str(), L"Username") == L"Chris");
+}
+
 TEST_CASE("A rename that the settings file refuses changes none of it and keeps the old name's log-on") {
     ActDesk desk;
     AddSales(desk);
