@@ -1,13 +1,12 @@
 // An ACT! that misbehaves at any one call of the start and of an open. An ordinary run tries a part of all pairs of a
-// call and a fault; with KELMORRA_SOAK set in the environment it is every pair.
+// call and a fault; with KELMORRA_SOAK_FAULTS=1 in the environment it is every pair.
 
 #include "i18n/modLangues.h"
 #include "settings/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
+#include "support/Setting.h"
 #include "support/Wide.h"
-
-#include <cstdlib>
 
 namespace {
 
@@ -110,7 +109,7 @@ size_t CallsOfARun() {
 
 bool IsTried(size_t pair) {
     constexpr size_t kPart = 27; // has no divisor in common with the number of faults
-    return std::getenv("KELMORRA_SOAK") || pair % kPart == 0;
+    return pair % Setting("KELMORRA_SOAK_FAULTS", kPart) == 0;
 }
 
 } // namespace

@@ -2,11 +2,11 @@
 // KELMORRA_SOAK_KILLS and KELMORRA_SOAK_UPDATES set other counts than the small ones of an ordinary run.
 
 #include "support/JourneyProcess.h"
+#include "support/Setting.h"
 #include "support/TempFile.h"
 #include "support/Wide.h"
 #include "win32/AnsiText.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <list>
 #include <random>
@@ -16,11 +16,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWriters = 4;
-
-unsigned long Setting(const char* name, unsigned long otherwise) {
-    const char* const text = std::getenv(name);
-    return text ? std::strtoul(text, nullptr, 10) : otherwise;
-}
 
 /// Some 19 KB as an office has them, spelled as the platform writes them.
 std::string OfficeFile() {
