@@ -158,6 +158,12 @@ void frmMain::CreateSettingsFile() {
     const FileHandle file(
         CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
     constexpr char kBlankLine[] = " \r\n";
+    if (!file && GetLastError() == ERROR_ACCESS_DENIED) {
+        const std::wstring hint = Text::Replace(Translated(MoreText::FolderNotWritable), L"%1", path);
+        MsgBox(Text::Replace(hint, L"%2", Text::Replace(LangText[59], L"&", L"") + L" > " + LangText[122]),
+               MsgIcon::Exclamation);
+        return;
+    }
     DWORD written = 0;
     if (!file || !WriteFile(file.Get(), kBlankLine, sizeof kBlankLine - 1, &written, nullptr))
         throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(GetLastError())) + L" " + path);

@@ -10,7 +10,7 @@ namespace {
 // UTF-8, like the numbered table: English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const char*, 3>;
 
-constexpr std::array<Translations, 15> kTexts{{
+constexpr std::array<Translations, 16> kTexts{{
     {"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      "file.",
      "La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -45,6 +45,12 @@ constexpr std::array<Translations, 15> kTexts{{
     {"open in ACT!", "ouverte dans ACT!", "in ACT! geöffnet"},
     {"The database file is not there:", "Le fichier de la base est introuvable :",
      "Die Datenbankdatei ist nicht vorhanden:"},
+    {"The list of databases cannot be kept in\r\n%1\r\nbecause you may not write there. Please choose another place "
+     "under %2.",
+     "La liste des bases de données ne peut pas être conservée dans\r\n%1\r\ncar vous n'avez pas le droit d'y écrire. "
+     "Veuillez choisir un autre emplacement sous %2.",
+     "Die Liste der Datenbanken kann nicht in\r\n%1\r\naufbewahrt werden, weil Sie dort nicht schreiben dürfen. Bitte "
+     "wählen Sie unter %2 einen anderen Ort."},
 }};
 
 } // namespace

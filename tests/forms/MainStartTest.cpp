@@ -80,6 +80,22 @@ TEST_CASE("From the settings file on, a failure is reported once and leaves a us
     End(window);
 }
 
+TEST_CASE("Where no settings file may be made the user is shown the way to another place, and the window comes up") {
+    ActDesk desk;
+    UserStore::Set(L"Settings", L"IniLocation", L"Z:\\sys\\Kelmorra.ini"); // a folder where nobody may
+    DialogScript script;
+    script.Answer(IDOK);
+    frmMain window;
+    window.Load();
+    CHECK(window.Visible());
+    REQUIRE(script.All().size() == 1);
+    CHECK(
+        script.All()[0].Text ==
+        L"The list of databases cannot be kept in\r\nZ:\\sys\\Kelmorra.ini\r\nbecause you may not write there. Please "
+        L"choose another place under Options > Settings File Location.");
+    End(window);
+}
+
 TEST_CASE("A settings file that has become empty is restored or not, as the user says, before it is first read") {
     for (const int answer : {IDYES, IDNO}) {
         ActDesk desk;
