@@ -49,7 +49,7 @@ void frmListMaintenance::Create_List() {
     lstDB.Clear();
     for (const std::wstring& name : DatabaseList::ReadSort()) lstDB.AddItem(name);
     isListRead_ = DatabaseList::WasRead();
-    stored_ = DatabaseList::ReadWholeSort();
+    NoteStored();
 }
 
 void frmListMaintenance::Form_Unload() try {

@@ -66,11 +66,13 @@ private:
     bool Save_List();
     bool Save_List(IniLib::Change& change);
     bool MergeOthers();
+    void NoteStored();
     std::vector<std::wstring> Lines() const;
 
     MainWindow& mainWindow_;
     bool isListRead_ = false;
     bool isMerged_ = false;            ///< others' changes have been taken over and the user has not been told
     std::vector<std::wstring> stored_; ///< the names as this dialog last read or wrote them
+    std::vector<std::wstring> shown_;  ///< the lines then: what is none of them was not taken out here
     std::vector<RemovedDatabase> removed_;
 };

@@ -28,11 +28,16 @@ bool frmListMaintenance::Save_List() {
 bool frmListMaintenance::Save_List(IniLib::Change& change) {
     const bool isMerged = MergeOthers();
     if (!isListRead_) change.Refuse(); // the lines are not what is stored
-    DatabaseList::WriteSort(change, Lines());
+    DatabaseList::MergeIntoSort(change, Lines(), shown_);
     if (!change.Commit()) return false;
     isMerged_ = isMerged_ || isMerged;
-    stored_ = DatabaseList::ReadWholeSort();
+    NoteStored();
     return true;
+}
+
+void frmListMaintenance::NoteStored() {
+    shown_ = Lines();
+    stored_ = DatabaseList::ReadWholeSort();
 }
 
 bool frmListMaintenance::MergeOthers() {
@@ -40,9 +45,10 @@ bool frmListMaintenance::MergeOthers() {
     if (!DatabaseList::WasRead()) return false;
     bool isMerged = false;
     for (const std::wstring& name : DatabaseList::ReadSort())
-        if (!Has(stored_, name) && !Has(Lines(), name)) {
+        if (!Has(shown_, name) && !Has(Lines(), name)) {
             lstDB.AddItem(name);
-            isMerged = true;
+            // One that the list was too long to show before is nobody's change.
+            isMerged = isMerged || !Has(stored_, name);
         }
     for (int line = lstDB.ListCount() - 1; line >= 0; --line) {
         const std::wstring name = lstDB.List(line);

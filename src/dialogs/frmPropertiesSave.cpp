@@ -71,9 +71,7 @@ void frmProperties::Save() {
 bool frmProperties::SaveToFile(const std::wstring& name) {
     IniLib::Change change;
     if (isNew_) {
-        std::vector<std::wstring> names = DatabaseList::ReadSort();
-        names.push_back(name);
-        DatabaseList::WriteSort(change, names);
+        DatabaseList::AddToSort(change, name);
         if (!model_.empty()) WriteMissingFolders(change, name, ReadFolders(model_));
     } else if (name != OldName_) {
         Rename(change, name);

@@ -4,6 +4,7 @@
 #include "settings/NameList.h"
 #include "settings/UserStore.h"
 #include "support/Text.h"
+#include "win32/AnsiText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -44,6 +45,18 @@ NameList::Divided ReadSortList() {
     return NameList::Divide(IniLib::GetKeyValue(kGeneral, kSort), whole);
 }
 
+/// As ReadSortList divides it.
+NameList::Divided DivideSort(const std::wstring& whole) {
+    return NameList::Divide(ToWide(ToAnsi(whole).substr(0, IniLib::ShownBytes)), whole);
+}
+
+/// A change of a list that cannot be read now is refused.
+void EditList(IniLib::Change& change, const wchar_t* key, IniLib::Change::Edit edit) {
+    LastReading() = FileHealth::CanBeTrusted(IniLib::SettingsFile());
+    if (!LastReading()) change.Refuse();
+    change.EditKeyValue(kGeneral, key, std::move(edit));
+}
+
 } // namespace
 
 DatabaseRecord ExtractInfo(const std::wstring& name) {
@@ -65,15 +78,29 @@ bool WasRead() { return LastReading(); }
 
 void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names) {
     if (!WasRead()) change.Refuse();
-    const NameList::Divided stored = ReadSortList();
+    EditList(change, kSort,
+             [names](const std::wstring& whole) { return NameList::WithUnseen(names, DivideSort(whole).unseen); });
+}
+
+void MergeIntoSort(IniLib::Change& change, const std::vector<std::wstring>& names,
+                   const std::vector<std::wstring>& known) {
     if (!WasRead()) change.Refuse();
-    change.WriteKeyValue(kGeneral, kSort, NameList::WithUnseen(names, stored.unseen));
+    EditList(change, kSort,
+             [names, known](const std::wstring& whole) { return NameList::Merged(names, known, DivideSort(whole)); });
+}
+
+void AddToSort(IniLib::Change& change, const std::wstring& name) {
+    EditList(change, kSort, [name](const std::wstring& whole) {
+        NameList::Divided list = DivideSort(whole);
+        list.shown.push_back(name);
+        return NameList::WithUnseen(std::move(list.shown), list.unseen);
+    });
 }
 
 void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
-    const std::wstring sort = ReadList(kSort);
-    if (!WasRead()) change.Refuse();
-    change.WriteKeyValue(kGeneral, kSort, NameList::RenamedByText(sort, oldName, newName));
+    EditList(change, kSort, [oldName, newName](const std::wstring& whole) {
+        return NameList::RenamedByText(whole, oldName, newName);
+    });
 }
 
 bool IsLongerThanShown() { return !ReadSortList().unseen.empty(); }
@@ -86,12 +113,13 @@ std::vector<std::wstring> ReadQuickSwitch() {
 }
 
 void ReplaceInQuickSwitch(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName) {
-    const std::wstring buttons = ReadList(kQuickSwitch);
-    if (!WasRead()) change.Refuse();
     // An empty name is a button without a database, not one to be renamed.
     if (oldName.empty()) return;
-    const std::wstring renamed = NameList::Renamed(buttons, oldName, newName);
-    if (renamed != buttons) change.WriteKeyValue(kGeneral, kQuickSwitch, renamed);
+    EditList(change, kQuickSwitch, [oldName, newName](const std::wstring& whole) {
+        std::optional<std::wstring> renamed = NameList::Renamed(whole, oldName, newName);
+        if (renamed == whole) renamed.reset();
+        return renamed;
+    });
 }
 
 void DeleteFileRecord(IniLib::Change& change, const std::wstring& name) {

@@ -48,6 +48,14 @@ std::vector<std::wstring> ReadWholeSort();
 /// change is refused when the list could not be read (WasRead).
 void WriteSort(IniLib::Change& change, const std::vector<std::wstring>& names);
 
+/// The same, and what others change until the change is made stays: names that they add, and that they take away of the
+/// `known` ones.
+void MergeIntoSort(IniLib::Change& change, const std::vector<std::wstring>& names,
+                   const std::vector<std::wstring>& known);
+
+/// Adds a database behind those that ReadSort shows. Refused like WriteSort.
+void AddToSort(IniLib::Change& change, const std::wstring& name);
+
 /// Renames a database in the list, by exact text replacement (NameList::RenamedByText).
 void RenameInSort(IniLib::Change& change, const std::wstring& oldName, const std::wstring& newName);
 

@@ -37,6 +37,14 @@ bool KeyExists(const char* section, const char* key, const char* file) {
     return false;
 }
 
+/// Nothing when there is more than the platform reads.
+std::optional<std::wstring> WholeValue(const char* section, const char* key, const char* file) {
+    std::string value(kLongestLine + 2, '\0');
+    value.resize(GetPrivateProfileStringA(section, key, "", value.data(), static_cast<DWORD>(value.size()), file));
+    if (value.size() > kLongestLine) return std::nullopt;
+    return ToWide(value);
+}
+
 /// The platform places a bare file name in a folder of the system.
 bool HasFolder(const std::wstring& path) { return path.find_first_of(L"\\/:") != std::wstring::npos; }
 
@@ -49,7 +57,7 @@ Change::Change(const std::wstring& fileName) : fileName_(ToWide(ToAnsi(fileName)
 
 void Change::Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value) {
     if (section.empty()) Refuse();
-    steps_.push_back({ToAnsi(section), std::move(key), std::move(value)});
+    steps_.push_back({ToAnsi(section), std::move(key), std::move(value), {}});
 }
 
 void Change::WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
@@ -57,6 +65,11 @@ void Change::WriteKeyValue(const std::wstring& section, const std::wstring& key,
     std::string bytes = Quoted(ToAnsi(value));
     if (keyBytes.size() + bytes.size() > kLongestLine) Refuse();
     Add(section, std::move(keyBytes), std::move(bytes));
+}
+
+void Change::EditKeyValue(const std::wstring& section, const std::wstring& key, Edit edit) {
+    Add(section, ToAnsi(key), {});
+    steps_.back().edit = std::move(edit);
 }
 
 void Change::DeleteKey(const std::wstring& section, const std::wstring& key) { Add(section, ToAnsi(key), {}); }
@@ -68,7 +81,20 @@ bool Change::Make(const std::wstring& path) const {
     return std::ranges::all_of(steps_, [&](const Step& step) { return MakeStep(step, file.c_str()); });
 }
 
+bool Change::MakeEdit(const Step& step, const char* file) {
+    const auto whole = WholeValue(step.section.c_str(), step.key->c_str(), file);
+    const auto value = whole ? step.edit(*whole) : std::nullopt;
+    if (whole && !value) return true;
+    const std::string bytes = Quoted(ToAnsi(value.value_or(L"")));
+    if (!whole || step.key->size() + bytes.size() > kLongestLine) {
+        SetLastError(ERROR_BUFFER_OVERFLOW);
+        return false;
+    }
+    return WritePrivateProfileStringA(step.section.c_str(), step.key->c_str(), bytes.c_str(), file) != 0;
+}
+
 bool Change::MakeStep(const Step& step, const char* file) {
+    if (step.edit) return MakeEdit(step, file);
     const char* const section = step.section.c_str();
     const char* const key = step.key ? step.key->c_str() : nullptr;
     // The platform would rewrite the file for a key that is not there.

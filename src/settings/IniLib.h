@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -11,6 +12,9 @@
 /// without one always mean the current settings file. An empty section name is never passed on to the platform: such a
 /// read yields its default, such a write does nothing and fails.
 namespace IniLib {
+
+/// How much of a value is shown.
+inline constexpr size_t ShownBytes = 998;
 
 /// Full path of the current settings file; empty until it is set.
 const std::wstring& SettingsFile();
@@ -52,6 +56,11 @@ public:
     explicit Change(const std::wstring& fileName = SettingsFile());
 
     void WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value);
+    /// Writes what `edit` makes of the whole value ("" when missing) as it stands when the change is made, while other
+    /// writers are kept out; nothing when it gives nothing. For lists, of which others change other elements. `edit`
+    /// may be called again after a failure.
+    using Edit = std::function<std::optional<std::wstring>(const std::wstring& whole)>;
+    void EditKeyValue(const std::wstring& section, const std::wstring& key, Edit edit);
     void DeleteKey(const std::wstring& section, const std::wstring& key);
     void DeleteSection(const std::wstring& section);
     /// Lets Commit fail: a part of the change cannot be told.
@@ -67,10 +76,12 @@ private:
     struct Step {
         std::string section;
         std::optional<std::string> key, value; ///< none: the section, or the key, goes
+        Edit edit;                             ///< makes the value, where there is one
     };
     void Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value);
     bool Make(const std::wstring& path) const;
     static bool MakeStep(const Step& step, const char* file);
+    static bool MakeEdit(const Step& step, const char* file);
 
     std::wstring fileName_;
     std::vector<Step> steps_;

@@ -8,6 +8,10 @@ namespace {
 
 constexpr wchar_t kSeparator = L';';
 
+bool Has(const NameList::Names& names, const std::wstring& name) {
+    return std::ranges::find(names, name) != names.end();
+}
+
 } // namespace
 
 namespace NameList {
@@ -28,6 +32,15 @@ std::wstring WithUnseen(Names names, const Names& unseen) {
     for (const std::wstring& name : unseen)
         if (std::ranges::find(given, name) == given.end()) names.push_back(name);
     return Text::Join(names, kSeparator);
+}
+
+std::wstring Merged(Names names, const Names& known, const Divided& list) {
+    std::erase_if(names, [&](const std::wstring& name) {
+        return Has(known, name) && !Has(list.shown, name) && !Has(list.unseen, name);
+    });
+    for (const std::wstring& name : list.shown)
+        if (!Has(names, name) && !Has(known, name)) names.push_back(name);
+    return WithUnseen(std::move(names), list.unseen);
 }
 
 std::wstring RenamedByText(std::wstring_view list, std::wstring_view oldName, std::wstring_view newName) {

@@ -9,6 +9,7 @@
 #include "settings/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
+#include "support/Text.h"
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
@@ -97,6 +98,23 @@ TEST_CASE("A removal that the settings file refuses leaves record, list and log-
     CHECK(desk.SettingsBytes() == before);
     CHECK(UserStore::Get(L"A", L"Username") == L"Chris");
     SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_CASE("Names that come into sight when a long list gets shorter stay in it") {
+    ActDesk desk;
+    std::vector<std::wstring> names;
+    for (int number = 100; number < 180; ++number) names.push_back(std::to_wstring(number) + L" with a long name");
+    REQUIRE(IniLib::WriteKeyValue(L"General", L"Sort", Text::Join(names, L';')));
+    SelectedRow row(0);
+    DialogScript script;
+    script.Then([](HWND dialog) {
+        for (int count = 0; count < 3; ++count) Press(dialog, L"cmdRemove");
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    frmListMaintenance(row).ShowModal();
+    names.erase(names.begin(), names.begin() + 3);
+    CHECK(IniLib::GetWholeValue(L"General", L"Sort") == Text::Join(names, L';'));
+    CHECK(script.All().size() == 1); // nobody is told of others' changes
 }
 
 TEST_CASE("Moves are written when the dialog closes, in any way, and the moved line stays selected") {

@@ -42,6 +42,19 @@ void CheckCutReading(const std::wstring& list, std::size_t length) {
     for (const std::wstring& name : all) Require(name.empty() || std::ranges::find(written, name) != written.end());
 }
 
+bool Has(const Names& names, const std::wstring& name) { return std::ranges::find(names, name) != names.end(); }
+
+/// What others have added stays, and so does what is not shown; what was taken out here is gone.
+void CheckMerging(const Names& names, const Names& known, const NameList::Divided& list) {
+    const Names merged = Text::Split(NameList::Merged(names, known, list), L';');
+    for (const std::wstring& name : list.shown)
+        Require(name.empty() || Has(merged, name) == (Has(names, name) || !Has(known, name) || Has(list.unseen, name)));
+    for (const std::wstring& name : list.unseen) Require(name.empty() || Has(merged, name));
+    for (const std::wstring& name : names)
+        Require(name.empty() || !Has(known, name) ||
+                Has(merged, name) == (Has(list.shown, name) || Has(list.unseen, name)));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -55,6 +68,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckRenaming(list, oldName, newName);
     CheckRemoval(list, oldName);
     CheckCutReading(list, place);
+    CheckMerging(Text::Split(typed, L';'), Text::Split(input.Line(), L';'),
+                 NameList::Divide(std::wstring_view(list).substr(0, place), list));
     NameList::Divide(typed, list); // of another list: no promise but to stay within it
     return 0;
 }

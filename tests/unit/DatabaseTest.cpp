@@ -8,6 +8,7 @@
 #include "support/Text.h"
 #include "support/Wide.h"
 
+#include <array>
 #include <functional>
 
 namespace {
@@ -53,6 +54,21 @@ Names LongList(size_t count, size_t length) {
 }
 
 } // namespace
+
+TEST_CASE_FIXTURE(Stores, "Changes of a list that are made up at the same moment all reach it") {
+    WriteSort({L"A", L"B", L"C", L"D"});
+    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;B;C");
+    std::array<IniLib::Change, 4> changes;
+    DatabaseList::RenameInSort(changes[0], L"A", L"X");
+    DatabaseList::ReplaceInQuickSwitch(changes[0], L"A", L"X");
+    DatabaseList::RenameInSort(changes[1], L"B", L"Y");
+    DatabaseList::ReplaceInQuickSwitch(changes[1], L"B", L"Y");
+    DatabaseList::AddToSort(changes[2], L"New");
+    DatabaseList::MergeIntoSort(changes[3], {L"D", L"A", L"B"}, {L"A", L"B", L"C", L"D"}); // D moved up, C removed
+    for (const IniLib::Change& change : changes) CHECK(change.Commit());
+    CHECK(Sort() == L"D;X;Y;New");
+    CHECK(IniLib::GetWholeValue(L"General", L"QuickSwitch") == L"X;Y;C");
+}
 
 TEST_CASE_FIXTURE(Stores, "The list of databases keeps empty names, and an empty list is an empty value") {
     CHECK(DatabaseList::ReadSort().empty());
