@@ -53,9 +53,10 @@ std::vector<std::wstring> Copies(const std::wstring& settingsFile) {
     WIN32_FIND_DATAW found{};
     const FindHandle search(FindFirstFileW((folder + Prefix(settingsFile) + L"*.ini").c_str(), &found));
     if (!search) return copies;
-    do copies.push_back(folder + found.cFileName);
-    while (FindNextFileW(search.Get(), &found));
-    std::ranges::sort(copies);
+    do {
+        const std::wstring path = folder + found.cFileName;
+        copies.insert(std::ranges::upper_bound(copies, path), path);
+    } while (FindNextFileW(search.Get(), &found));
     return copies;
 }
 
