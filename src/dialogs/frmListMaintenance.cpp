@@ -10,6 +10,7 @@
 #include "support/Text.h"
 
 #include <algorithm>
+#include <iterator>
 
 frmListMaintenance::frmListMaintenance(MainWindow& mainWindow)
     : Form({L"frmListMaintenance", 5610, 4200}), mainWindow_(mainWindow) {}
@@ -75,12 +76,10 @@ bool frmListMaintenance::Form_KeyDown(const KeyPress& press) {
         {{.Key = 'D', .Ctrl = true}, &frmListMaintenance::mnuDuplicate_Click},
         {{.Key = 'Z', .Ctrl = true}, &frmListMaintenance::mnuUndo_Click},
     };
-    for (const auto& [shortcut, run] : kShortcuts)
-        if (shortcut == press) {
-            (this->*run)();
-            return true;
-        }
-    return false;
+    const auto* const found = std::ranges::find(kShortcuts, press, &Shortcut::Press);
+    if (found == std::end(kShortcuts)) return false;
+    (this->*found->Run)();
+    return true;
 }
 
 void frmListMaintenance::EnableButtons() {
