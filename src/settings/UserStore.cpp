@@ -85,7 +85,7 @@ std::vector<std::pair<std::wstring, std::wstring>> GetSection(const std::wstring
     for (DWORD index = 0;
          RegEnumValueW(opened.Get(), index, name.data(), &length, nullptr, &type, nullptr, nullptr) == ERROR_SUCCESS;
          ++index, length = kLongestValueName)
-        if (const std::wstring key(name.c_str()); type == REG_SZ) values.emplace_back(key, Get(section, key));
+        if (const std::wstring key(name, 0, length); type == REG_SZ) values.emplace_back(key, Get(section, key));
     return values;
 }
 

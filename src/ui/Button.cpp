@@ -2,8 +2,6 @@
 
 #include "support/Busy.h"
 
-#include <utility>
-
 namespace {
 
 DWORD StyleOf(ButtonRole role) { return (role == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP; }
@@ -12,8 +10,7 @@ DWORD StyleOf(ButtonRole role) { return (role == ButtonRole::Default ? BS_DEFPUS
 
 CommandButton::CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role,
                              Frame* container, int index)
-    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}, container, index), click_(std::move(click)),
-      role_(role) {}
+    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}, container, index), click_(click), role_(role) {}
 
 int CommandButton::Identifier(int ordinal) const {
     if (role_ == ButtonRole::Default) return IDOK;
@@ -26,7 +23,7 @@ void CommandButton::OnCommand(WORD notification) {
 
 CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click, int index)
     : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, &container, index),
-      click_(std::move(click)) {}
+      click_(click) {}
 
 bool CheckBox::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
@@ -48,7 +45,7 @@ OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, Tw
     : Control(form, name, place,
               {L"Button", static_cast<DWORD>(BS_AUTORADIOBUTTON | (index == 0 ? WS_GROUP | WS_TABSTOP : 0))},
               &container, index),
-      click_(std::move(click)) {}
+      click_(click) {}
 
 bool OptionButton::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }
 

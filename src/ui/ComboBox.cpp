@@ -1,11 +1,9 @@
 #include "ui/ComboBox.h"
 
-#include <utility>
-
 ComboBox::ComboBox(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index)
     : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, container,
               index),
-      click_(std::move(click)) {}
+      click_(click) {}
 
 void ComboBox::AddItem(const std::wstring& text) {
     SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));

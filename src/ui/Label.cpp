@@ -7,7 +7,7 @@ Label::Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* 
     : Control(form, name, place,
               {L"Static", static_cast<DWORD>((align == Align::Left ? SS_LEFT : SS_RIGHT) | (click ? SS_NOTIFY : 0))},
               container, index),
-      click_(std::move(click)) {}
+      click_(click) {}
 
 void Label::OnCommand(WORD notification) {
     // The second click of a double click is one too: two quick clicks on a label are two clicks.

@@ -5,8 +5,6 @@
 #include "support/Text.h"
 #include "ui/Form.h"
 
-#include <utility>
-
 namespace {
 
 void SetCaption(HMENU menu, UINT item, bool byPosition, const std::wstring& caption) {
@@ -42,7 +40,7 @@ void Menu::PopUp(POINT position, UINT flags) {
 }
 
 MenuItem::MenuItem(Form* form, Menu& menu, const wchar_t* name, Action click)
-    : form_(form), menu_(&menu), name_(name), click_(std::move(click)), identifier_(form->Register(*this)) {
+    : form_(form), menu_(&menu), name_(name), click_(click), identifier_(form->Register(*this)) {
     AppendMenuW(menu.menu_, MF_STRING, static_cast<UINT_PTR>(identifier_), name);
 }
 

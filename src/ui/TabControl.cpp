@@ -3,7 +3,7 @@
 #include <utility>
 
 TabControl::TabControl(Form* form, const wchar_t* name, Twips place, IndexAction click)
-    : Control(form, name, place, {WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP}), click_(std::move(click)) {}
+    : Control(form, name, place, {WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP}), click_(click) {}
 
 void TabControl::AddTab(const std::wstring& caption) {
     std::wstring text = caption;

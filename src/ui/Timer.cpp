@@ -4,10 +4,8 @@
 #include "support/Text.h"
 #include "ui/Form.h"
 
-#include <utility>
-
 Timer::Timer(Form* form, const wchar_t* name, Action timer)
-    : form_(form), name_(name), timer_(std::move(timer)), identifier_(form->Register(*this)) {}
+    : form_(form), name_(name), timer_(timer), identifier_(form->Register(*this)) {}
 
 void Timer::Interval(unsigned milliseconds) {
     const auto identifier = static_cast<UINT_PTR>(identifier_);
