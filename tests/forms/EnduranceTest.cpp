@@ -18,15 +18,51 @@
 #include "support/Setting.h"
 #include "support/Wide.h"
 
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <vector>
+
 namespace {
 
 constexpr int kWarmUp = 10; // cycles until everything has been made that is made once
 
+/// Creates a hidden control of the same class, style, font and text beside another one, and destroys it: what the
+/// platform does of itself for a control.
+void MakeTwin(HWND control) {
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(control, name.data(), static_cast<int>(name.size()));
+    RECT place{};
+    GetClientRect(control, &place);
+    const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE)) & ~DWORD{WS_VISIBLE};
+    HWND twin = CreateWindowExW(0, name.data(), L"", style, 0, 0, place.right, place.bottom, GetParent(control),
+                                nullptr, nullptr, nullptr);
+    SendMessageW(twin, WM_SETFONT, static_cast<WPARAM>(SendMessageW(control, WM_GETFONT, 0, 0)), FALSE);
+    SetWindowTextW(twin, WindowText(control).c_str());
+    DestroyWindow(twin);
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM windows) {
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+    return TRUE;
+}
+
+/// Heap bytes that the platform keeps for good of a dialog's controls. Wine 8 does so of labels and of texts of several
+/// lines.
+size_t KeptByPlatform(HWND dialog) {
+    constexpr int kTimes = 8;
+    std::vector<HWND> controls;
+    EnumChildWindows(dialog, &Collect, reinterpret_cast<LPARAM>(&controls));
+    const size_t before = Resources::Now().Heap;
+    for (int time = 0; time < kTimes; ++time) std::ranges::for_each(controls, MakeTwin);
+    return (Resources::Now().Heap - before) / kTimes;
+}
+
 /// Opens and leaves everything that can be opened over a main window, whose ACT! cannot open databases.
-void OpenAll(frmMain& window) {
+void OpenAll(frmMain& window, const std::function<void(HWND)>& leave = Leave) {
     Program().FriendlyName = L"Sales";
     DialogScript script;
-    script.Otherwise(Leave);
+    script.Otherwise(leave);
     frmAbout().ShowModal();
     frmLanguage().ShowModal();
     frmLocations().ShowModal();
@@ -64,12 +100,18 @@ std::string Shown(const Resources& held) {
 } // namespace
 
 TEST_CASE_FIXTURE(Office, "Dialogs, palette and failed opens leave nothing behind") {
-    constexpr size_t kSlack = 64 * 1024;  // for all cycles: the platform's own caches
+    constexpr size_t kSlack = 8 * 1024;   // for all cycles: the platform's own caches
     constexpr size_t kStep = 1024 * 1024; // what heaps grow by
     for (int cycle = 0; cycle < kWarmUp; ++cycle) {
         OpenAll(window);
         desk.Act.Calls.clear();
     }
+    size_t kept = 0;
+    OpenAll(window, [&](HWND dialog) {
+        kept += KeptByPlatform(dialog);
+        Leave(dialog);
+    });
+    desk.Act.Calls.clear();
     const Resources before = Resources::Now();
     const auto cycles = static_cast<int>(Setting("KELMORRA_SOAK_CYCLES", 14));
     for (int cycle = kWarmUp; cycle < cycles; ++cycle) {
@@ -77,12 +119,14 @@ TEST_CASE_FIXTURE(Office, "Dialogs, palette and failed opens leave nothing behin
         desk.Act.Calls.clear();
     }
     const Resources after = Resources::Now();
+    kept *= static_cast<size_t>(cycles - kWarmUp);
+    MESSAGE("kept by the platform of bare controls: " << kept / 1024 << " KB");
     MESSAGE("after " << kWarmUp << " cycles: " << Shown(before));
     MESSAGE("after " << cycles << " cycles: " << Shown(after));
     CHECK(after.Handles <= before.Handles);
     CHECK(after.Gdi <= before.Gdi);
     CHECK(after.User <= before.User);
-    CHECK(after.Heap <= before.Heap + kSlack);
+    CHECK(after.Heap <= before.Heap + kept + kSlack);
     CHECK(after.Bytes <= before.Bytes + kStep);
 }
 
