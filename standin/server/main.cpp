@@ -103,6 +103,14 @@ int Serve(const CommandLine& line) {
     return SUCCEEDED(registered) ? 0 : 1;
 }
 
+/// Under Wine 8 OleUninitialize now and then waits for ever when a client lets go of its objects meanwhile. It cannot
+/// be left out: it is what sends the last answers.
+DWORD WINAPI EndAnyway(void*) {
+    constexpr DWORD kPatience = 2000;
+    Sleep(kPatience);
+    return TerminateProcess(GetCurrentProcess(), 0) ? 0 : 1;
+}
+
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
@@ -115,6 +123,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
     InitCommonControlsEx(&controls);
     if (FAILED(OleInitialize(nullptr))) return 1;
     const int code = Serve(line);
+    const KernelHandle guard(CreateThread(nullptr, 0, &EndAnyway, nullptr, 0, nullptr));
     OleUninitialize();
     return code;
 }

@@ -57,18 +57,6 @@ TEST_CASE_FIXTURE(Journey, "a database that does not open leaves the window usab
     CHECK(Count(L"VIEWS", L"Create") == 1);
 }
 
-TEST_CASE_FIXTURE(Journey, "with no row selected the user is asked for one") {
-    StartAct(ListRealDatabase(L"Customers"));
-    HWND window = StartToMainWindow();
-    const size_t calls = CallCount();
-    JourneyWindow::Click(window, L"cmdOpen");
-    const JourneyWindow::Box box = AnswerBox();
-    CHECK(box.Title == L"Kelmorra");
-    CHECK(box.Text == L"No database selected!");
-    CHECK(Within([&] { return JourneyWindow::HasFocus(JourneyWindow::Control(window, L"ListView1")); }));
-    CHECK(CallCount() == calls);
-}
-
 TEST_CASE_FIXTURE(Journey,
                   "an ACT! that dies while it opens the database counts as a database that is not accessible") {
     HWND window = StartWithOne(*this);

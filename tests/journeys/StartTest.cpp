@@ -1,4 +1,4 @@
-// What a start does to the stores: upgrade, wipe, recorded defaults, and a settings file that cannot be made.
+// What a start does to the stores: upgrade, wipe, and a settings file that is made.
 
 #include "support/Journey.h"
 
@@ -68,79 +68,10 @@ TEST_CASE_FIXTURE(Journey, "only settings of an earlier version are upgraded") {
     }
 }
 
-TEST_CASE_FIXTURE(Journey, "ACT!'s own defaults are recorded at every start") {
-    StartAct(ListRealDatabase(L"Customers"));
-    for (const std::wstring folder : {L"C:\\One", L"C:\\Two", L""}) {
-        CAPTURE(folder);
-        const std::wstring contact = folder.empty() ? L"" : folder + L"\\c.cly";
-        Act(L"Preferences", L"DefaultContactLayout", contact);
-        Act(L"Preferences", L"DefaultGroupLayout", folder + L"\\g.gly");
-        Act(L"Preferences", L"StartupMacro", folder + L"\\m.mpr");
-        StartToMainWindow();
-        CHECK(User(L"Settings", L"OriginalCL") == contact);
-        CHECK(User(L"Settings", L"OriginalGL") == folder + L"\\g.gly");
-        CHECK(User(L"Settings", L"OriginalMacro") == folder + L"\\m.mpr");
-        Close();
-    }
-}
-
 TEST_CASE_FIXTURE(Journey, "a missing settings file is made, holding a single blank") {
     const std::wstring path = File(L"Customers.dbf");
     JourneyStores::FileBytes(path, "dBASE");
     StartAct(path);
     StartToMainWindow();
     CHECK(JourneyStores::FileBytes(SettingsFile()) == " \r\n");
-}
-
-TEST_CASE_FIXTURE(Journey, "a settings file that cannot be made is reported, and the window is there to mend it") {
-    StartAct(ListRealDatabase(L"Customers"));
-    User(L"Settings", L"IniLocation", File(L"no such folder\\Kelmorra.ini"));
-    Start();
-    const JourneyWindow::Box box = AnswerBox();
-    CHECK(box.Title == L"Kelmorra error");
-    CAPTURE(box.Text);
-    CHECK(box.Text.starts_with(L"Error "));
-    CHECK(box.Text.find(L"'\rin frmMain: Sub Form_Load - Line # ") != std::wstring::npos);
-    HWND window = MainWindow(Program());
-    CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"cmdOpen")) == L"&Open");
-    CHECK(ForeignList(JourneyWindow::Control(window, L"ListView1")).Rows() == 0);
-    CHECK(User(L"Settings", L"IniLocation") == File(L"no such folder\\Kelmorra.ini"));
-    Close();
-}
-
-TEST_CASE_FIXTURE(Journey, "an ACT! that fails before there is a list is reported, and the program ends") {
-    struct Case {
-        const wchar_t* member;
-        const wchar_t* fault;
-        const wchar_t* error;
-        const wchar_t* procedure;
-    };
-    const Case cases[] = {
-        {L"GetCurrentUserName", L"wCode 70", L"Error 70: 'Automation error'\r", L"in frmMain: Sub Form_Load - Line # "},
-        {L"Preferences", L"hresult 0x80020003", L"Error 438: '", L"in Module1: Sub Create_object - Line # "},
-        {L"OpenFile", L"die", L"Error 462: '", L"in Module1: Sub Create_object - Line # "},
-    };
-    StartAct(ListRealDatabase(L"Customers"));
-    for (const Case& expected : cases) {
-        CAPTURE(expected.member);
-        Act(L"Faults", expected.member, expected.fault);
-        Start();
-        const JourneyWindow::Box box = AnswerBox();
-        CAPTURE(box.Text);
-        CHECK(box.Title == L"Kelmorra error");
-        CHECK(box.Text.starts_with(expected.error));
-        CHECK(box.Text.find(expected.procedure) != std::wstring::npos);
-        CHECK(Program().ExitCode() == 0u);
-        Act(L"Faults", expected.member, L"");
-    }
-}
-
-TEST_CASE_FIXTURE(Journey, "an ACT! that fails later is reported, and the window comes with what could be had") {
-    StartAct(ListRealDatabase(L"Customers"));
-    Act(L"Faults", L"StartupMacro", L"wCode 70");
-    Start();
-    CHECK(AnswerBox().Text.starts_with(L"Error 70: 'Automation error'\rin frmMain: Sub Form_Load - Line # "));
-    HWND window = MainWindow(Program());
-    CHECK(ForeignList(JourneyWindow::Control(window, L"ListView1")).Rows() == 1);
-    Close();
 }

@@ -7,8 +7,6 @@ namespace {
 using JourneyStores::User;
 
 constexpr int kTwipsPerPixel = 15; // journeys run at 96 DPI
-constexpr int kDesignWidth = 8475 / kTwipsPerPixel;
-constexpr int kDesignHeight = 5190 / kTwipsPerPixel;
 
 SIZE SizeOf(HWND window) {
     RECT place{};
@@ -64,25 +62,6 @@ TEST_CASE_FIXTURE(Journey, "size, columns and selection are there again at the n
     CHECK(list.Selected() == 1);
 }
 
-TEST_CASE_FIXTURE(Journey, "stored garbage gives the design's measures") {
-    StartActWithTwo(*this);
-    HWND window = StartToMainWindow();
-    const int designColumn = ForeignList(ListOf(window)).ColumnWidth(0);
-    Close();
-    User(L"Settings", L"Width", L"wide");
-    User(L"Settings", L"Height", L"");
-    User(L"Settings", L"Column0", L"-30");
-    User(L"Settings", L"Column1", L"1500,4");
-    User(L"Display", L"Selected", L"99");
-    window = StartToMainWindow();
-    CHECK(SizeOf(window).cx == kDesignWidth);
-    CHECK(SizeOf(window).cy == kDesignHeight);
-    const ForeignList list(ListOf(window));
-    CHECK(list.ColumnWidth(0) == designColumn);
-    CHECK(list.ColumnWidth(1) == 1500 / kTwipsPerPixel);
-    CHECK(list.Selected() == -1);
-}
-
 TEST_CASE_FIXTURE(Journey, "closed while minimised, the window keeps the size it had before") {
     StartActWithTwo(*this);
     HWND window = StartToMainWindow();
@@ -93,15 +72,6 @@ TEST_CASE_FIXTURE(Journey, "closed while minimised, the window keeps the size it
     CHECK(Program().ExitCode() == 0u);
     CHECK(User(L"Settings", L"Width") == std::to_wstring(750 * kTwipsPerPixel));
     CHECK(User(L"Settings", L"Height") == std::to_wstring(450 * kTwipsPerPixel));
-}
-
-TEST_CASE_FIXTURE(Journey, "Esc closes the window and opens nothing") {
-    StartActWithTwo(*this);
-    HWND window = StartToMainWindow();
-    REQUIRE(JourneyWindow::InFront(ListOf(window)));
-    JourneyWindow::Press(VK_ESCAPE);
-    CHECK(Program().ExitCode() == 0u);
-    CHECK(Count(L"APPOBJECT", L"openDB") == 0);
 }
 
 TEST_CASE_FIXTURE(Journey, "every cell of the open database is red, and no other") {

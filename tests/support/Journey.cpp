@@ -20,6 +20,7 @@ public:
     Installation() {
         // Wine's desktop belongs to the first program that asks for it, and must outlive every journey.
         GetDesktopWindow();
+        std::filesystem::remove_all(FolderOfRun()); // a killed run of the same process id may have left it
         std::filesystem::create_directories(Folder());
         for (const wchar_t* file : {L"ActStandIn.exe", L"ActEvent.dll"})
             std::filesystem::copy_file(std::filesystem::path(STANDIN_FOLDER) / file, Folder() + L'\\' + file);
