@@ -25,7 +25,7 @@ void frmAbout::Form_Load() try {
     ErrorReport("frmAbout: Sub Form_Load");
 }
 
-void frmAbout::DrawIcon(HDC canvas, const RECT& area, bool) {
+void frmAbout::DrawIcon(int, HDC canvas, const RECT& area, bool) {
     FillRect(canvas, &area, GetSysColorBrush(COLOR_BTNFACE));
     const IconHandle icon(static_cast<HICON>(
         LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, area.right, area.bottom, 0)));

@@ -17,5 +17,5 @@ public:
 private:
     void Form_Load() override;
     void cmdOK_Click() { Unload(); }
-    static void DrawIcon(HDC canvas, const RECT& area, bool isFocused);
+    void DrawIcon(int number, HDC canvas, const RECT& area, bool isFocused);
 };

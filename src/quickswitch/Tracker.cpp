@@ -6,20 +6,16 @@ void Tracker::Attach(PictureBox& source, int reports) {
     Detach();
     base_ = &source;
     reports_ = reports;
-    source.Listen({.MouseMove =
-                       [this] {
-                           Report(Enter);
-                           Report(Over);
-                       },
-                   .MouseLeave = [this] { Report(Leave); },
-                   .Click =
-                       [this] {
-                           if (Click) Click();
-                       }});
+    source.Listen(this);
 }
 
 void Tracker::Detach() {
-    if (PictureBox* base = std::exchange(base_, nullptr)) base->Listen({});
+    if (PictureBox* base = std::exchange(base_, nullptr)) base->Listen(nullptr);
+}
+
+void Tracker::Entered() {
+    Report(Enter);
+    Report(Over);
 }
 
 void Tracker::Report(int action) const {

@@ -6,7 +6,7 @@
 
 /// Watches one picture box: tells when the pointer enters and leaves it, and when it is clicked. A tracker that is not
 /// attached tells nothing.
-class Tracker {
+class Tracker : PictureBox::Listener {
 public:
     /// Flags of `Reports` and values of the Mouse event.
     static constexpr int Enter = 1;
@@ -21,6 +21,11 @@ public:
     void Detach();
 
 private:
+    void Entered() override;
+    void Left() override { Report(Leave); }
+    void Clicked() override {
+        if (Click) Click();
+    }
     void Report(int action) const;
 
     PictureBox* base_ = nullptr;

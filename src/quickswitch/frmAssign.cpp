@@ -47,14 +47,12 @@ std::array<Twips, Artwork::SchemeCount> frmAssign::OptionPlaces() {
     return places;
 }
 
-PictureBox::Draw frmAssign::Sample(int scheme) {
-    return [scheme](HDC canvas, const RECT& area, bool) {
-        PutPicture(canvas, {area.left, area.top},
-                   Artwork::SchemeSample(scheme, area.right, area.bottom, SystemColor(COLOR_BTNFACE)));
-    };
+void frmAssign::DrawSample(int scheme, HDC canvas, const RECT& area, bool) {
+    PutPicture(canvas, {area.left, area.top},
+               Artwork::SchemeSample(scheme, area.right, area.bottom, SystemColor(COLOR_BTNFACE)));
 }
 
-void frmAssign::DrawPosition(HDC canvas, const RECT& area, bool) {
+void frmAssign::DrawPosition(int, HDC canvas, const RECT& area, bool) {
     constexpr int kColumns = 4;
     FillRect(canvas, &area, GetSysColorBrush(COLOR_BTNFACE));
     SetBkMode(canvas, TRANSPARENT);

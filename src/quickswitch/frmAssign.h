@@ -30,11 +30,11 @@ public:
 
     Frame fraColors{this, L"fraColors", {300, 600, 7140, 4110}};
     ControlArray<OptionButton, Artwork::SchemeCount> optColor{this, fraColors, L"optColor", OptionPlaces(), nullptr};
-    PictureBox picSample0{this, fraColors, L"picSample", SamplePlace(0), 0, Sample(0)};
-    PictureBox picSample1{this, fraColors, L"picSample", SamplePlace(1), 1, Sample(1)};
-    PictureBox picSample2{this, fraColors, L"picSample", SamplePlace(2), 2, Sample(2)};
-    PictureBox picSample3{this, fraColors, L"picSample", SamplePlace(3), 3, Sample(3)};
-    PictureBox picSample4{this, fraColors, L"picSample", SamplePlace(4), 4, Sample(4)};
+    PictureBox picSample0{this, fraColors, L"picSample", SamplePlace(0), 0, &frmAssign::DrawSample};
+    PictureBox picSample1{this, fraColors, L"picSample", SamplePlace(1), 1, &frmAssign::DrawSample};
+    PictureBox picSample2{this, fraColors, L"picSample", SamplePlace(2), 2, &frmAssign::DrawSample};
+    PictureBox picSample3{this, fraColors, L"picSample", SamplePlace(3), 3, &frmAssign::DrawSample};
+    PictureBox picSample4{this, fraColors, L"picSample", SamplePlace(4), 4, &frmAssign::DrawSample};
 
     CommandButton cmdOK{this, L"cmdOK", {5040, 4980, 1215, 345}, &frmAssign::cmdOK_Click, Default};
     CommandButton cmdCancel{this, L"cmdCancel", {6405, 4980, 1215, 345}, &frmAssign::cmdCancel_Click, Cancel};
@@ -52,8 +52,8 @@ private:
     static std::array<Twips, ButtonCount> ListPlaces();
     static std::array<Twips, Artwork::SchemeCount> OptionPlaces();
     static Twips SamplePlace(int scheme);
-    static PictureBox::Draw Sample(int scheme);
-    static void DrawPosition(HDC canvas, const RECT& area, bool isFocused);
+    void DrawSample(int scheme, HDC canvas, const RECT& area, bool isFocused);
+    void DrawPosition(int number, HDC canvas, const RECT& area, bool isFocused);
 
     bool areListsRead_ = false;
 };

@@ -10,7 +10,6 @@
 #include "ui/ToolTip.h"
 
 #include <array>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,14 +21,14 @@ public:
 
     static constexpr int ButtonCount = 8;
 
-    PictureBox pic1{this, L"pic1", ButtonPlace(1), Drawer(1), KeyHandler(1)};
-    PictureBox pic2{this, L"pic2", ButtonPlace(2), Drawer(2), KeyHandler(2)};
-    PictureBox pic3{this, L"pic3", ButtonPlace(3), Drawer(3), KeyHandler(3)};
-    PictureBox pic4{this, L"pic4", ButtonPlace(4), Drawer(4), KeyHandler(4)};
-    PictureBox pic5{this, L"pic5", ButtonPlace(5), Drawer(5), KeyHandler(5)};
-    PictureBox pic6{this, L"pic6", ButtonPlace(6), Drawer(6), KeyHandler(6)};
-    PictureBox pic7{this, L"pic7", ButtonPlace(7), Drawer(7), KeyHandler(7)};
-    PictureBox pic8{this, L"pic8", ButtonPlace(8), Drawer(8), KeyHandler(8)};
+    PictureBox pic1{this, L"pic1", ButtonPlace(1), 1, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic2{this, L"pic2", ButtonPlace(2), 2, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic3{this, L"pic3", ButtonPlace(3), 3, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic4{this, L"pic4", ButtonPlace(4), 4, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic5{this, L"pic5", ButtonPlace(5), 5, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic6{this, L"pic6", ButtonPlace(6), 6, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic7{this, L"pic7", ButtonPlace(7), 7, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
+    PictureBox pic8{this, L"pic8", ButtonPlace(8), 8, &frmQuickSwitch::DrawButton, &frmQuickSwitch::KeyDown};
     CommandButton cmdCancel{this, L"cmdCancel", {}, &frmQuickSwitch::cmdCancel_Click, Cancel};
 
     Menu mnuControl{this, L"mnuControl", Menu::Place::PopUp};
@@ -70,8 +69,6 @@ private:
     std::wstring CaptionOf(int button) const;
     int StripWidth() const;
     PictureBox& Picture(int button);
-    PictureBox::Draw Drawer(int button);
-    std::function<bool(int)> KeyHandler(int button);
     void mnuAssign_Click();
     void mnuControlClose_Click();
     void mnuExit_Click();

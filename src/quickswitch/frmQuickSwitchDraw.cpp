@@ -43,15 +43,6 @@ PictureBox& frmQuickSwitch::Picture(int button) {
     return *pictures[button - 1];
 }
 
-PictureBox::Draw frmQuickSwitch::Drawer(int button) {
-    return
-        [this, button](HDC canvas, const RECT& area, bool isFocused) { DrawButton(button, canvas, area, isFocused); };
-}
-
-std::function<bool(int)> frmQuickSwitch::KeyHandler(int button) {
-    return [this, button](int key) { return KeyDown(button, key); };
-}
-
 void frmQuickSwitch::DrawButton(int button, HDC canvas, const RECT& area, bool isFocused) {
     const bool isHighlighted = isHighlighted_.at(static_cast<size_t>(button) - 1);
     const int image = Artwork::ImageOfButton(button) + (isHighlighted ? Artwork::ShapeCount : 0);

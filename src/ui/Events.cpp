@@ -8,7 +8,3 @@ void Action::operator()() const {
     else if (indexed_)
         (form_->*indexed_)(index_);
 }
-
-void IndexAction::operator()(int index) const {
-    if (handler_) (form_->*handler_)(index);
-}

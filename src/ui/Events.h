@@ -22,18 +22,22 @@ private:
     int index_ = 0;
 };
 
-/// A handler of a form that gets an index with each call.
-class IndexAction {
+/// A handler of a form with arguments and perhaps a result. An empty one must not be called.
+template <class Result, class... Arguments>
+class Handler {
 public:
-    IndexAction() = default;
-    IndexAction(Form* form, Action::Indexed handler) : form_(form), handler_(handler) {}
+    Handler() = default;
+    template <class F>
+    Handler(F* form, Result (F::*function)(Arguments...)) : form_(form), function_(static_cast<Function>(function)) {}
 
-    explicit operator bool() const { return handler_ != nullptr; }
-    void operator()(int index) const;
+    explicit operator bool() const { return function_ != nullptr; }
+    Result operator()(Arguments... arguments) const { return (form_->*function_)(arguments...); }
 
 private:
+    using Function = Result (Form::*)(Arguments...);
+
     Form* form_ = nullptr;
-    Action::Indexed handler_ = nullptr;
+    Function function_ = nullptr;
 };
 
 /// A member function of a form as a handler; a null one gives an empty handler.
@@ -46,9 +50,4 @@ Action Bind(F* form, void (F::*handler)()) {
 template <class F>
 Action BindElement(F* form, void (F::*handler)(int), int index) {
     return {form, static_cast<Action::Indexed>(handler), index};
-}
-
-template <class F>
-IndexAction Bind(F* form, void (F::*handler)(int)) {
-    return {form, static_cast<Action::Indexed>(handler)};
 }

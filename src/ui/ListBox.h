@@ -2,7 +2,6 @@
 
 #include "ui/Control.h"
 
-#include <functional>
 #include <string>
 #include <type_traits>
 
@@ -23,8 +22,8 @@ public:
         : ListBox(static_cast<Form*>(form), name, place) {
         click_ = Bind(form, events.Click);
         dblClick_ = Bind(form, events.DblClick);
-        if (events.RightClick) rightClick_ = [form, handler = events.RightClick](POINT at) { (form->*handler)(at); };
-        if (events.Drop) drop_ = [form, handler = events.Drop](int from, int to) { (form->*handler)(from, to); };
+        rightClick_ = {form, events.RightClick};
+        drop_ = {form, events.Drop};
     }
 
     void AddItem(const std::wstring& text) { InsertItem(text, -1); }
@@ -50,7 +49,7 @@ private:
 
     Action click_;
     Action dblClick_;
-    std::function<void(POINT)> rightClick_;
-    std::function<void(int, int)> drop_;
+    Handler<void, POINT> rightClick_;
+    Handler<void, int, int> drop_;
     int dragged_ = -1;
 };

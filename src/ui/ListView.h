@@ -26,9 +26,9 @@ public:
     ListView(F* form, const wchar_t* name, Twips place, std::type_identity_t<ListViewEvents<F>> events = {})
         : ListView(static_cast<Form*>(form), name, place) {
         dblClick_ = Bind(form, events.DblClick);
-        columnClick_ = Bind(form, events.ColumnClick);
+        columnClick_ = {form, events.ColumnClick};
         rightClick_ = Bind(form, events.RightClick);
-        if (events.Tip) tip_ = [form, handler = events.Tip](int row) { return (form->*handler)(row); };
+        tip_ = {form, events.Tip};
     }
 
     /// Adds a column at the right end; the width is in twips.
@@ -110,9 +110,9 @@ private:
     ImageListHandle icons_;
     std::vector<int> toldItems_;
     Action dblClick_;
-    IndexAction columnClick_;
+    Handler<void, int> columnClick_;
     Action rightClick_;
-    std::function<std::wstring(int)> tip_;
+    Handler<std::wstring, int> tip_;
     ToolTip toolTip_;
     std::wstring shownTip_;
     int hotRow_ = -1;

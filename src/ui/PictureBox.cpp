@@ -6,19 +6,17 @@
 
 #include <utility>
 
-PictureBox::PictureBox(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Draw draw)
-    : Control(form, name, place, {L"Static", SS_OWNERDRAW}, &container, index), draw_(std::move(draw)) {}
-
-PictureBox::PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw)
-    : Control(form, name, place, {L"Static", SS_OWNERDRAW}), draw_(std::move(draw)) {}
-
-PictureBox::PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw, std::function<bool(int)> keyDown)
-    : Control(form, name, place, {L"Button", BS_OWNERDRAW | WS_TABSTOP}), draw_(std::move(draw)),
-      keyDown_(std::move(keyDown)) {}
+PictureBox::PictureBox(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container, int number,
+                       Drawing draw)
+    : Control(form, name, place, kind, container, number), number_(number), draw_(draw) {}
 
 void PictureBox::Refresh() {
     InvalidateRect(Handle(), nullptr, FALSE);
     UpdateWindow(Handle());
+}
+
+void PictureBox::Tell(const wchar_t* event, void (Listener::*told)()) const {
+    if (listener_) RaiseCall(event, [this, told] { (listener_->*told)(); });
 }
 
 void PictureBox::OnCreated() {
@@ -28,7 +26,7 @@ void PictureBox::OnCreated() {
 }
 
 void PictureBox::OnDraw(const DRAWITEMSTRUCT& draw) {
-    draw_(draw.hDC, draw.rcItem, (draw.itemState & ODS_FOCUS) != 0 && (draw.itemState & ODS_NOFOCUSRECT) == 0);
+    draw_(number_, draw.hDC, draw.rcItem, (draw.itemState & ODS_FOCUS) != 0 && (draw.itemState & ODS_NOFOCUSRECT) == 0);
 }
 
 void PictureBox::OnCommand(WORD notification) {
@@ -51,7 +49,7 @@ LRESULT PictureBox::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSEMOVE: OnMouseMove(); break;
     case WM_CAPTURECHANGED:
     case WM_MOUSELEAVE:
-        if (std::exchange(isHot_, false)) Tell(L"Mouse", events_.MouseLeave);
+        if (std::exchange(isHot_, false)) Tell(L"Mouse", &Listener::Left);
         break;
     case WM_GETDLGCODE: {
         const LRESULT code = CallWindowProcW(original_, Handle(), message, wParam, lParam);
@@ -64,7 +62,7 @@ LRESULT PictureBox::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
             Press();
             return 0;
         }
-        if (keyDown_(static_cast<int>(wParam))) return 0;
+        if (keyDown_(number_, static_cast<int>(wParam))) return 0;
         break;
     default: break;
     }
@@ -82,8 +80,8 @@ void PictureBox::OnMouseMove() {
         TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Handle(), 0};
         TrackMouseEvent(&track);
         isHot_ = true;
-        Tell(L"Mouse", events_.MouseMove);
+        Tell(L"Mouse", &Listener::Entered);
     } else if (!isInside && std::exchange(isHot_, false)) {
-        Tell(L"Mouse", events_.MouseLeave);
+        Tell(L"Mouse", &Listener::Left);
     }
 }

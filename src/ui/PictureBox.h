@@ -2,47 +2,64 @@
 
 #include "ui/Control.h"
 
-#include <functional>
-#include <utility>
-
 /// A surface with a picture that its form draws. It can be pressed, hovered over and reached by keyboard; to assistive
 /// tools it is a button with its text as name.
 class PictureBox : public Control {
 public:
-    /// Draws into `area` (pixels of the box); `isFocused` tells whether to show the keyboard focus.
-    using Draw = std::function<void(HDC canvas, const RECT& area, bool isFocused)>;
-    /// What happens to the box. Empty ones are ignored.
-    struct Events {
-        std::function<void()> MouseMove;  ///< the pointer is over the box
-        std::function<void()> MouseLeave; ///< it has left, or the mouse belongs to somebody else now
-        std::function<void()> Click;      ///< pressed and released on the box, or Space or Enter
+    /// Draws picture `number` into `area` (pixels of the box); `isFocused` tells whether to show the keyboard focus.
+    template <class F>
+    using Draw = void (F::*)(int number, HDC canvas, const RECT& area, bool isFocused);
+
+    /// Who is told what happens to the box.
+    class Listener {
+    public:
+        virtual void Entered() = 0; ///< the pointer is over the box
+        virtual void Left() = 0;    ///< it has left, or the mouse belongs to somebody else now
+        virtual void Clicked() = 0; ///< pressed and released on the box, or Space or Enter
+
+    protected:
+        ~Listener() = default;
     };
 
     /// A picture to look at, in a frame or not.
-    PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw);
-    PictureBox(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Draw draw);
+    template <class F>
+    PictureBox(F* form, const wchar_t* name, Twips place, Draw<F> draw)
+        : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW}, nullptr, 0, {form, draw}) {}
+    template <class F>
+    PictureBox(F* form, Frame& container, const wchar_t* name, Twips place, int number, Draw<F> draw)
+        : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW}, &container, number, {form, draw}) {}
     /// A picture to press. `keyDown` gets virtual key codes that move between pictures; true when it used one.
-    PictureBox(Form* form, const wchar_t* name, Twips place, Draw draw, std::function<bool(int key)> keyDown);
+    template <class F>
+    PictureBox(F* form, const wchar_t* name, Twips place, int number, Draw<F> draw,
+               bool (F::*keyDown)(int number, int key))
+        : PictureBox(form, name, place, {L"Button", BS_OWNERDRAW | WS_TABSTOP}, nullptr, 0, {form, draw}) {
+        number_ = number;
+        keyDown_ = {form, keyDown};
+    }
 
-    void Listen(Events events) { events_ = std::move(events); }
+    /// One listener at a time; null for none.
+    void Listen(Listener* listener) { listener_ = listener; }
     void Refresh();
     /// Does what a click does.
-    void Press() const { Tell(L"Click", events_.Click); }
+    void Press() const { Tell(L"Click", &Listener::Clicked); }
 
 private:
+    using Drawing = Handler<void, int, HDC, const RECT&, bool>;
+
+    PictureBox(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container, int number,
+               Drawing draw);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
     void OnDraw(const DRAWITEMSTRUCT& draw) override;
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
     void OnMouseMove();
-    void Tell(const wchar_t* event, const std::function<void()>& handler) const {
-        if (handler) RaiseCall(event, handler);
-    }
+    void Tell(const wchar_t* event, void (Listener::*told)()) const;
 
-    Draw draw_;
-    std::function<bool(int)> keyDown_;
-    Events events_;
+    int number_;
+    Drawing draw_;
+    Handler<bool, int, int> keyDown_;
+    Listener* listener_ = nullptr;
     WNDPROC original_ = nullptr;
     bool isHot_ = false;
 };

@@ -10,7 +10,7 @@ public:
     /// The handler gets the tab that is left.
     template <class F>
     TabControl(F* form, const wchar_t* name, Twips place, void (F::*click)(int previousTab))
-        : TabControl(static_cast<Form*>(form), name, place, Bind(form, click)) {}
+        : TabControl(static_cast<Form*>(form), name, place, {form, click}) {}
 
     void AddTab(const std::wstring& caption);
     /// The selected tab, from 0.
@@ -19,10 +19,10 @@ public:
     void Tab(int tab);
 
 private:
-    TabControl(Form* form, const wchar_t* name, Twips place, IndexAction click);
+    TabControl(Form* form, const wchar_t* name, Twips place, Handler<void, int> click);
     LRESULT OnNotify(NMHDR& header) override;
     bool LiesBehind() const override { return true; }
 
-    IndexAction click_;
+    Handler<void, int> click_;
     int tab_ = 0;
 };
