@@ -107,6 +107,7 @@ bool Change::Commit() const {
     if (!HasFolder(fileName_)) return Make(fileName_);
     if (!FileHealth::CanBeTrusted(fileName_)) return false;
     Backup::KeepOnce(fileName_);
+    if (steps_.empty()) return true;
     return SafeFile::Change(fileName_, [this](const std::wstring& path) { return Make(path); });
 }
 

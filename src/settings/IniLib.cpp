@@ -70,16 +70,18 @@ std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key)
     }
 }
 
+std::wstring KeyNames(const std::wstring& section) {
+    if (section.empty()) return {};
+    const std::string name = ToAnsi(section);
+    for (DWORD size = kOfferedSize;; size *= 2) {
+        const std::string keys = Read(name.c_str(), nullptr, size, SettingsFile());
+        if (keys.size() + 2 < size) return ToWide(keys); // a list that is cut fills the buffer
+    }
+}
+
 std::vector<std::pair<std::wstring, std::wstring>> ReadSection(const std::wstring& section) {
     std::vector<std::pair<std::wstring, std::wstring>> values;
-    if (section.empty()) return values;
-    const std::string name = ToAnsi(section);
-    std::string keys;
-    for (DWORD size = kOfferedSize;; size *= 2) {
-        keys = Read(name.c_str(), nullptr, size, SettingsFile());
-        if (keys.size() + 2 < size) break; // a list that is cut fills the buffer
-    }
-    for (const std::wstring& key : Text::Split(ToWide(keys), L'\0'))
+    for (const std::wstring& key : Text::Split(KeyNames(section), L'\0'))
         if (!key.empty()) values.emplace_back(key, GetWholeValue(section, key));
     return values;
 }

@@ -31,6 +31,9 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
 /// who write a long value back and must not lose its end.
 std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key);
 
+/// The names of a section's keys in the file's order, a zero behind each.
+std::wstring KeyNames(const std::wstring& section);
+
 /// Every key of a section with its whole value, in the file's order.
 std::vector<std::pair<std::wstring, std::wstring>> ReadSection(const std::wstring& section);
 

@@ -3,6 +3,7 @@
 #include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "support/ErrorReport.h"
+#include "support/Text.h"
 
 #include <array>
 
@@ -21,12 +22,17 @@ void Store(const std::wstring& section, const wchar_t* key, Where at = Where::cu
 namespace modUpgrade32 {
 
 void Upgrade_to_32() try {
+    IniLib::Change change;
     for (const std::wstring& section : IniLib::Extract_Sections()) {
-        for (const wchar_t* key : kMovedKeys) Store(section, key);
-        IniLib::Change change;
-        for (const wchar_t* key : kMovedKeys) change.DeleteKey(section, key);
-        change.Commit();
+        // One reading instead of some for each key: most sections hold none of these.
+        const std::wstring names = IniLib::KeyNames(section);
+        for (const wchar_t* key : kMovedKeys) {
+            if (!Text::ContainsNoCase(names, key)) continue;
+            Store(section, key);
+            change.DeleteKey(section, key);
+        }
     }
+    change.Commit();
 } catch (...) {
     ErrorReport("modUpgrade32: Function Upgrade_to_32");
 }

@@ -4,19 +4,11 @@
 
 #include "win32/Windows.h"
 
-#include <algorithm>
-
 namespace {
-
-wchar_t Lower(wchar_t character) {
-    // CharLowerW with the character in the low word folds one character.
-    auto* folded = CharLowerW(reinterpret_cast<wchar_t*>(static_cast<ULONG_PTR>(character)));
-    return static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(folded));
-}
 
 std::wstring Lower(std::wstring_view text) {
     std::wstring folded(text);
-    std::ranges::transform(folded, folded.begin(), [](wchar_t character) { return Lower(character); });
+    CharLowerBuffW(folded.data(), static_cast<DWORD>(folded.size()));
     return folded;
 }
 
@@ -29,10 +21,7 @@ std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
 
 namespace Text {
 
-bool EqualNoCase(std::wstring_view left, std::wstring_view right) {
-    return std::ranges::equal(
-        left, right, {}, [](wchar_t c) { return Lower(c); }, [](wchar_t c) { return Lower(c); });
-}
+bool EqualNoCase(std::wstring_view left, std::wstring_view right) { return Lower(left) == Lower(right); }
 
 bool ContainsNoCase(std::wstring_view text, std::wstring_view part) {
     return !part.empty() && Lower(text).find(Lower(part)) != std::wstring::npos;

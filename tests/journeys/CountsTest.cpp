@@ -15,9 +15,9 @@ struct Cost {
 };
 
 const Cost kCosts[] = {
-    {"readings of the settings file", {"GetPrivateProfileStringA"}, 5, 4},
+    {"readings of the settings file", {"GetPrivateProfileStringA"}, 7, 5},
     {"writings to the settings file", {"WritePrivateProfileStringA"}, 0, 0},
-    {"files opened or looked for", {"CreateFileW", "CopyFileW", "MoveFileExW", "FindFirstFileW"}, 4, 0},
+    {"files opened or looked for", {"CreateFileW", "CopyFileW", "MoveFileExW", "FindFirstFileW"}, 9, 0},
     {"registry keys opened", {"RegOpenKeyExA", "RegOpenKeyExW", "RegCreateKeyExA", "RegCreateKeyExW"}, 17, 0},
     {"windows", {"CreateWindowExW"}, 26, 0},
     {"timers", {"SetTimer"}, 0, 0},
@@ -52,13 +52,16 @@ TEST_CASE("a start makes as few calls as it did, and only readings of a database
         Journey journey;
         ListThem(journey, databases);
         JourneyDialogs::StartActElsewhere(journey);
+        journey.StartToMainWindow(); // the first start does more
+        journey.Close();
+        const size_t calls = journey.CallCount();
         const CountedProgram program(journey.Group(), journey.ProgramFile(L"Kelmorra.exe"));
         HWND window = WaitForRest(program);
         for (const Cost& cost : kCosts) {
             CAPTURE(std::string(cost.kind));
             CHECK(program.Count(cost.functions) == cost.once + databases * cost.each);
         }
-        CHECK(journey.CallCount() == kCallsOfAct);
+        CHECK(journey.CallCount() - calls == kCallsOfAct);
         CHECK(program.Libraries() == kLibraries);
         JourneyWindow::Click(window, L"cmdCancel");
         CHECK(program.Get().ExitCode() == 0u);

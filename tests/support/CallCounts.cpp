@@ -128,7 +128,7 @@ void CountedProgram::LeadThroughStubs(DWORD image) {
     std::vector<DWORD> targets;
     std::vector<Stub> code(count);
     for (size_t index = 0; index < count; ++index) {
-        const auto offset = static_cast<DWORD>(index * sizeof(DWORD));
+        const DWORD offset = sizeof(DWORD) * index;
         targets.push_back(Read<DWORD>(memory_.Get(), image + imports_[index].Slot, 1).front());
         code[index].Counter = counters_ + offset;
         code[index].Function = functions + offset;

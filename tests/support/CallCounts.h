@@ -30,7 +30,7 @@ private:
     };
 
     void Prepare(DWORD image);
-    std::vector<Import> ReadImports(DWORD image);
+    std::vector<Import> ReadImports(DWORD address);
     void LeadThroughStubs(DWORD image);
 
     Process process_;
