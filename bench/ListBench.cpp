@@ -1,0 +1,97 @@
+// How start, change of language and list maintenance grow with the list.
+
+#include "Table.h"
+#include "Workplace.h"
+#include "support/CallCounts.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array kSizes{10, 100, 300};
+
+struct Action {
+    const char* name;
+    std::array<Samples, kSizes.size()> times{};
+    std::array<unsigned, kSizes.size()> readings{};
+};
+
+/// Clicks a control and waits for a call of ACT!, the last that the click leads to, and for the main window.
+double TimeOfClick(const Workplace& workplace, HWND dialog, const wchar_t* button, const char* lastCall, HWND main) {
+    JournalTail tail(workplace.File(L"act.log"));
+    HWND control = JourneyWindow::Control(dialog, button);
+    const Stopwatch watch;
+    PostMessageW(control, BM_CLICK, 0, 0);
+    tail.WaitFor(lastCall);
+    WaitUntilDrawn(main);
+    return watch.Milliseconds();
+}
+
+double TimeOfMenu(const Process& program, HWND main, const wchar_t* item, const wchar_t* dialogClass) {
+    const Stopwatch watch;
+    JourneyWindow::ClickMenu(main, item);
+    WaitUntilReady(program, dialogClass);
+    return watch.Milliseconds();
+}
+
+/// Goes through the actions behind the start. `note` is told the number of each action and its time.
+void GoThrough(const Workplace& workplace, const Process& program, HWND main,
+               const std::function<void(size_t, double)>& note) {
+    TimeOfMenu(program, main, L"mnuLanguages", L"frmLanguage");
+    note(1, TimeOfClick(workplace, FindWindowW(L"frmLanguage", nullptr), L"cmdOK", "GetDefaultLocation", main));
+    note(2, TimeOfMenu(program, main, L"mnuManageList", L"frmListMaintenance"));
+    note(3, TimeOfClick(workplace, FindWindowW(L"frmListMaintenance", nullptr), L"cmdClose", "GetOpenDBName", main));
+    PostMessageW(main, WM_CLOSE, 0, 0);
+    REQUIRE(program.ExitCode() == 0u);
+}
+
+void MeasureTimes(const Workplace& workplace, std::array<Action, 4>& actions, size_t size) {
+    workplace.WriteList(kSizes.at(size));
+    const ProcessGroup group;
+    const Stopwatch watch;
+    const Process program(group, workplace.ProgramFile(L"Kelmorra.exe"));
+    HWND main = WaitUntilReady(program, Workplace::MainClass);
+    actions[0].times.at(size).push_back(watch.Milliseconds());
+    GoThrough(workplace, program, main,
+              [&](size_t action, double time) { actions.at(action).times.at(size).push_back(time); });
+}
+
+void CountReadings(const Workplace& workplace, std::array<Action, 4>& actions, size_t size) {
+    workplace.WriteList(kSizes.at(size));
+    const ProcessGroup group;
+    const CountedProgram program(group, workplace.ProgramFile(L"Kelmorra.exe"));
+    unsigned before = 0;
+    const auto note = [&](size_t action, double) {
+        const unsigned now = program.Count({"GetPrivateProfileStringA"});
+        actions.at(action).readings.at(size) = now - before;
+        before = now;
+    };
+    HWND main = WaitUntilReady(program.Get(), Workplace::MainClass);
+    note(0, 0);
+    GoThrough(workplace, program.Get(), main, note);
+}
+
+void TellGrowth(const Action& action) {
+    const auto& [few, some, many] = action.times;
+    const auto& counts = action.readings;
+    const double each = (Median(many) - Median(few)) / (kSizes.back() - kSizes.front());
+    const double readings = static_cast<double>(counts.back() - counts.front()) / (kSizes.back() - kSizes.front());
+    Tell({action.name, Spread(few, 1) + ", " + Spread(some, 1) + ", " + Spread(many, 1) + " ms",
+          "itself: " + Fixed(each, 2) + " ms and " + Fixed(readings, 1) + " readings for each more (" +
+              std::to_string(counts[0]) + ", " + std::to_string(counts[1]) + ", " + std::to_string(counts[2]) + ")",
+          "x " + Spread(Ratios(some, few), 2) + ", x " + Spread(Ratios(many, few), 2), "<= x 10, x 30",
+          std::to_string(Runs())});
+}
+
+} // namespace
+
+TEST_CASE_FIXTURE(Workplace, "lists of 10, 100 and 300 databases") {
+    std::array<Action, 4> actions{Action{"start, list of 10, 100, 300"}, Action{"language reload"},
+                                  Action{"list maintenance opens"}, Action{"list maintenance closes"}};
+    JourneyDialogs::StartActElsewhere(*this);
+    for (int run = 0; run < Runs(); ++run)
+        for (size_t size = 0; size < kSizes.size(); ++size) MeasureTimes(*this, actions, size);
+    // Last: a start is an everyday one when another was before it.
+    for (size_t size = 0; size < kSizes.size(); ++size) CountReadings(*this, actions, size);
+    for (const Action& action : actions) TellGrowth(action);
+}

@@ -1,0 +1,61 @@
+// From the double-click to the call that opens the database, by ACT!'s journal.
+
+#include "Table.h"
+#include "Workplace.h"
+
+namespace {
+
+/// Both sides have been quiet for so long when they are asked, in milliseconds.
+constexpr DWORD kRest = 150;
+
+double TimeToOpen(const std::wstring& journal, HWND window, UINT message, LPARAM place) {
+    Sleep(kRest);
+    JournalTail tail(journal);
+    const Stopwatch watch;
+    PostMessageW(window, message, 0, place);
+    tail.WaitFor("openDB");
+    return watch.Milliseconds();
+}
+
+/// The helper that was started goes with the group.
+double OpenByProgram(const Workplace& workplace) {
+    const ProcessGroup group;
+    const Process program(group, workplace.ProgramFile(L"Kelmorra.exe"));
+    HWND list = JourneyDialogs::ListOf(WaitUntilReady(program, Workplace::MainClass));
+    const RECT row = ForeignList(list).CellPlace(1, 0);
+    const double time = TimeToOpen(workplace.File(L"act.log"), list, WM_LBUTTONDBLCLK,
+                                   MAKELPARAM((row.left + row.right) / 2, (row.top + row.bottom) / 2));
+    REQUIRE(program.ExitCode() == 0u);
+    return time;
+}
+
+double OpenByClient(const Workplace& workplace) {
+    const ProcessGroup group;
+    const Process client(group, Workplace::Client(),
+                         L'"' + workplace.SettingsFile() + L"\" " + Workplace::Name(1) + L" \"" +
+                             workplace.ProgramFile(L"logon.exe") + L'"');
+    HWND window = nullptr;
+    REQUIRE(Within([&] { return (window = FindWindowW(nullptr, L"BareClient")) != nullptr; }));
+    const double time = TimeToOpen(workplace.File(L"act.log"), window, WM_APP, 0);
+    REQUIRE(client.ExitCode());
+    return time;
+}
+
+} // namespace
+
+TEST_CASE_FIXTURE(Workplace, "double-click to openDB") {
+    Samples program, client, more;
+    WriteList(10);
+    JourneyDialogs::StartActElsewhere(*this);
+    for (int run = -1; run < Runs(); ++run) {
+        const double ours = OpenByProgram(*this);
+        const double theirs = OpenByClient(*this);
+        if (run < 0) continue; // everything is loaded now
+        program.push_back(ours);
+        client.push_back(theirs);
+        more.push_back(ours - theirs);
+    }
+    Tell({"double-click to openDB", Spread(program, 1) + " ms", "bare client " + Spread(client, 1) + " ms",
+          Spread(Ratios(program, client), 2) + "; " + Spread(more, 1) + " ms more", "<= 1.3; <= 10 ms more",
+          std::to_string(Runs())});
+}
