@@ -1,11 +1,11 @@
 // A client of ACT! that does nothing else: the calls and writes of a start, or of a start and an open, one after
 // another by plain IDispatch and plain Windows.
 //   bench_client                              the calls of a start; the exit code is what they took, in microseconds
-//   bench_client SETTINGS-FILE NAME HELPER    connects, waits for WM_APP, opens the database of that name, and ends
+//   bench_client SETTINGS-FILE NAME HELPER    connects, shows a window, opens the database of that name at WM_APP
 
-#include "win32/Owner.h"
-
+#include "Locations.h"
 #include "win32/ComPtr.h"
+#include "win32/Owner.h"
 
 #include <shellapi.h>
 
@@ -17,10 +17,6 @@ namespace {
 using Object = ComPtr<IDispatch>;
 
 constexpr wchar_t kUser[] = L"Software\\VB and VBA Program Settings\\Kelmorra\\";
-constexpr const char* kLocations[] = {
-    "Attached Email", "Database", "Document", "Document Template",       "Email Root Folder", "Layout",
-    "Macro",          "NetLinks", "Query",    "Report, Label, Envelope", "Synchronize",       "Spelling Dictionary"};
-
 /// Listens to the event component; it lives as long as the process.
 class Sink final : public IDispatch {
 public:
@@ -197,7 +193,7 @@ void Open(const Connection& act, const std::wstring& file, const std::wstring& n
     Put(act.Preferences, L"DefaultContactLayout", Wide(contact));
     Put(act.Preferences, L"DefaultGroupLayout", Wide(group));
     ReadSetting(file, name, "UseLocationsFrom");
-    for (const char* location : kLocations) WriteLocation(location, ReadSetting(file, name, location));
+    for (const char* location : Locations) WriteLocation(location, ReadSetting(file, name, location));
     for (const wchar_t* key : {L"UsePassword", L"Username", L"Password"}) CopyUserValue(name, key, L"Logon", key);
     CopyUserValue(name, L"Username", L"Settings", L"Last Username");
     StartHelper(helper);
@@ -213,10 +209,12 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     const Connection act = Connect();
     QueryPerformanceCounter(&end);
     if (__argc == 4) {
-        CreateWindowExW(0, L"STATIC", L"BareClient", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
-        for (MSG message{}; message.message != WM_APP && GetMessageW(&message, nullptr, 0, 0) > 0;)
+        CreateWindowExW(0, L"STATIC", L"Bare client", WS_OVERLAPPED | WS_VISIBLE, 0, 0, 100, 50, nullptr, nullptr,
+                        nullptr, nullptr);
+        MSG message{};
+        while (message.message != WM_APP && message.message != WM_CLOSE && GetMessageW(&message, nullptr, 0, 0) > 0)
             DispatchMessageW(&message);
-        Open(act, __wargv[1], __wargv[2], __wargv[3]);
+        if (message.message == WM_APP) Open(act, __wargv[1], __wargv[2], __wargv[3]);
     }
     return static_cast<int>((end.QuadPart - start.QuadPart) * 1'000'000 / frequency.QuadPart);
 }

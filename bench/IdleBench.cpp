@@ -152,6 +152,7 @@ TEST_CASE_FIXTURE(Workplace, "memory, and a minute of idleness") {
     std::list<Idler> idlers;
     idlers.emplace_back(group, "Kelmorra", ProgramFile(L"Kelmorra.exe"), MainClass);
     idlers.emplace_back(group, "minimal", Minimal(), MinimalClass, L"10");
+    idlers.emplace_back(group, "connected bare client", Client(), ClientClass, ClientArguments());
     idlers.emplace_back(group, "notepad", L"C:\\windows\\notepad.exe", L"Notepad");
     constexpr DWORD kCalm = 3000; // until what a start leaves behind has been done
     Sleep(kCalm);

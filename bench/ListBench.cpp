@@ -16,6 +16,18 @@ struct Action {
     std::array<unsigned, kSizes.size()> readings{};
 };
 
+/// Waits until the main window takes commands again. A program that waits for ACT! answers messages, but ignores
+/// commands: so another view is chosen by a click on its label, as often as it takes.
+void WaitUntilObeyed(HWND main) {
+    const int view = JourneyWindow::Checked(JourneyWindow::Control(main, L"optView", 1)) ? 2 : 1;
+    HWND label = JourneyWindow::Control(main, L"lblView", view);
+    HWND option = JourneyWindow::Control(main, L"optView", view);
+    for (const Stopwatch watch; !JourneyWindow::Checked(option); Sleep(1)) {
+        REQUIRE(watch.Milliseconds() < JourneyPatience);
+        PostMessageW(label, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    }
+}
+
 /// Clicks a control and waits for a call of ACT!, the last that the click leads to, and for the main window.
 double TimeOfClick(const Workplace& workplace, HWND dialog, const wchar_t* button, const char* lastCall, HWND main) {
     JournalTail tail(workplace.File(L"act.log"));
@@ -23,6 +35,7 @@ double TimeOfClick(const Workplace& workplace, HWND dialog, const wchar_t* butto
     const Stopwatch watch;
     PostMessageW(control, BM_CLICK, 0, 0);
     tail.WaitFor(lastCall);
+    WaitUntilObeyed(main);
     WaitUntilDrawn(main);
     return watch.Milliseconds();
 }

@@ -31,11 +31,8 @@ double OpenByProgram(const Workplace& workplace) {
 
 double OpenByClient(const Workplace& workplace) {
     const ProcessGroup group;
-    const Process client(group, Workplace::Client(),
-                         L'"' + workplace.SettingsFile() + L"\" " + Workplace::Name(1) + L" \"" +
-                             workplace.ProgramFile(L"logon.exe") + L'"');
-    HWND window = nullptr;
-    REQUIRE(Within([&] { return (window = FindWindowW(nullptr, L"BareClient")) != nullptr; }));
+    const Process client(group, Workplace::Client(), workplace.ClientArguments());
+    HWND window = WaitUntilReady(client, Workplace::ClientClass);
     const double time = TimeToOpen(workplace.File(L"act.log"), window, WM_APP, 0);
     REQUIRE(client.ExitCode());
     return time;

@@ -1,15 +1,13 @@
 #include "Workplace.h"
 
+#include "Locations.h"
+
 #include <filesystem>
 #include <stdexcept>
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* kLocations[] = {
-    "Attached Email", "Database", "Document", "Document Template",       "Email Root Folder", "Layout",
-    "Macro",          "NetLinks", "Query",    "Report, Label, Envelope", "Synchronize",       "Spelling Dictionary"};
 
 std::string Narrow(const std::wstring& text) { return {text.begin(), text.end()}; } // paths here are ASCII
 
@@ -39,7 +37,7 @@ void Workplace::WriteList(int databases, const std::string& general, bool justWr
         sort += (number ? ";" : "") + name;
         sections += "[" + name + "]\r\nPath=" + Narrow(path) + "\r\nCLY=C:\\Layouts\\" + name +
                     ".cly\r\nGLY=C:\\Layouts\\" + name + ".gly\r\nStartupMacro=C:\\Macros\\" + name + ".mpr\r\n";
-        for (const char* location : kLocations) sections += std::string(location) + "=D:\\Data\\" + name + "\r\n";
+        for (const char* location : Locations) sections += std::string(location) + "=D:\\Data\\" + name + "\r\n";
     }
     JourneyStores::FileBytes(SettingsFile(), "[General]\r\nSort=" + sort + "\r\n" + general + sections);
     if (!justWritten)

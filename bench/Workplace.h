@@ -9,12 +9,17 @@ public:
     static constexpr const wchar_t* MainClass = L"frmMain";
     static constexpr const wchar_t* PaletteClass = L"frmQuickSwitch";
     static constexpr const wchar_t* MinimalClass = L"BenchMinimal";
+    static constexpr const wchar_t* ClientClass = L"Static";
 
     Workplace();
 
     // Programs to compare with.
     static std::wstring Minimal();
     static std::wstring Client();
+    /// Lets the client connect, show a window and wait for its WM_APP.
+    std::wstring ClientArguments() const {
+        return L'"' + SettingsFile() + L"\" " + Name(1) + L" \"" + ProgramFile(L"logon.exe") + L'"';
+    }
 
     /// Writes a settings file of so many databases, each with layouts and all twelve folders. Their files exist. Unless
     /// told otherwise the file is an hour old: Wine's profile calls read a file that was just written anew at each
