@@ -34,6 +34,7 @@ void frmMain::FillList() {
     for (const std::wstring& name : program.DatabaseNames) FillColumns(ListView1.Add(name), name, places);
     CollectOpenNames();
     if (sortColumn_ >= 0) ListView1.Sort(sortColumn_, sortDescending_);
+    ListView1.Filled();
     if (isFinding_) txtFind_Change();
     CheckFilesLater();
 }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array kMovedKeys{L"Username", L"Password", L"UsePassword", L"NoPasswordAtACTStartup"};
 
-void Store(const std::wstring& section, const wchar_t* key, Where at = Where::current()) {
+void Store(const std::wstring& section, const std::wstring& key, Where at = Where::current()) {
     const std::wstring value = IniLib::GetKeyValue(section, key);
     if (!value.empty() && !UserStore::Set(section, key, value))
         throw Error(BasicError::InvalidCall, L"Invalid procedure call or argument", at);
@@ -26,7 +26,7 @@ void Upgrade_to_32() try {
     for (const std::wstring& section : IniLib::Extract_Sections()) {
         // One reading instead of some for each key: most sections hold none of these.
         const std::wstring names = IniLib::KeyNames(section);
-        for (const wchar_t* key : kMovedKeys) {
+        for (const std::wstring key : kMovedKeys) {
             if (!Text::ContainsNoCase(names, key)) continue;
             Store(section, key);
             change.DeleteKey(section, key);

@@ -56,10 +56,17 @@ int ListView::TitleWidth(const std::wstring& title) const {
     return ToTwips(static_cast<int>(text), Owner().Dpi()) + kPadding;
 }
 
-void ListView::Clear() {
+void ListView::Empty() {
+    SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
     SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
+}
+
+void ListView::Clear() {
+    Empty();
     rows_.clear();
 }
+
+void ListView::Filled() { SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0); }
 
 int ListView::Add(const std::wstring& text) {
     rows_.push_back({{text}, {}});
@@ -87,13 +94,12 @@ void ListView::Insert(int row) {
 
 void ListView::ShowOnly(const std::function<bool(int row)>& isShown) {
     const int selected = Selected();
-    SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
-    SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
+    Empty();
     for (int row = 0; row < RowCount(); ++row)
         if (!isShown || isShown(row)) Insert(row);
     SortItems();
     Select(ItemOf(selected) >= 0 ? selected : RowOf(0));
-    SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+    Filled();
     if (!toldItems_.empty()) TellNotes();
 }
 

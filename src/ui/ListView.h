@@ -40,7 +40,9 @@ public:
     /// The width that a column needs to show a title whole, in twips.
     int TitleWidth(const std::wstring& title) const;
 
+    /// Takes all rows out. Nothing is drawn until it is told to be filled: many rows are added many times faster so.
     void Clear();
+    void Filled();
     /// Adds a row behind the others and returns its number, from 0.
     int Add(const std::wstring& text);
     int RowCount() const { return static_cast<int>(rows_.size()); }
@@ -87,6 +89,7 @@ private:
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
     int ItemOf(int row) const;
     int RowOf(int item) const;
+    void Empty();
     void Insert(int row);
     void SortItems();
 
