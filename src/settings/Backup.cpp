@@ -60,16 +60,16 @@ std::vector<std::wstring> Copies(const std::wstring& settingsFile) {
     return copies;
 }
 
-bool HoldsSettings(const std::wstring& path) {
-    const auto bytes = SafeFile::Read(path);
-    return bytes && bytes->find('[') != std::string::npos && FileHealth::Inspect(path) == FileHealth::State::Sound;
+using Bytes = std::optional<std::string>;
+
+bool HoldsSettings(const Bytes& bytes) {
+    return FileHealth::Inspect(bytes) == FileHealth::State::Sound && bytes->find('[') != std::string::npos;
 }
 
 /// A write cuts lines at their first zero byte: what such a file holds behind it would be gone.
-bool WouldBeCut(const std::wstring& path) {
-    const auto bytes = SafeFile::Read(path);
-    return bytes && bytes->find_first_not_of('\0') != std::string::npos &&
-           FileHealth::Inspect(path) == FileHealth::State::Empty;
+bool WouldBeCut(const Bytes& bytes) {
+    return FileHealth::Inspect(bytes) == FileHealth::State::Empty &&
+           bytes->find_first_not_of('\0') != std::string::npos;
 }
 
 /// Neither hidden nor read-only: the copy must be easy to find and to replace.
@@ -84,9 +84,12 @@ namespace Backup {
 void KeepOnce(const std::wstring& settingsFile) {
     static std::wstring kept;
     if (settingsFile == kept) return;
-    kept = settingsFile;
-    const bool isSound = HoldsSettings(settingsFile);
-    const std::wstring folder = isSound || WouldBeCut(settingsFile) ? BackupFolder() : L"";
+    const Bytes bytes = SafeFile::Read(settingsFile);
+    kept = bytes ? settingsFile : L""; // one that nobody can read now may be kept later
+    const bool isSound = HoldsSettings(bytes);
+    const auto newest = LastGood(settingsFile);
+    if (isSound && newest && SafeFile::Read(*newest) == bytes) return;
+    const std::wstring folder = isSound || WouldBeCut(bytes) ? BackupFolder() : L"";
     const wchar_t* const ending = isSound ? L".ini" : L".damaged.txt"; // the latter is never offered
     if (folder.empty() || !Copy(settingsFile, folder + Prefix(settingsFile) + TimeStamp() + ending)) return;
     const std::vector<std::wstring> copies = Copies(settingsFile);
@@ -95,7 +98,8 @@ void KeepOnce(const std::wstring& settingsFile) {
 
 std::optional<std::wstring> LastGood(const std::wstring& settingsFile) {
     const std::vector<std::wstring> copies = Copies(settingsFile);
-    const auto newest = std::ranges::find_if(copies.rbegin(), copies.rend(), HoldsSettings);
+    const auto newest = std::ranges::find_if(
+        copies.rbegin(), copies.rend(), [](const std::wstring& copy) { return HoldsSettings(SafeFile::Read(copy)); });
     if (newest == copies.rend()) return std::nullopt;
     return *newest;
 }

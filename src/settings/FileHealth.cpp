@@ -31,7 +31,10 @@ namespace FileHealth {
 State Inspect(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return State::Missing;
-    const auto bytes = SafeFile::Read(path);
+    return Inspect(SafeFile::Read(path));
+}
+
+State Inspect(const std::optional<std::string>& bytes) {
     if (!bytes) return State::Unreadable;
     const bool hasZeros = bytes->find('\0') != std::string::npos && !IsUnicode(*bytes);
     return bytes->empty() || hasZeros ? State::Empty : State::Sound;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 /// Whether what a settings file reads as is what it holds.
@@ -10,6 +11,8 @@ namespace FileHealth {
 enum class State { Missing, Unreadable, Empty, Sound };
 
 State Inspect(const std::wstring& path);
+/// The same of bytes that have been read, none when they could not be.
+State Inspect(const std::optional<std::string>& bytes);
 
 /// True when the file is unreadable or empty, and stays so for 400 milliseconds: another program may be writing it.
 bool IsDamaged(const std::wstring& path);

@@ -104,10 +104,10 @@ bool Change::MakeStep(const Step& step, const char* file) {
 
 bool Change::Commit() const {
     if (isRefused_) return false;
+    if (steps_.empty()) return true;
     if (!HasFolder(fileName_)) return Make(fileName_);
     if (!FileHealth::CanBeTrusted(fileName_)) return false;
     Backup::KeepOnce(fileName_);
-    if (steps_.empty()) return true;
     return SafeFile::Change(fileName_, [this](const std::wstring& path) { return Make(path); });
 }
 

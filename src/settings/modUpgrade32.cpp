@@ -22,17 +22,17 @@ void Store(const std::wstring& section, const std::wstring& key, Where at = Wher
 namespace modUpgrade32 {
 
 void Upgrade_to_32() try {
-    IniLib::Change change;
     for (const std::wstring& section : IniLib::Extract_Sections()) {
         // One reading instead of some for each key: most sections hold none of these.
         const std::wstring names = IniLib::KeyNames(section);
+        IniLib::Change change;
         for (const std::wstring key : kMovedKeys) {
             if (!Text::ContainsNoCase(names, key)) continue;
             Store(section, key);
             change.DeleteKey(section, key);
         }
+        change.Commit();
     }
-    change.Commit();
 } catch (...) {
     ErrorReport("modUpgrade32: Function Upgrade_to_32");
 }

@@ -17,7 +17,7 @@ struct Cost {
 const Cost kCosts[] = {
     {"readings of the settings file", {"GetPrivateProfileStringA"}, 7, 5},
     {"writings to the settings file", {"WritePrivateProfileStringA"}, 0, 0},
-    {"files opened or looked for", {"CreateFileW", "CopyFileW", "MoveFileExW", "FindFirstFileW"}, 9, 0},
+    {"files opened or looked for", {"CreateFileW", "CopyFileW", "MoveFileExW", "FindFirstFileW"}, 10, 0},
     {"registry keys opened", {"RegOpenKeyExA", "RegOpenKeyExW", "RegCreateKeyExA", "RegCreateKeyExW"}, 17, 0},
     {"windows", {"CreateWindowExW"}, 26, 0},
     {"timers", {"SetTimer"}, 0, 0},

@@ -240,8 +240,13 @@ TEST_CASE_FIXTURE(Desk, "The first change of a run keeps a copy; five are kept, 
         Backup::KeepOnce(file.Path());
         CHECK(Backups().size() == 6);
     }
+    fs::remove(Backups().back());
     Backup::KeepOnce(L"another file");
-    file.Bytes(kBefore);
+    file.Bytes(SafeFile::Read(Backups().back().wstring()).value_or(""));
+    Backup::KeepOnce(file.Path()); // as it was kept in 2004
+    CHECK(Backups().size() == 5);
+    Backup::KeepOnce(L"another file");
+    file.Bytes(std::string(kBefore) + "[New]\r\nK=1\r\n");
     Backup::KeepOnce(file.Path());
     CHECK(Backups().size() == 5);
     CHECK(Backups().back().filename() >= name);
