@@ -4,13 +4,14 @@
 
 namespace {
 
-/// Polls closely, but leaves the processor and Wine's server to what is measured.
+/// Polls, but leaves the processor and Wine's server to what is measured: each look for a window is a question to the
+/// server that all programs share.
 template <class Condition>
-void Await(Condition condition, const char* what) {
+void Await(Condition condition, const char* what, DWORD pauseMilliseconds = 4) {
     const Stopwatch watch;
     while (!condition()) {
         if (watch.Milliseconds() > JourneyPatience) throw std::runtime_error(std::string("never came: ") + what);
-        Sleep(1);
+        Sleep(pauseMilliseconds);
     }
 }
 
@@ -47,6 +48,17 @@ HWND WaitUntilReady(const Process& program, const wchar_t* windowClass) {
     return window;
 }
 
+DWORD WaitUntilEnded(const Process& program) {
+    std::optional<DWORD> code;
+    const auto hasEnded = [&] {
+        FindWindowW(L"No such window", nullptr); // as WaitUntilReady asks
+        code = program.ExitCode(0);
+        return code.has_value();
+    };
+    Await(hasEnded, "an end");
+    return *code;
+}
+
 double TimeToReady(const std::wstring& path, const wchar_t* windowClass, const std::wstring& arguments) {
     const ProcessGroup group;
     const Stopwatch watch;
@@ -73,5 +85,5 @@ void JournalTail::WaitFor(const std::string& member) {
         text_.append(part, 0, length);
         return text_.find(field) != std::string::npos;
     };
-    Await(isCalled, member.c_str());
+    Await(isCalled, member.c_str(), 1); // a look into a file burdens nobody
 }

@@ -19,6 +19,9 @@ private:
 /// The drawing is asked for, as an idle thread would do it next. Throws when it takes too long.
 HWND WaitUntilReady(const Process& program, const wchar_t* windowClass);
 
+/// Waits for a program's end with the same burden on the system, and returns its exit code.
+DWORD WaitUntilEnded(const Process& program);
+
 /// Waits until a window's thread is idle and everything in it has been drawn.
 void WaitUntilDrawn(HWND window);
 

@@ -46,7 +46,7 @@ void Workplace::WriteList(int databases, const std::string& general, bool justWr
 
 double Workplace::CallsOfStart() {
     const ProcessGroup group;
-    const auto microseconds = Process(group, Client()).ExitCode().value_or(0);
+    const DWORD microseconds = WaitUntilEnded(Process(group, Client()));
     if (microseconds == 0) throw std::runtime_error("the bare client has failed");
     return microseconds / 1000.0;
 }

@@ -28,3 +28,27 @@ function(kelmorra_library name)
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC ${arg_LINKS})
 endfunction()
+
+# kelmorra_late(NAME): NAME_late is the system's DLL, loaded when one of its functions is first called: those of
+# cmake/late/NAME.def, with the bytes of their arguments. The 64-bit compile takes the ordinary library.
+function(kelmorra_late name)
+  add_library(${name}_late INTERFACE)
+  if(NOT CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_link_libraries(${name}_late INTERFACE ${name})
+    return()
+  endif()
+  set(functions ${CMAKE_SOURCE_DIR}/cmake/late/${name}.def)
+  set(archive ${CMAKE_CURRENT_BINARY_DIR}/lib${name}_late.a)
+  add_custom_command(OUTPUT ${archive}
+    COMMAND i686-w64-mingw32-dlltool --kill-at --input-def ${functions} --output-delaylib ${archive}
+    DEPENDS ${functions} VERBATIM)
+  add_custom_target(${name}_late_archive DEPENDS ${archive})
+  add_dependencies(${name}_late ${name}_late_archive)
+  target_link_libraries(${name}_late INTERFACE ${archive} delayimp)
+  # The linker does not see that the table of addresses needs the functions that load, and leaves them out.
+  file(STRINGS ${functions} names REGEX @)
+  foreach(function IN LISTS names)
+    target_link_options(${name}_late INTERFACE
+      $<$<NOT:$<BOOL:$<TARGET_PROPERTY:KELMORRA_PLAIN>>>:-Wl,--undefined=_${function}>)
+  endforeach()
+endfunction()

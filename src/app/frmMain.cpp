@@ -5,6 +5,8 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/frmQuickSwitch.h"
+#include "settings/Backup.h"
+#include "settings/IniLib.h"
 #include "settings/UserStore.h"
 #include "support/Application.h"
 #include "support/Busy.h"
@@ -86,7 +88,11 @@ void frmMain::CheckFilesLater() { PostMessageW(Handle(), kCheckFiles, 0, 0); }
 
 bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
-    case kCheckFiles: CheckFiles(); return true;
+    case kCheckFiles:
+        // Not only before a change: the last change of all is in no copy otherwise.
+        Backup::KeepOnce(IniLib::SettingsFile());
+        CheckFiles();
+        return true;
     case kFileIsMissing: FileIsMissing(static_cast<int>(wParam), static_cast<long>(lParam)); return true;
     case kActIsClosing:
         Program().ActIsClosing = true;

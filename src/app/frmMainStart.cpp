@@ -87,14 +87,11 @@ bool frmMain::FindSettingsFile() {
 
 bool frmMain::OfferBackup() {
     const std::wstring& path = IniLib::SettingsFile();
-    const auto backup = Backup::LastGood(path);
-    if (backup && FileHealth::IsDamaged(path)) {
-        const std::wstring question = Text::Replace(Translated(MoreText::RestoreBackup), L"%2", DateOf(*backup));
-        if (AskYesNo(Text::Replace(question, L"%1", path)) && !Backup::Restore(path))
-            MsgBox(Text::Replace(Translated(MoreText::RestoreFailed), L"%1", *backup), MsgIcon::Exclamation);
-    }
-    // Not only before a change: the last change of all is in no copy otherwise.
-    Backup::KeepOnce(path);
+    const auto backup = FileHealth::IsDamaged(path) ? Backup::LastGood(path) : std::nullopt;
+    if (!backup) return true;
+    const std::wstring question = Text::Replace(Translated(MoreText::RestoreBackup), L"%2", DateOf(*backup));
+    if (AskYesNo(Text::Replace(question, L"%1", path)) && !Backup::Restore(path))
+        MsgBox(Text::Replace(Translated(MoreText::RestoreFailed), L"%1", *backup), MsgIcon::Exclamation);
     return true;
 }
 

@@ -1,11 +1,13 @@
 #include "settings/IniLib.h"
 
 #include "settings/FileHealth.h"
+#include "settings/SafeFile.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 #include "win32/AnsiText.h"
 #include "win32/Windows.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -68,6 +70,13 @@ std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key)
         const std::string value = ReadValue(section, key, size, SettingsFile());
         if (value.size() + 1 < size || size > kLongestValue) return ToWide(value);
     }
+}
+
+bool MayHold(std::initializer_list<std::wstring_view> words) {
+    const auto bytes = SafeFile::Read(SettingsFile());
+    if (!bytes || bytes->find('\0') != std::string::npos) return true; // UTF-16 too
+    const std::wstring text = ToWide(*bytes);
+    return std::ranges::any_of(words, [&](std::wstring_view word) { return Text::ContainsNoCase(text, word); });
 }
 
 std::wstring KeyNames(const std::wstring& section) {

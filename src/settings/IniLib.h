@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <utility>
@@ -30,6 +31,10 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
 /// The value of a key without the cut (as far as the platform reads, 32766 bytes or more); "" when missing. For those
 /// who write a long value back and must not lose its end.
 std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key);
+
+/// False when none of these words (plain ASCII) stands anywhere in the settings file, in whatever letter case. One
+/// reading of the whole file instead of one for each section.
+bool MayHold(std::initializer_list<std::wstring_view> words);
 
 /// The names of a section's keys in the file's order, a zero behind each.
 std::wstring KeyNames(const std::wstring& section);

@@ -22,6 +22,7 @@ void Store(const std::wstring& section, const std::wstring& key, Where at = Wher
 namespace modUpgrade32 {
 
 void Upgrade_to_32() try {
+    if (!IniLib::MayHold({L"Username", L"Password"})) return; // what the names of all four keys contain
     for (const std::wstring& section : IniLib::Extract_Sections()) {
         // One reading instead of some for each key: most sections hold none of these.
         const std::wstring names = IniLib::KeyNames(section);
