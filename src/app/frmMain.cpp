@@ -88,11 +88,7 @@ void frmMain::CheckFilesLater() { PostMessageW(Handle(), kCheckFiles, 0, 0); }
 
 bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
-    case kCheckFiles:
-        // Not only before a change: the last change of all is in no copy otherwise.
-        Backup::KeepOnce(IniLib::SettingsFile());
-        CheckFiles();
-        return true;
+    case kCheckFiles: CheckFiles(); return true;
     case kFileIsMissing: FileIsMissing(static_cast<int>(wParam), static_cast<long>(lParam)); return true;
     case kActIsClosing:
         Program().ActIsClosing = true;
@@ -196,6 +192,8 @@ void frmMain::SaveLayout() {
 void frmMain::Form_Unload() {
     std::wstring database;
     try {
+        // Not only before a change: the last change of all is in no copy otherwise.
+        Backup::KeepOnce(IniLib::SettingsFile());
         SaveLayout();
         if (Program().RestartAct) database = CloseActForRestart();
     } catch (...) {

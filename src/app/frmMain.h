@@ -142,7 +142,9 @@ private:
     void FillList();
     void ReloadList();
     void CollectOpenNames() const;
-    void FillColumns(int row, const std::wstring& name, const ActPlaces& places);
+    static std::vector<std::wstring> CellsOf(const std::wstring& name, const DatabaseRecord& record,
+                                             const ActPlaces& places);
+    void MarkRow(int row, const std::wstring& path, const ActPlaces& places);
     static int ColumnText(int column);
     std::wstring ColumnTitle(int column) const;
     void SetColumnTitles();

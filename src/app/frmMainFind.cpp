@@ -66,6 +66,7 @@ void frmMain::txtFind_Change() {
 
 void frmMain::CheckFiles() {
     if (!Visible()) return;
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // before anything takes time
     ListView1.AccessibleName(LangText[90]);
     ListView1.TellNotes();
     for (int row = 0; row < ListView1.RowCount(); ++row) ListView1.Fade(row, false);

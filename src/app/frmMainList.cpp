@@ -31,7 +31,10 @@ void frmMain::FillList() {
     const ActPlaces places = AskPlaces();
     program.DatabaseNames = DatabaseList::ReadSort();
     ListView1.Clear();
-    for (const std::wstring& name : program.DatabaseNames) FillColumns(ListView1.Add(name), name, places);
+    for (const std::wstring& name : program.DatabaseNames) {
+        const DatabaseRecord record = ExtractInfo(name);
+        MarkRow(ListView1.Add(CellsOf(name, record, places)), record.Path, places);
+    }
     CollectOpenNames();
     if (sortColumn_ >= 0) ListView1.Sort(sortColumn_, sortDescending_);
     ListView1.Filled();
@@ -39,15 +42,16 @@ void frmMain::FillList() {
     CheckFilesLater();
 }
 
-void frmMain::FillColumns(int row, const std::wstring& name, const ActPlaces& places) {
-    const DatabaseRecord record = ExtractInfo(name);
-    ListView1.Cell(row, 1, ShownName(record.ContactLayout, places.Layouts));
-    ListView1.Cell(row, 2, ShownName(record.GroupLayout, places.Layouts));
-    ListView1.Cell(row, 3, ShownName(record.OpeningMacro, places.Macros));
-    ListView1.Cell(row, 4, record.Path);
+std::vector<std::wstring> frmMain::CellsOf(const std::wstring& name, const DatabaseRecord& record,
+                                           const ActPlaces& places) {
+    return {name, ShownName(record.ContactLayout, places.Layouts), ShownName(record.GroupLayout, places.Layouts),
+            ShownName(record.OpeningMacro, places.Macros), record.Path};
+}
+
+void frmMain::MarkRow(int row, const std::wstring& path, const ActPlaces& places) {
     paths_.resize(static_cast<size_t>(ListView1.RowCount()));
-    paths_[static_cast<size_t>(row)] = record.Path;
-    const bool isOpen = Text::SamePath(record.Path, places.OpenDatabase);
+    paths_[static_cast<size_t>(row)] = path;
+    const bool isOpen = Text::SamePath(path, places.OpenDatabase);
     ListView1.RowColor(row, isOpen ? kOpenInAct : CLR_DEFAULT);
     ListView1.Note(row, isOpen ? Translated(MoreText::OpenInAct) : std::wstring());
 }
@@ -69,9 +73,13 @@ void frmMain::SelectedIndex(int index) { UserStore::Set(L"Display", L"Selected",
 void frmMain::ReplaceRow(const std::wstring& name) {
     const int row = ListView1.Selected();
     if (row < 0) return;
-    ListView1.Cell(row, 0, name);
-    FillColumns(row, name, AskPlaces());
-    ListView1.Cell(row, 4, name);
+    const ActPlaces places = AskPlaces();
+    const DatabaseRecord record = ExtractInfo(name);
+    std::vector<std::wstring> cells = CellsOf(name, record, places);
+    cells.back() = name;
+    for (size_t column = 0; column < cells.size(); ++column)
+        ListView1.Cell(row, static_cast<int>(column), cells[column]);
+    MarkRow(row, record.Path, places);
     CollectOpenNames();
     Program().DatabaseNames = DatabaseList::ReadSort();
     ListView1.Select(row);

@@ -33,7 +33,7 @@ void frmPrefLocations::Form_Load() try {
     lvwPref.AddColumn(LangText[147], kTypeColumn);
     lvwPref.AddColumn(LangText[148], lvwPref.Place().Width - kTypeColumn - 120);
     for (int row = 0; row < kLocationCount; ++row) {
-        lvwPref.Add(LangText[kFirstRowText + row]);
+        lvwPref.Add({LangText[kFirstRowText + row]});
         lvwPref.Cell(row, 1, IniLib::GetKeyValue(currentName_, KeyOf(row)));
     }
     lvwPref.Select(0);

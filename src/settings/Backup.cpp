@@ -86,6 +86,7 @@ void KeepOnce(const std::wstring& settingsFile) {
     if (settingsFile == kept) return;
     const Bytes bytes = SafeFile::Read(settingsFile);
     kept = bytes ? settingsFile : L""; // one that nobody can read now may be kept later
+    if (!bytes) return;
     const bool isSound = HoldsSettings(bytes);
     const auto newest = LastGood(settingsFile);
     if (isSound && newest && SafeFile::Read(*newest) == bytes) return;

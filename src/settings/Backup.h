@@ -7,7 +7,7 @@
 /// each settings file, named after the time (UTC) at which they were made.
 namespace Backup {
 
-/// Copies a settings file, the first time that this run asks for it; call at the start and before a change. A file that
+/// Copies a settings file, the first time that this run asks for it; call before a change and at the end. A file that
 /// is as the newest copy or has no section is not copied, for it would push out better ones. One with zero bytes
 /// between others is, under a name of its own: it is never offered, but holds what a change is going to cut off.
 void KeepOnce(const std::wstring& settingsFile);

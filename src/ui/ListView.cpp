@@ -68,8 +68,8 @@ void ListView::Clear() {
 
 void ListView::Filled() { SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0); }
 
-int ListView::Add(const std::wstring& text) {
-    rows_.push_back({{text}, {}});
+int ListView::Add(std::vector<std::wstring> cells) {
+    rows_.push_back({std::move(cells), {}});
     Insert(RowCount() - 1);
     return RowCount() - 1;
 }
@@ -177,8 +177,9 @@ void ListView::Cell(int row, int column, const std::wstring& text) {
 }
 
 void ListView::RowColor(int row, COLORREF color) {
-    rows_.at(static_cast<size_t>(row)).Color = color;
-    SendMessageW(Handle(), LVM_REDRAWITEMS, static_cast<WPARAM>(ItemOf(row)), ItemOf(row));
+    if (std::exchange(rows_.at(static_cast<size_t>(row)).Color, color) == color) return;
+    const int item = ItemOf(row);
+    SendMessageW(Handle(), LVM_REDRAWITEMS, static_cast<WPARAM>(item), item);
 }
 
 COLORREF ListView::RowColor(int row) const { return rows_.at(static_cast<size_t>(row)).Color; }

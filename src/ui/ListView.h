@@ -43,8 +43,8 @@ public:
     /// Takes all rows out. Nothing is drawn until it is told to be filled: many rows are added many times faster so.
     void Clear();
     void Filled();
-    /// Adds a row behind the others and returns its number, from 0.
-    int Add(const std::wstring& text);
+    /// Adds a row behind the others and returns its number, from 0. Cells that are not given stay empty.
+    int Add(std::vector<std::wstring> cells);
     int RowCount() const { return static_cast<int>(rows_.size()); }
     /// Shows only the rows for which `isShown` holds; empty shows all again. The others keep number and contents. When
     /// the selected row is hidden the first one shown is selected.

@@ -15,9 +15,9 @@ struct Cost {
 };
 
 const Cost kCosts[] = {
-    {"readings of the settings file", {"GetPrivateProfileStringA"}, 7, 5},
+    {"readings of the settings file", {"GetPrivateProfileStringA"}, 5, 4},
     {"writings to the settings file", {"WritePrivateProfileStringA"}, 0, 0},
-    {"files opened or looked for", {"CreateFileW", "CopyFileW", "MoveFileExW", "FindFirstFileW"}, 10, 0},
+    {"files opened or looked for", {"CreateFileW", "CopyFileW", "MoveFileExW", "FindFirstFileW"}, 5, 0},
     {"registry keys opened", {"RegOpenKeyExA", "RegOpenKeyExW", "RegCreateKeyExA", "RegCreateKeyExW"}, 17, 0},
     {"windows", {"CreateWindowExW"}, 26, 0},
     {"timers", {"SetTimer"}, 0, 0},
@@ -25,8 +25,9 @@ const Cost kCosts[] = {
 };
 constexpr size_t kCallsOfAct = 11;
 
-const std::set<std::string> kLibraries{"advapi32.dll", "comctl32.dll", "comdlg32.dll", "gdi32.dll",   "kernel32.dll",
-                                       "msvcrt.dll",   "ole32.dll",    "oleaut32.dll", "shell32.dll", "user32.dll"};
+// Of the shell and the common dialogs nothing is loaded with the program.
+const std::set<std::string> kLibraries{"advapi32.dll", "comctl32.dll", "gdi32.dll",    "kernel32.dll",
+                                       "msvcrt.dll",   "ole32.dll",    "oleaut32.dll", "user32.dll"};
 
 /// Makes a list of so many databases, none of which ACT! has open.
 void ListThem(Journey& journey, unsigned databases) {
