@@ -6,7 +6,7 @@
 
 /// Watches one picture box: tells when the pointer enters and leaves it, and when it is clicked. A tracker that is not
 /// attached tells nothing.
-class Tracker : PictureBox::Listener {
+class Tracker final : PictureBox::Listener {
 public:
     /// Flags of `Reports` and values of the Mouse event.
     static constexpr int Enter = 1;
