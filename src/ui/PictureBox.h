@@ -13,12 +13,10 @@ public:
     /// Who is told what happens to the box.
     class Listener {
     public:
+        virtual ~Listener() = default;
         virtual void Entered() = 0; ///< the pointer is over the box
         virtual void Left() = 0;    ///< it has left, or the mouse belongs to somebody else now
         virtual void Clicked() = 0; ///< pressed and released on the box, or Space or Enter
-
-    protected:
-        ~Listener() = default;
     };
 
     /// A picture to look at, in a frame or not.
