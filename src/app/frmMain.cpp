@@ -69,12 +69,13 @@ BOOL CALLBACK CancelNext(HWND window, LPARAM state) {
 
 frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), pathCheck_(kFileIsMissing) {}
 
-void frmMain::Form_Load() try {
-    if (StartSteps())
-        FinishStart();
-    else
-        Unload();
-} catch (...) {
+// A start that is refused, and one that only shows the palette, need none of the controls.
+bool frmMain::Form_Initialize() try { return StartSteps(); } catch (...) {
+    ErrorReport("frmMain: Sub Form_Load");
+    return false;
+}
+
+void frmMain::Form_Load() try { FinishStart(); } catch (...) {
     ErrorReport("frmMain: Sub Form_Load");
     Unload();
 }

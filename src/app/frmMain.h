@@ -101,6 +101,7 @@ private:
     };
 
     // The window and its life (frmMain.cpp)
+    bool Form_Initialize() override;
     void Form_Load() override;
     void Form_Resize() override;
     void Form_Unload() override;

@@ -94,6 +94,9 @@ void frmMain::mnuLanguages_Click() {
     // The load sequence restores what is stored: the window must not jump back to the size of the last run.
     SaveLayout();
     reload_ = true;
-    Form_Load();
+    if (Form_Initialize())
+        Form_Load();
+    else
+        Unload();
     EndIfInvisible();
 }

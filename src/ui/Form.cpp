@@ -62,6 +62,10 @@ Form* Form::FromWindow(HWND window) {
 void Form::Load() {
     if (window_) return;
     CreateFrame(owner_);
+    if (!Form_Initialize()) {
+        Unload();
+        return;
+    }
     CreateMenuBar();
     for (size_t index = 0; index < controls_.size(); ++index) controls_[index]->Create(static_cast<int>(index) + 100);
     // Pages lie on the tab control that was declared before them, and everything else on the pages.

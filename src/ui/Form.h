@@ -77,6 +77,8 @@ public:
     static int RunMessageLoop();
 
 protected:
+    /// Runs while the form has no controls yet. False unloads it as it is.
+    virtual bool Form_Initialize() { return true; }
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Deactivate() {}
