@@ -193,9 +193,10 @@ void frmMain::SaveLayout() {
 void frmMain::Form_Unload() {
     std::wstring database;
     try {
+        SaveLayout();
+        Hide(); // a share may take its time to answer
         // Not only before a change: the last change of all is in no copy otherwise.
         Backup::KeepOnce(IniLib::SettingsFile());
-        SaveLayout();
         if (Program().RestartAct) database = CloseActForRestart();
     } catch (...) {
         Program().RestartAct = false;
