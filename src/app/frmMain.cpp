@@ -177,6 +177,7 @@ void frmMain::SetMenuCaptions() {
     mnuAbout.Caption(OpensDialog(LangText[58]));
     mnuOpen.Caption(LangText[62]);
     mnuProperties.Caption(OpensDialog(LangText[55]));
+    DrawMenuBar(Handle());
 }
 
 void frmMain::SaveLayout() {

@@ -50,6 +50,13 @@ std::wstring DateOf(const std::wstring& path) {
     return text.data();
 }
 
+/// In twips; none when it was never stored or is garbage.
+std::optional<int> StoredColumnWidth(int column) {
+    const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + Text::FromNumber(column)));
+    if (!width || *width < 0 || *width > kWidestColumn) return std::nullopt;
+    return static_cast<int>(*width);
+}
+
 bool OpensQuickSwitchAtStart() {
     const auto wanted = Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0"));
     return wanted.value_or(0) == 1 && !IniLib::GetKeyValue(L"General", L"Quickswitch").empty();
@@ -186,15 +193,13 @@ void frmMain::RestoreWindow() {
 
 void frmMain::RestoreColumns() {
     if (!columnsLoaded_) ListView1.Icon(1);
-    while (ListView1.ColumnCount() < kColumnCount) ListView1.AddColumn({}, kDesignColumn);
-    SetColumnTitles();
     for (int column = 0; column < kColumnCount; ++column) {
-        const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + Text::FromNumber(column)));
-        if (width && *width >= 0 && *width <= kWidestColumn) {
-            ListView1.ColumnWidth(column, static_cast<int>(*width));
-        } else if (!columnsLoaded_) {
-            ListView1.ColumnWidth(column, std::max(ListView1.TitleWidth(ColumnTitle(column)), kDesignColumn));
-        }
+        const auto width = StoredColumnWidth(column);
+        const std::wstring title = ColumnTitle(column);
+        if (column >= ListView1.ColumnCount())
+            ListView1.AddColumn(title, width.value_or(std::max(ListView1.TitleWidth(title), kDesignColumn)));
+        else if (width)
+            ListView1.ColumnWidth(column, *width);
     }
     columnsLoaded_ = true;
 }

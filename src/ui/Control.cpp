@@ -30,6 +30,7 @@ void Control::Visible(bool visible) { ShowWindow(window_, visible ? SW_SHOWNA : 
 void Control::SetFocus() { ::SetFocus(window_); }
 
 void Control::Move(const Twips& place) {
+    if (place == place_) return;
     place_ = place;
     PlaceWindow();
 }
@@ -55,22 +56,26 @@ Twips Control::WindowPlace() const {
 void Control::Create(int ordinal) {
     const DWORD style = WS_CHILD | WS_VISIBLE | kind_.Style;
     const auto identifier = reinterpret_cast<HMENU>(static_cast<INT_PTR>(Identifier(ordinal))); // NOLINT
-    window_ = CreateWindowExW(kind_.ExStyle, kind_.ClassName, L"", style, 0, 0, 0, 0, form_->Handle(), identifier,
-                              GetModuleHandleW(nullptr), nullptr);
+    const PixelPlace place = WindowPixels();
+    window_ = CreateWindowExW(kind_.ExStyle, kind_.ClassName, L"", style, place.Left, place.Top, place.Width,
+                              place.Height, form_->Handle(), identifier, GetModuleHandleW(nullptr), nullptr);
     if (!window_) ThrowIfFailed(HRESULT_FROM_WIN32(GetLastError()));
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     // Tests and screen-automation tools find the control by this name; the value is its index, counted from 1.
     SetPropW(window_, name_, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(index_) + 1)); // NOLINT
-    PlaceWindow();
     OnCreated();
 }
 
-void Control::PlaceWindow() const {
-    if (!window_) return;
+Control::PixelPlace Control::WindowPixels() const {
     const int dpi = form_->Dpi();
     const Twips place = WindowPlace();
     const int left = ToPixels(place.Left, dpi);
     const int top = ToPixels(place.Top, dpi);
-    SetWindowPos(window_, nullptr, left, top, ToPixels(place.Left + place.Width, dpi) - left,
-                 ToPixels(place.Top + place.Height, dpi) - top, SWP_NOZORDER | SWP_NOACTIVATE);
+    return {left, top, ToPixels(place.Left + place.Width, dpi) - left, ToPixels(place.Top + place.Height, dpi) - top};
+}
+
+void Control::PlaceWindow() const {
+    if (!window_) return;
+    const PixelPlace place = WindowPixels();
+    SetWindowPos(window_, nullptr, place.Left, place.Top, place.Width, place.Height, SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -84,6 +84,10 @@ private:
     /// The form has come to another resolution; `dpi` is the one before.
     virtual void OnDpiChanged(int /*dpi*/) {}
     void Create(int ordinal);
+    struct PixelPlace {
+        int Left, Top, Width, Height;
+    };
+    PixelPlace WindowPixels() const;
     void PlaceWindow() const;
 
     Form* form_;

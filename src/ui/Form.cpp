@@ -103,7 +103,7 @@ void Form::ApplyFont() {
     FontHandle font(CreateFontIndirectW(&description));
     for (Control* control : controls_) {
         if (!control->Handle()) continue;
-        SendMessageW(control->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
+        SendMessageW(control->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), Visible());
         control->OnFontChanged(description);
     }
     font_ = std::move(font);

@@ -15,7 +15,6 @@ ListView::ListView(Form* form, const wchar_t* name, Twips place)
 void ListView::OnCreated() {
     constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
-    if (tip_) toolTip_.SetAsked(Owner().Handle(), Handle());
 }
 
 void ListView::AddColumn(const std::wstring& title, int width) {
@@ -123,7 +122,7 @@ void ListView::OnDpiChanged(int dpi) {
 }
 
 void ListView::Fade(int row, bool isFaded) {
-    rows_.at(static_cast<size_t>(row)).IsFaded = isFaded;
+    if (std::exchange(rows_.at(static_cast<size_t>(row)).IsFaded, isFaded) == isFaded) return;
     LVITEMW state{};
     state.stateMask = LVIS_CUT;
     state.state = isFaded ? LVIS_CUT : 0;
@@ -252,10 +251,14 @@ LRESULT ListView::OnNotify(NMHDR& header) {
 }
 
 bool ListView::OnSetCursor() {
-    POINT pointer{};
-    GetCursorPos(&pointer);
+    if (!tip_) return false;
+    const DWORD before = std::exchange(pointer_, GetMessagePos());
+    // Not before the pointer moves here: the tip listens to every message of the list, and filling it takes hundreds.
+    if (before != 0 && before != pointer_ && !std::exchange(hasTip_, true))
+        toolTip_.SetAsked(Owner().Handle(), Handle());
     // A tip belongs to one row: on another one it begins anew.
-    if (tip_ && std::exchange(hotRow_, RowAt(pointer)) != hotRow_) toolTip_.Pop();
+    const POINT position{GET_X_LPARAM(pointer_), GET_Y_LPARAM(pointer_)};
+    if (std::exchange(hotRow_, RowAt(position)) != hotRow_) toolTip_.Pop();
     return false;
 }
 

@@ -117,6 +117,8 @@ private:
     Action rightClick_;
     Handler<std::wstring, int> tip_;
     ToolTip toolTip_;
+    bool hasTip_ = false;
+    DWORD pointer_ = 0; ///< where it was last, as a message tells it
     std::wstring shownTip_;
     int hotRow_ = -1;
     POINT menuPosition_{};

@@ -32,7 +32,6 @@ void Menu::Caption(const std::wstring& caption) {
     if (!bar_) return;
     for (int position = 0; position < GetMenuItemCount(bar_); ++position)
         if (GetSubMenu(bar_, position) == menu_) SetCaption(bar_, static_cast<UINT>(position), true, caption);
-    DrawMenuBar(form_->Handle());
 }
 
 void Menu::PopUp(POINT position, UINT flags) {

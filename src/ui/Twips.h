@@ -8,6 +8,7 @@ struct Twips {
     int Top = 0;
     int Width = 0;
     int Height = 0;
+    bool operator==(const Twips&) const = default;
 };
 
 /// Dots per inch of a normal display (USER_DEFAULT_SCREEN_DPI).
