@@ -75,7 +75,7 @@ void CountReadings(const Workplace& workplace, std::array<Action, 4>& actions, s
     const CountedProgram program(group, workplace.ProgramFile(L"Kelmorra.exe"));
     unsigned before = 0;
     const auto note = [&](size_t action, double) {
-        const unsigned now = program.Count({"GetPrivateProfileStringA"});
+        const unsigned now = program.Count({"CreateFileW"});
         actions.at(action).readings.at(size) = now - before;
         before = now;
     };

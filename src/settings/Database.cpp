@@ -40,15 +40,11 @@ std::wstring ReadList(const wchar_t* key) {
     return IniLib::GetWholeValue(kGeneral, key);
 }
 
-NameList::Divided ReadSortList() {
-    const std::wstring whole = ReadList(kSort);
-    return NameList::Divide(IniLib::GetKeyValue(kGeneral, kSort), whole);
-}
-
-/// As ReadSortList divides it.
 NameList::Divided DivideSort(const std::wstring& whole) {
     return NameList::Divide(ToWide(ToAnsi(whole).substr(0, IniLib::ShownBytes)), whole);
 }
+
+NameList::Divided ReadSortList() { return DivideSort(ReadList(kSort)); }
 
 /// A change of a list that cannot be read now is refused.
 void EditList(IniLib::Change& change, const wchar_t* key, IniLib::Change::Edit edit) {

@@ -4,6 +4,7 @@
 #include "settings/FileHealth.h"
 #include "settings/IniLib.h"
 #include "settings/SafeFile.h"
+#include "support/Text.h"
 #include "win32/AnsiText.h"
 #include "win32/Windows.h"
 
@@ -36,17 +37,6 @@ bool KeyExists(const char* section, const char* key, const char* file) {
     }
     return false;
 }
-
-/// Nothing when there is more than the platform reads.
-std::optional<std::wstring> WholeValue(const char* section, const char* key, const char* file) {
-    std::string value(kLongestLine + 2, '\0');
-    value.resize(GetPrivateProfileStringA(section, key, "", value.data(), static_cast<DWORD>(value.size()), file));
-    if (value.size() > kLongestLine) return std::nullopt;
-    return ToWide(value);
-}
-
-/// The platform places a bare file name in a folder of the system.
-bool HasFolder(const std::wstring& path) { return path.find_first_of(L"\\/:") != std::wstring::npos; }
 
 } // namespace
 
@@ -82,11 +72,11 @@ bool Change::Make(const std::wstring& path) const {
 }
 
 bool Change::MakeEdit(const Step& step, const char* file) {
-    const auto whole = WholeValue(step.section.c_str(), step.key->c_str(), file);
-    const auto value = whole ? step.edit(*whole) : std::nullopt;
-    if (whole && !value) return true;
-    const std::string bytes = Quoted(ToAnsi(value.value_or(L"")));
-    if (!whole || step.key->size() + bytes.size() > kLongestLine) {
+    const std::wstring whole = GetWholeValue(ToWide(step.section), ToWide(*step.key), ToWide(file));
+    const auto value = step.edit(whole);
+    if (!value) return true;
+    const std::string bytes = Quoted(ToAnsi(*value));
+    if (whole.size() > kLongestLine || step.key->size() + bytes.size() > kLongestLine) {
         SetLastError(ERROR_BUFFER_OVERFLOW);
         return false;
     }
@@ -105,7 +95,7 @@ bool Change::MakeStep(const Step& step, const char* file) {
 bool Change::Commit() const {
     if (isRefused_) return false;
     if (steps_.empty()) return true;
-    if (!HasFolder(fileName_)) return Make(fileName_);
+    if (!Text::HasFolder(fileName_)) return Make(fileName_);
     if (!FileHealth::CanBeTrusted(fileName_)) return false;
     Backup::KeepOnce(fileName_);
     return SafeFile::Change(fileName_, [this](const std::wstring& path) { return Make(path); });

@@ -1,6 +1,7 @@
 #include "settings/IniLib.h"
 
 #include "settings/FileHealth.h"
+#include "settings/IniText.h"
 #include "settings/SafeFile.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
@@ -15,7 +16,7 @@ namespace {
 
 constexpr DWORD kOfferedSize = 999;
 // The platform's calls carry texts in 64 KB of wide characters.
-constexpr DWORD kLongestValue = 32766;
+constexpr DWORD kLongestValue = 32768;
 
 std::wstring& CurrentFile() {
     static std::wstring path;
@@ -35,9 +36,29 @@ std::string Read(const char* section, const char* key, DWORD size, const std::ws
     return buffer;
 }
 
-std::string ReadValue(const std::wstring& section, const std::wstring& key, DWORD size, const std::wstring& fileName) {
-    if (section.empty()) return {};
-    return Read(ToAnsi(section).c_str(), ToAnsi(key).c_str(), size, fileName);
+/// The text of a settings file. Nothing for one that the platform alone understands: of a bare name, in UTF-16, or with
+/// a mark of its encoding.
+std::optional<std::wstring> PlainText(const std::wstring& path) {
+    const auto bytes = Text::HasFolder(path) ? SafeFile::Read(path) : std::nullopt;
+    if (!bytes || bytes->find('\0') != std::string::npos || bytes->starts_with("\xEF\xBB\xBF")) return std::nullopt;
+    return ToWide(*bytes);
+}
+
+/// The whole value. As the platform would return it, but in a part of the time: that takes a whole file apart for each.
+std::wstring ReadValue(const std::wstring& section, const std::wstring& key, const std::wstring& fileName) {
+    if (section.empty() || key.empty()) return {};
+    const std::wstring path = ToWide(ToAnsi(fileName));
+    const auto text = PlainText(path);
+    if (!text) return ToWide(Read(ToAnsi(section).c_str(), ToAnsi(key).c_str(), kLongestValue, fileName));
+    const std::wstring value(IniText::Find(*text, section, key).value_or(std::wstring_view()));
+    if (!value.empty()) FileHealth::NoteRead(path);
+    return value;
+}
+
+/// As much of a value as is shown.
+std::wstring Shown(const std::wstring& value) {
+    const std::string bytes = ToAnsi(value);
+    return bytes.size() <= IniLib::ShownBytes ? value : ToWide(bytes.substr(0, IniLib::ShownBytes));
 }
 
 } // namespace
@@ -51,7 +72,7 @@ void SettingsFile(std::wstring path) { CurrentFile() = std::move(path); }
 std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText,
                          const std::wstring& valueKind, const std::wstring& replacement, std::wstring& fileName) try {
     UseSettingsFile(fileName);
-    const std::wstring stored = ToWide(ReadValue(section, key, kOfferedSize, fileName));
+    const std::wstring stored = Shown(ReadValue(section, key, fileName));
     const std::wstring& value = stored.empty() ? defaultText : stored;
     const bool mustBeNumber = valueKind == L"Numeric" || valueKind == L"Boolean";
     return mustBeNumber && !replacement.empty() && !Text::IsNumeric(value) ? replacement : value;
@@ -65,11 +86,8 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
     return GetKeyValue(section, key, defaultText, {}, {}, fileName);
 }
 
-std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key) {
-    for (DWORD size = kOfferedSize;; size *= 2) {
-        const std::string value = ReadValue(section, key, size, SettingsFile());
-        if (value.size() + 1 < size || size > kLongestValue) return ToWide(value);
-    }
+std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key, const std::wstring& fileName) {
+    return ReadValue(section, key, fileName);
 }
 
 bool MayHold(std::initializer_list<std::wstring_view> words) {

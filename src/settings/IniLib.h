@@ -28,9 +28,10 @@ std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, c
                          const std::wstring& valueKind, const std::wstring& replacement, std::wstring& fileName);
 std::wstring GetKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
 
-/// The value of a key without the cut (as far as the platform reads, 32766 bytes or more); "" when missing. For those
-/// who write a long value back and must not lose its end.
-std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key);
+/// The value of a key without the cut; "" when missing. For those who write a long value back and must not lose its
+/// end. (Of a file in UTF-16 the platform reads 32767 bytes.)
+std::wstring GetWholeValue(const std::wstring& section, const std::wstring& key,
+                           const std::wstring& fileName = SettingsFile());
 
 /// False when none of these words (plain ASCII) stands anywhere in the settings file, in whatever letter case. One
 /// reading of the whole file instead of one for each section.

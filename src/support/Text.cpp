@@ -59,6 +59,8 @@ std::wstring AfterLast(std::wstring_view text, wchar_t separator) {
     return std::wstring(found == std::wstring_view::npos ? text : text.substr(found + 1));
 }
 
+bool HasFolder(std::wstring_view path) { return path.find_first_of(L"\\/:") != std::wstring_view::npos; }
+
 std::wstring ExtractPath(std::wstring_view path) {
     const size_t slash = path.rfind(L'\\');
     if (slash == std::wstring_view::npos) return {};

@@ -26,6 +26,9 @@ std::wstring Replace(std::wstring_view text, std::wstring_view from, std::wstrin
 /// What follows the last `separator`, or the whole text when there is none.
 std::wstring AfterLast(std::wstring_view text, wchar_t separator);
 
+/// False for the bare name of a file.
+bool HasFolder(std::wstring_view path);
+
 /// The folder part of a path, without a trailing "\" unless it is a drive's root; "" when there is none.
 std::wstring ExtractPath(std::wstring_view path);
 

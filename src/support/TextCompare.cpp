@@ -4,12 +4,21 @@
 
 #include "win32/Windows.h"
 
+#include <algorithm>
+
 namespace {
 
 std::wstring Lower(std::wstring_view text) {
     std::wstring folded(text);
     CharLowerBuffW(folded.data(), static_cast<DWORD>(folded.size()));
     return folded;
+}
+
+/// A single character takes the place of the text's address.
+wchar_t Lower(wchar_t character) {
+    auto* const text =
+        reinterpret_cast<wchar_t*>(static_cast<UINT_PTR>(character)); // NOLINT(performance-no-int-to-ptr)
+    return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(CharLowerW(text)));
 }
 
 std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
@@ -21,7 +30,10 @@ std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
 
 namespace Text {
 
-bool EqualNoCase(std::wstring_view left, std::wstring_view right) { return Lower(left) == Lower(right); }
+bool EqualNoCase(std::wstring_view left, std::wstring_view right) {
+    return std::ranges::equal(left, right,
+                              [](wchar_t one, wchar_t other) { return one == other || Lower(one) == Lower(other); });
+}
 
 bool ContainsNoCase(std::wstring_view text, std::wstring_view part) {
     return !part.empty() && Lower(text).find(Lower(part)) != std::wstring::npos;

@@ -16,9 +16,8 @@ namespace {
 std::wstring Widened(std::string_view bytes, UINT codePage) {
     if (bytes.empty()) return {};
     const int size = static_cast<int>(bytes.size());
-    const int length = MultiByteToWideChar(codePage, 0, bytes.data(), size, nullptr, 0);
-    std::wstring text(static_cast<size_t>(length), L'\0');
-    MultiByteToWideChar(codePage, 0, bytes.data(), size, text.data(), length);
+    std::wstring text(bytes.size(), L'\0'); // no byte becomes more than one character
+    text.resize(static_cast<size_t>(MultiByteToWideChar(codePage, 0, bytes.data(), size, text.data(), size)));
     return text;
 }
 

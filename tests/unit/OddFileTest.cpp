@@ -12,6 +12,7 @@
 #include "win32/AnsiText.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <random>
 
@@ -97,6 +98,30 @@ TEST_CASE_FIXTURE(OddFile, "A list longer than the platform reads is shown in pa
         CHECK_FALSE(change.Commit());
         CHECK((file.Bytes() == before)); // in parentheses: not to be shown
     }
+}
+
+TEST_CASE_FIXTURE(OddFile, "A value reads as the platform reads it") {
+    std::mt19937 random(1848); // NOLINT(cert-msc51-cpp): the same files in every run
+    constexpr std::string_view kParts[] = {"[A]", "[a]",  "[B",      "]",      "=",     ";",   "\"", "'",
+                                           " ",   "\t",   "\r\n",    "\n",     "\r",    "K",   "k",  "L",
+                                           "x",   "\x1A", "K=v\r\n", "\r\nk=", "\nL =", "\xE4"};
+    size_t compared = 0;
+    for (int round = 0; round < 400; ++round) {
+        std::string bytes = random() % 4 ? "[A]\r\n" : "";
+        for (unsigned left = random() % 30; left > 0; --left) bytes += kParts[random() % std::size(kParts)];
+        file.Bytes(bytes);
+        for (const char* section : {"A", "B", "\xE4"})
+            for (const char* key : {"K", "L", "x", "\xE4", ";K"}) {
+                std::array<char, 100> value{};
+                GetPrivateProfileStringA(section, key, "", value.data(), value.size(), ToAnsi(file.Path()).c_str());
+                CAPTURE(bytes);
+                CAPTURE(section);
+                CAPTURE(key);
+                CHECK(ToAnsi(IniLib::GetKeyValue(ToWide(section), ToWide(key))) == std::string(value.data()));
+                compared += value[0] != 0 ? 1 : 0;
+            }
+    }
+    CHECK(compared > 100);
 }
 
 TEST_CASE_FIXTURE(OddFile, "Of random bytes whatever reads as a value still does so after a write") {

@@ -1,0 +1,74 @@
+#include "settings/IniText.h"
+
+#include "support/Text.h"
+
+#include <algorithm>
+#include <cwctype>
+
+namespace {
+
+bool IsBlank(wchar_t character) {
+    constexpr wchar_t kEndOfFile = 0x1A; // DOS editors left it
+    return character == kEndOfFile || std::iswspace(character) != 0;
+}
+
+std::wstring_view Bare(std::wstring_view text) {
+    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+    return text;
+}
+
+/// Takes the first line off a text.
+std::wstring_view TakeLine(std::wstring_view& text) {
+    const std::wstring_view line = text.substr(0, text.find_first_of(L"\r\n"));
+    text.remove_prefix(std::min(text.size(), line.size() + 1));
+    return Bare(line);
+}
+
+/// The name in a section's first line; nothing for any other line.
+std::optional<std::wstring_view> SectionName(std::wstring_view line) {
+    const size_t end = line.rfind(L']');
+    if (!line.starts_with(L'[') || end == std::wstring_view::npos) return std::nullopt;
+    return Bare(line.substr(1, end - 1));
+}
+
+std::wstring_view WithoutQuotes(std::wstring_view value) {
+    const bool isQuoted = value.size() > 1 && (value.front() == L'"' || value.front() == L'\'');
+    return isQuoted && value.front() == value.back() ? value.substr(1, value.size() - 2) : value;
+}
+
+constexpr wchar_t Lower(wchar_t character) {
+    return character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character + L'a' - L'A') : character;
+}
+
+/// Equality without regard to the case of the letters A to Z.
+bool EqualAscii(std::wstring_view left, std::wstring_view right) {
+    return std::ranges::equal(left, right, {}, &Lower, &Lower);
+}
+
+/// What follows the first line of the first section of that name.
+std::optional<std::wstring_view> Section(std::wstring_view text, std::wstring_view name,
+                                         bool (*equal)(std::wstring_view, std::wstring_view)) {
+    while (!text.empty())
+        if (const auto found = SectionName(TakeLine(text)); found && equal(*found, name)) return text;
+    return std::nullopt;
+}
+
+} // namespace
+
+namespace IniText {
+
+std::optional<std::wstring_view> Find(std::wstring_view text, std::wstring_view section, std::wstring_view key) {
+    auto rest = Section(text, Bare(section), &EqualAscii);
+    if (!rest) rest = Section(text, Bare(section), &Text::EqualNoCase);
+    while (rest && !rest->empty()) {
+        const std::wstring_view line = TakeLine(*rest);
+        if (SectionName(line)) break;
+        const size_t sign = std::min(line.find(L'='), line.size());
+        if (EqualAscii(Bare(line.substr(0, sign)), Bare(key)))
+            return WithoutQuotes(Bare(line.substr(std::min(sign + 1, line.size()))));
+    }
+    return std::nullopt;
+}
+
+} // namespace IniText
