@@ -2,6 +2,7 @@
 
 #include "program/Program.h"
 #include "support/ErrorReport.h"
+#include "win32/Windows.h"
 
 namespace Module1 {
 
@@ -11,6 +12,7 @@ bool Create_object() try {
     program.Application.OpenFile(L"");
     program.Views = program.Application.Views();
     program.Preferences = program.Application.Preferences();
+    CoFreeUnusedLibrariesEx(0, 0); // what has only helped to connect, almost a megabyte under Wine
     return true;
 } catch (...) {
     ErrorReport("Module1: Sub Create_object");
