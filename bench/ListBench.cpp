@@ -90,7 +90,7 @@ void TellGrowth(const Action& action) {
     const double each = (Median(many) - Median(few)) / (kSizes.back() - kSizes.front());
     const double readings = static_cast<double>(counts.back() - counts.front()) / (kSizes.back() - kSizes.front());
     Tell({action.name, Spread(few, 1) + ", " + Spread(some, 1) + ", " + Spread(many, 1) + " ms",
-          "itself: " + Fixed(each, 2) + " ms and " + Fixed(readings, 1) + " readings for each more (" +
+          "itself: " + Fixed(each, 2) + " ms and " + Fixed(readings, 1) + " openings of files for each more (" +
               std::to_string(counts[0]) + ", " + std::to_string(counts[1]) + ", " + std::to_string(counts[2]) + ")",
           "x " + Spread(Ratios(some, few), 2) + ", x " + Spread(Ratios(many, few), 2), "<= x 10, x 30",
           std::to_string(Runs())});

@@ -2,6 +2,7 @@
 
 #include "support/Busy.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -61,14 +62,21 @@ Dispatch Dispatch::Create(const wchar_t* progId, Where at) {
     return Dispatch(std::move(object));
 }
 
+DISPID Dispatch::IdentifierOf(const Member& member) const {
+    std::wstring name = member.Name;
+    const auto known = std::ranges::find_if(known_, [&](const Known& one) { return !one.Name || name == one.Name; });
+    if (known != known_.end() && known->Name) return known->Identifier;
+    DISPID identifier = DISPID_UNKNOWN;
+    wchar_t* names = name.data();
+    ThrowIfFailed(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &identifier), member.At);
+    if (known != known_.end()) *known = {member.Name, identifier};
+    return identifier;
+}
+
 void Dispatch::Invoke(const Member& member, WORD flags, std::span<const Variant> arguments, Variant* result) const {
     const Busy busy;
     if (!object_) throw Error(BasicError::ObjectNotSet, L"Object variable or With block variable not set", member.At);
-    DISPID identifier = DISPID_UNKNOWN;
-    std::wstring name = member.Name;
-    wchar_t* names = name.data();
-    ThrowIfFailed(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &identifier), member.At);
-
+    const DISPID identifier = IdentifierOf(member);
     std::vector<VARIANT> values; // shallow copies: the Variants keep ownership
     for (const Variant& argument : arguments) values.push_back(argument.Get());
     DISPID propertyPut = DISPID_PROPERTYPUT;

@@ -29,7 +29,7 @@ public:
 
     explicit operator bool() const { return static_cast<bool>(object_); }
     IDispatch* Get() const { return object_.Get(); }
-    void Release() { object_.Reset(); }
+    void Release() { *this = {}; }
 
     /// A method whose result is not used.
     template <class... A>
@@ -58,8 +58,15 @@ private:
         return reversed;
     }
     void Invoke(const Member& member, WORD flags, std::span<const Variant> arguments, Variant* result) const;
+    /// Asks the server once for each name: by OLE Automation's rules the answer holds as long as the object.
+    DISPID IdentifierOf(const Member& member) const;
 
+    struct Known {
+        const wchar_t* Name;
+        DISPID Identifier;
+    };
     ComPtr<IDispatch> object_;
+    mutable std::array<Known, 8> known_{}; ///< the application object has eight members
 };
 
 /// The Error that a failed automation call stands for. Fills in a deferred EXCEPINFO and frees its texts.

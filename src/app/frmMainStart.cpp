@@ -183,10 +183,13 @@ void frmMain::RestoreWindow() {
     const Twips design = OuterSize();
     const int widest = ToTwips(GetSystemMetrics(SM_CXMAXTRACK), Dpi());
     const int highest = ToTwips(GetSystemMetrics(SM_CYMAXTRACK), Dpi());
-    OuterSize(std::min<int>(width.value_or(design.Width), widest),
-              std::min<int>(height.value_or(design.Height), highest));
+    const Twips wanted{0, 0, std::min<int>(width.value_or(design.Width), widest),
+                       std::min<int>(height.value_or(design.Height), highest)};
+    if (wanted != design) {
+        OuterSize(wanted.Width, wanted.Height);
+        if (!reload_) Center(nullptr);
+    }
     sizeLoaded_ = true;
-    if (!reload_) Center(nullptr);
     if (!reload_) optView[0].Value(true);
     SetCaptions();
 }

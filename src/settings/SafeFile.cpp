@@ -132,12 +132,14 @@ std::optional<std::string> Read(const std::wstring& path) {
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0,
                                       nullptr));
     if (!file) return std::nullopt;
+    constexpr DWORD kBlock = 0x4000; // a settings file of some forty databases
     std::string bytes;
-    char block[4096];
     DWORD count = 0;
     do {
-        if (!ReadFile(file.Get(), block, sizeof block, &count, nullptr)) return std::nullopt;
-        bytes.append(block, count);
+        const size_t before = bytes.size();
+        bytes.resize(before + kBlock);
+        if (!ReadFile(file.Get(), &bytes[before], kBlock, &count, nullptr)) return std::nullopt;
+        bytes.resize(before + count);
     } while (count > 0);
     return bytes;
 }

@@ -8,7 +8,7 @@ DWORD StyleOf(ButtonRole role) { return (role == ButtonRole::Default ? BS_DEFPUS
 
 } // namespace
 
-CommandButton::CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role,
+CommandButton::CommandButton(Form* form, const wchar_t* name, const Twips& place, const Action& click, ButtonRole role,
                              Frame* container, int index)
     : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}, container, index), click_(click), role_(role) {}
 
@@ -21,7 +21,8 @@ void CommandButton::OnCommand(WORD notification) {
     if (notification == BN_CLICKED && Enabled()) Raise(L"Click", click_);
 }
 
-CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click, int index)
+CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, const Twips& place, const Action& click,
+                   int index)
     : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, &container, index),
       click_(click) {}
 
@@ -41,7 +42,8 @@ void CheckBox::OnCommand(WORD notification) {
         Raise(L"Click", click_);
 }
 
-OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Action click)
+OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, const Twips& place, int index,
+                           const Action& click)
     : Control(form, name, place,
               {L"Button", static_cast<DWORD>(BS_AUTORADIOBUTTON | (index == 0 ? WS_GROUP | WS_TABSTOP : 0))},
               &container, index),

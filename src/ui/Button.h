@@ -11,16 +11,17 @@ inline constexpr ButtonRole Cancel = ButtonRole::Cancel;
 class CommandButton : public Control {
 public:
     template <class F>
-    CommandButton(F* form, const wchar_t* name, Twips place, void (F::*click)(), ButtonRole role = ButtonRole::Plain)
+    CommandButton(F* form, const wchar_t* name, const Twips& place, void (F::*click)(),
+                  ButtonRole role = ButtonRole::Plain)
         : CommandButton(static_cast<Form*>(form), name, place, Bind(form, click), role) {}
     /// A button inside a frame; of several with one name, the handler gets the index.
     template <class F>
-    CommandButton(F* form, Frame& container, const wchar_t* name, Twips place, void (F::*click)())
+    CommandButton(F* form, Frame& container, const wchar_t* name, const Twips& place, void (F::*click)())
         : CommandButton(form, name, place, Bind(form, click), ButtonRole::Plain, &container) {}
     template <class F>
-    CommandButton(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
+    CommandButton(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
         : CommandButton(form, name, place, BindElement(form, click, index), ButtonRole::Plain, &container, index) {}
-    CommandButton(Form* form, const wchar_t* name, Twips place, Action click, ButtonRole role,
+    CommandButton(Form* form, const wchar_t* name, const Twips& place, const Action& click, ButtonRole role,
                   Frame* container = nullptr, int index = 0);
 
 private:
@@ -35,13 +36,14 @@ private:
 class CheckBox : public Control {
 public:
     template <class F>
-    CheckBox(F* form, Frame& container, const wchar_t* name, Twips place, void (F::*click)())
+    CheckBox(F* form, Frame& container, const wchar_t* name, const Twips& place, void (F::*click)())
         : CheckBox(static_cast<Form*>(form), container, name, place, Bind(form, click)) {}
     /// An element of a control array; its handler gets its index.
     template <class F>
-    CheckBox(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
+    CheckBox(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
         : CheckBox(static_cast<Form*>(form), container, name, place, BindElement(form, click, index), index) {}
-    CheckBox(Form* form, Frame& container, const wchar_t* name, Twips place, Action click = {}, int index = 0);
+    CheckBox(Form* form, Frame& container, const wchar_t* name, const Twips& place, const Action& click = {},
+             int index = 0);
 
     bool Value() const;
     /// Checks or unchecks and, when that changes it, runs the handler as a click does.
@@ -57,9 +59,9 @@ private:
 class OptionButton : public Control {
 public:
     template <class F>
-    OptionButton(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
+    OptionButton(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
         : OptionButton(static_cast<Form*>(form), container, name, place, index, BindElement(form, click, index)) {}
-    OptionButton(Form* form, Frame& container, const wchar_t* name, Twips place, int index, Action click);
+    OptionButton(Form* form, Frame& container, const wchar_t* name, const Twips& place, int index, const Action& click);
 
     bool Value() const;
     /// Checks or unchecks without running a handler and without touching the others of the group.

@@ -7,7 +7,8 @@
 #include "ui/Form.h"
 #include "ui/Frame.h"
 
-Control::Control(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container, int index)
+Control::Control(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container,
+                 int index)
     : form_(form), name_(name), place_(place), kind_(kind), container_(container), index_(index) {
     form->Register(*this);
     if (container) container->Contain(*this);

@@ -21,7 +21,8 @@ struct ControlKind {
 /// its form; its window lives from the form's Load to its end. Order of declaration is Tab order.
 class Control {
 public:
-    Control(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container = nullptr, int index = 0);
+    Control(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container = nullptr,
+            int index = 0);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;

@@ -1,6 +1,7 @@
 #include "ui/Frame.h"
 
 void Frame::Move(const Twips& place) {
+    if (place == Place()) return;
     Control::Move(place);
     for (const Control* content : contents_) content->PlaceWindow();
 }

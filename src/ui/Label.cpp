@@ -3,7 +3,8 @@
 #include <cstdlib>
 #include <utility>
 
-Label::Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index, Align align)
+Label::Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index,
+             Align align)
     : Control(form, name, place,
               {L"Static", static_cast<DWORD>((align == Align::Left ? SS_LEFT : SS_RIGHT) | (click ? SS_NOTIFY : 0))},
               container, index),

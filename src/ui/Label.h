@@ -8,21 +8,21 @@ class Label : public Control {
 public:
     enum class Align { Left, Right };
 
-    Label(Form* form, const wchar_t* name, Twips place, Align align = Align::Left)
+    Label(Form* form, const wchar_t* name, const Twips& place, Align align = Align::Left)
         : Label(form, name, place, Action{}, nullptr, 0, align) {}
     template <class F>
-    Label(F* form, const wchar_t* name, Twips place, void (F::*click)())
+    Label(F* form, const wchar_t* name, const Twips& place, void (F::*click)())
         : Label(form, name, place, Bind(form, click), nullptr) {}
     /// A label inside a frame.
-    Label(Form* form, Frame& container, const wchar_t* name, Twips place)
+    Label(Form* form, Frame& container, const wchar_t* name, const Twips& place)
         : Label(form, name, place, Action{}, &container) {}
     /// An element of a control array inside a frame; its handler gets its index.
     template <class F>
-    Label(F* form, Frame& container, const wchar_t* name, Twips place, int index, void (F::*click)(int))
+    Label(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
         : Label(form, name, place, BindElement(form, click, index), &container, index) {}
 
 protected:
-    Label(Form* form, const wchar_t* name, Twips place, Action click, Frame* container, int index = 0,
+    Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index = 0,
           Align align = Align::Left);
 
 private:
@@ -35,7 +35,7 @@ private:
 class LinkLabel : public Label {
 public:
     template <class F>
-    LinkLabel(F* form, const wchar_t* name, Twips place, void (F::*click)()) : Label(form, name, place, click) {}
+    LinkLabel(F* form, const wchar_t* name, const Twips& place, void (F::*click)()) : Label(form, name, place, click) {}
 
 private:
     HBRUSH OnColor(HDC canvas) override;
@@ -48,7 +48,7 @@ private:
 /// A separator line in a system colour (a COLOR_ constant).
 class Line : public Control {
 public:
-    Line(Form* form, const wchar_t* name, Twips place, int color)
+    Line(Form* form, const wchar_t* name, const Twips& place, int color)
         : Control(form, name, place, {L"Static", SS_LEFT}), color_(color) {}
 
 private:

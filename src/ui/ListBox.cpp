@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-ListBox::ListBox(Form* form, const wchar_t* name, Twips place)
+ListBox::ListBox(Form* form, const wchar_t* name, const Twips& place)
     : Control(form, name, place,
               {L"ListBox", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
 

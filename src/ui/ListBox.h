@@ -18,7 +18,7 @@ struct ListBoxEvents {
 class ListBox : public Control {
 public:
     template <class F>
-    ListBox(F* form, const wchar_t* name, Twips place, std::type_identity_t<ListBoxEvents<F>> events)
+    ListBox(F* form, const wchar_t* name, const Twips& place, std::type_identity_t<ListBoxEvents<F>> events)
         : ListBox(static_cast<Form*>(form), name, place) {
         click_ = Bind(form, events.Click);
         dblClick_ = Bind(form, events.DblClick);
@@ -40,7 +40,7 @@ public:
     void ItemData(int index, LONG_PTR datum);
 
 private:
-    ListBox(Form* form, const wchar_t* name, Twips place);
+    ListBox(Form* form, const wchar_t* name, const Twips& place);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
     void OnContextMenu(POINT position) override;

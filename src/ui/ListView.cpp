@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-ListView::ListView(Form* form, const wchar_t* name, Twips place)
+ListView::ListView(Form* form, const wchar_t* name, const Twips& place)
     : Control(
           form, name, place,
           {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}

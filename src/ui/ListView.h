@@ -23,7 +23,7 @@ struct ListViewEvents {
 class ListView : public Control {
 public:
     template <class F>
-    ListView(F* form, const wchar_t* name, Twips place, std::type_identity_t<ListViewEvents<F>> events = {})
+    ListView(F* form, const wchar_t* name, const Twips& place, std::type_identity_t<ListViewEvents<F>> events = {})
         : ListView(static_cast<Form*>(form), name, place) {
         dblClick_ = Bind(form, events.DblClick);
         columnClick_ = {form, events.ColumnClick};
@@ -79,7 +79,7 @@ public:
     POINT MenuPosition() const { return menuPosition_; }
 
 private:
-    ListView(Form* form, const wchar_t* name, Twips place);
+    ListView(Form* form, const wchar_t* name, const Twips& place);
     void OnCreated() override;
     LRESULT OnNotify(NMHDR& header) override;
     void OnContextMenu(POINT position) override;

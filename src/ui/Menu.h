@@ -41,7 +41,7 @@ public:
     template <class F>
     MenuItem(F* form, Menu& menu, const wchar_t* name, void (F::*click)())
         : MenuItem(static_cast<Form*>(form), menu, name, Bind(form, click)) {}
-    MenuItem(Form* form, Menu& menu, const wchar_t* name, Action click);
+    MenuItem(Form* form, Menu& menu, const wchar_t* name, const Action& click);
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 

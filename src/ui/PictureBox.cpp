@@ -6,8 +6,8 @@
 
 #include <utility>
 
-PictureBox::PictureBox(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container, int number,
-                       Drawing draw)
+PictureBox::PictureBox(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container,
+                       int number, const Drawing& draw)
     : Control(form, name, place, kind, container, number), number_(number), draw_(draw) {}
 
 void PictureBox::Refresh() {

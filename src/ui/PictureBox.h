@@ -21,14 +21,14 @@ public:
 
     /// A picture to look at, in a frame or not.
     template <class F>
-    PictureBox(F* form, const wchar_t* name, Twips place, Draw<F> draw)
+    PictureBox(F* form, const wchar_t* name, const Twips& place, Draw<F> draw)
         : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW}, nullptr, 0, {form, draw}) {}
     template <class F>
-    PictureBox(F* form, Frame& container, const wchar_t* name, Twips place, int number, Draw<F> draw)
+    PictureBox(F* form, Frame& container, const wchar_t* name, const Twips& place, int number, Draw<F> draw)
         : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW}, &container, number, {form, draw}) {}
     /// A picture to press. `keyDown` gets virtual key codes that move between pictures; true when it used one.
     template <class F>
-    PictureBox(F* form, const wchar_t* name, Twips place, int number, Draw<F> draw,
+    PictureBox(F* form, const wchar_t* name, const Twips& place, int number, Draw<F> draw,
                bool (F::*keyDown)(int number, int key))
         : PictureBox(form, name, place, {L"Button", BS_OWNERDRAW | WS_TABSTOP}, nullptr, 0, {form, draw}) {
         number_ = number;
@@ -44,8 +44,8 @@ public:
 private:
     using Drawing = Handler<void, int, HDC, const RECT&, bool>;
 
-    PictureBox(Form* form, const wchar_t* name, Twips place, ControlKind kind, Frame* container, int number,
-               Drawing draw);
+    PictureBox(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container,
+               int number, const Drawing& draw);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
     void OnDraw(const DRAWITEMSTRUCT& draw) override;

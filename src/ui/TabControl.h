@@ -9,7 +9,7 @@ class TabControl : public Control {
 public:
     /// The handler gets the tab that is left.
     template <class F>
-    TabControl(F* form, const wchar_t* name, Twips place, void (F::*click)(int previousTab))
+    TabControl(F* form, const wchar_t* name, const Twips& place, void (F::*click)(int previousTab))
         : TabControl(static_cast<Form*>(form), name, place, {form, click}) {}
 
     void AddTab(const std::wstring& caption);
@@ -19,7 +19,7 @@ public:
     void Tab(int tab);
 
 private:
-    TabControl(Form* form, const wchar_t* name, Twips place, Handler<void, int> click);
+    TabControl(Form* form, const wchar_t* name, const Twips& place, const Handler<void, int>& click);
     LRESULT OnNotify(NMHDR& header) override;
     bool LiesBehind() const override { return true; }
 

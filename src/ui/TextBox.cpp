@@ -13,7 +13,7 @@ DWORD StyleOf(TextBox::Kind kind) {
 
 } // namespace
 
-TextBox::TextBox(Form* form, const wchar_t* name, Twips place, Kind kind, Frame* container)
+TextBox::TextBox(Form* form, const wchar_t* name, const Twips& place, Kind kind, Frame* container)
     : Control(form, name, place, {L"Edit", StyleOf(kind), kind == Kind::Notice ? DWORD{0} : WS_EX_CLIENTEDGE},
               container) {}
 

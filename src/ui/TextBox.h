@@ -7,21 +7,21 @@ class TextBox : public Control {
 public:
     enum class Kind { Plain, Password, Notice };
 
-    TextBox(Form* form, const wchar_t* name, Twips place, Kind kind = Kind::Plain)
+    TextBox(Form* form, const wchar_t* name, const Twips& place, Kind kind = Kind::Plain)
         : TextBox(form, name, place, kind, nullptr) {}
-    TextBox(Form* form, Frame& container, const wchar_t* name, Twips place, Kind kind = Kind::Plain)
+    TextBox(Form* form, Frame& container, const wchar_t* name, const Twips& place, Kind kind = Kind::Plain)
         : TextBox(form, name, place, kind, &container) {}
 
     /// With a handler that runs whenever the text changes.
     template <class F>
-    TextBox(F* form, const wchar_t* name, Twips place, void (F::*change)()) : TextBox(form, name, place) {
+    TextBox(F* form, const wchar_t* name, const Twips& place, void (F::*change)()) : TextBox(form, name, place) {
         change_ = Bind(form, change);
     }
 
     void SelectAll();
 
 private:
-    TextBox(Form* form, const wchar_t* name, Twips place, Kind kind, Frame* container);
+    TextBox(Form* form, const wchar_t* name, const Twips& place, Kind kind, Frame* container);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
 
