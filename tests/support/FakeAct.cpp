@@ -5,6 +5,7 @@
 #include "win32/Owner.h"
 
 #include <array>
+#include <set>
 
 namespace {
 
@@ -46,6 +47,8 @@ public:
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* identifiers) override {
+        // Out of process each question is a trip to ACT!, and the answer holds as long as the object.
+        if (!asked_.insert(names[0]).second) return E_UNEXPECTED;
         for (size_t index = 0; index < kMembers.size(); ++index)
             if (lstrcmpiW(kMembers.at(index), names[0]) == 0) {
                 *identifiers = static_cast<DISPID>(index) + 1;
@@ -65,6 +68,7 @@ private:
     bool Answers(REFIID iid) const override { return iid == IID_IUnknown || iid == IID_IDispatch; }
 
     FakeAct& act_;
+    std::set<std::wstring> asked_;
 };
 
 /// The only connection point of the event object.
