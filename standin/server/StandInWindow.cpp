@@ -13,10 +13,11 @@
 
 namespace {
 
-constexpr UINT kRefresh = WM_APP + 1;
-constexpr UINT kCloseNow = WM_APP + 2;
+constexpr UINT kCloseNow = WM_APP + 1;
 constexpr UINT_PTR kCloseTimer = 1;
-constexpr UINT kClosePoll = 200;
+constexpr UINT kClosePoll = 200; // milliseconds, as the next
+constexpr UINT_PTR kRefreshTimer = 2;
+constexpr UINT kRefreshDelay = 500;
 constexpr int kFactsId = 101;
 constexpr int kCallsId = 102;
 
@@ -170,8 +171,15 @@ void StandInWindow::Arrange() {
 }
 
 void StandInWindow::Refresh() {
-    refreshPending_ = false;
+    KillTimer(window_, kRefreshTimer);
+    SendMessageW(calls_, WM_SETREDRAW, FALSE, 0);
+    for (const Journal::Entry& entry : unseen_) AddCall(entry);
+    unseen_.clear();
+    SendMessageW(calls_, WM_SETREDRAW, TRUE, 0);
+    ListView_EnsureVisible(calls_, ListView_GetItemCount(calls_) - 1, FALSE);
+    SendMessageW(facts_, WM_SETREDRAW, FALSE, 0);
     FillFacts(facts_);
+    SendMessageW(facts_, WM_SETREDRAW, TRUE, 0);
     const std::wstring& database = Session::Current().Database;
     const std::wstring title =
         L"ACT! stand-in - " + (database.empty() ? L"no database" : Text::AfterLast(database, L'\\'));
@@ -190,13 +198,14 @@ void StandInWindow::AddCall(const Journal::Entry& entry) {
     const wchar_t* const texts[] = {time.c_str(),        entry.Object.c_str(),    entry.Member.c_str(),
                                     entry.Flags.c_str(), entry.Arguments.c_str(), result.c_str()};
     SetRow(calls_, row, texts, std::size(texts));
-    ListView_EnsureVisible(calls_, row, FALSE);
-    // Many calls in a row need one look at registry and state file.
-    if (!refreshPending_) refreshPending_ = PostMessageW(window_, kRefresh, 0, 0) != FALSE;
 }
 
 void StandInWindow::Received(const Journal::Entry& entry) {
-    if (shown) shown->AddCall(entry);
+    if (!shown) return;
+    shown->unseen_.push_back(entry);
+    // When no more calls come: reading state and drawing lists takes as long as a call, and the caller would wait for
+    // it.
+    SetTimer(shown->window_, kRefreshTimer, kRefreshDelay, nullptr);
 }
 
 void StandInWindow::RequestClose() {
@@ -236,6 +245,7 @@ LRESULT StandInWindow::HandleCommand(int command) {
     case IDM_EXIT: UserCloses(); break;
     case IDM_REFRESH: Refresh(); break;
     case IDM_CLEAR:
+        unseen_.clear();
         ListView_DeleteAllItems(calls_);
         Refresh();
         break;
@@ -254,8 +264,12 @@ LRESULT StandInWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE: Arrange(); return 0;
     case WM_COMMAND: return HandleCommand(LOWORD(wParam));
     case WM_CLOSE: UserCloses(); return 0;
-    case WM_TIMER: Follow(notice_.Check()); return 0;
-    case kRefresh: Refresh(); return 0;
+    case WM_TIMER:
+        if (wParam == kRefreshTimer)
+            Refresh();
+        else
+            Follow(notice_.Check());
+        return 0;
     case kCloseNow: DestroyWindow(window_); return 0;
     case WM_COPYDATA: OpenHandedOver(*reinterpret_cast<const COPYDATASTRUCT*>(lParam)); return TRUE; // NOLINT
     case WM_ENDSESSION:

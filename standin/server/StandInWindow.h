@@ -6,6 +6,7 @@
 #include "win32/Owner.h"
 
 #include <string>
+#include <vector>
 
 /// The stand-in's window: what ACT! would show, and the calls it received.
 class StandInWindow {
@@ -49,5 +50,5 @@ private:
     FontHandle font_;
     FontHandle boldFont_;
     CloseNotice notice_;
-    bool refreshPending_ = false;
+    std::vector<Journal::Entry> unseen_; ///< received since the lists were last filled
 };
