@@ -4,6 +4,7 @@
 
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
+#include "support/Shell.h"
 #include "support/Text.h"
 
 bool frmMain::Form_KeyDown(const KeyPress& press) {
@@ -72,6 +73,7 @@ void frmMain::CheckFiles() {
     for (int row = 0; row < ListView1.RowCount(); ++row) ListView1.Fade(row, false);
     isMissing_.assign(paths_.size(), 0);
     checkNumber_ = pathCheck_.Start(Handle(), paths_);
+    PrepareShell();
 }
 
 void frmMain::FileIsMissing(int row, long number) {

@@ -14,3 +14,5 @@ void OpenWithShell(const std::wstring& target) {
     execute.nShow = SW_SHOWNORMAL;
     ShellExecuteExW(&execute);
 }
+
+void PrepareShell() { LoadLibraryW(L"shell32.dll"); }
