@@ -7,10 +7,9 @@
 namespace IniText {
 
 /// The value behind the first key of that name in the first section of that name, without the blanks at its ends and
-/// without one pair of quotes around it; nothing when there is no such section or key. Blanks around sections and
-/// keys do not count, nor does letter case; of sections that differ in the case of other letters than A to Z, the
-/// platform may know several: the one that is closest is taken. Lines end at a carriage return or
-/// a line feed.
+/// without one pair of quotes around it; nothing when there is no such section or key. Lines end at a carriage return
+/// or a line feed. Blanks around names do not count, nor does the case of the letters A to Z. A section whose name
+/// differs in the case of other letters is taken when there is none that is closer: the platform may know both.
 std::optional<std::wstring_view> Find(std::wstring_view text, std::wstring_view section, std::wstring_view key);
 
 } // namespace IniText

@@ -74,6 +74,22 @@ TEST_CASE_FIXTURE(Journey, "closed while minimised, the window keeps the size it
     CHECK(User(L"Settings", L"Height") == std::to_wstring(450 * kTwipsPerPixel));
 }
 
+TEST_CASE_FIXTURE(Journey, "a tip comes when the mouse rests on a row, not when the window comes up below it") {
+    StartActWithTwo(*this);
+    HWND window = StartToMainWindow();
+    HWND list = ListOf(window);
+    const RECT cell = ForeignList(list).CellPlace(1, 0);
+    REQUIRE(JourneyWindow::InFront(list));
+    CHECK(JourneyWindow::Find(Program().Id(), TOOLTIPS_CLASSW) == nullptr);
+    const auto isTipShown = [&] {
+        HWND tip = JourneyWindow::Find(Program().Id(), TOOLTIPS_CLASSW);
+        return IsWindowVisible(tip) != FALSE;
+    };
+    for (const LONG step : {2, 4, 6}) JourneyWindow::MoveMouse(list, {cell.left + step, cell.top + step});
+    CHECK(Within(isTipShown));
+    Close();
+}
+
 TEST_CASE_FIXTURE(Journey, "every cell of the open database is red, and no other") {
     StartActWithTwo(*this);
     for (const wchar_t* name : {L"Customers", L"Suppliers"}) {
