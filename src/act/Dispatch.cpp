@@ -64,7 +64,7 @@ Dispatch Dispatch::Create(const wchar_t* progId, Where at) {
 
 DISPID Dispatch::IdentifierOf(const Member& member) const {
     std::wstring name = member.Name;
-    const auto known = std::ranges::find_if(known_, [&](const Known& one) { return !one.Name || name == one.Name; });
+    auto* const known = std::ranges::find_if(known_, [&](const Known& one) { return !one.Name || name == one.Name; });
     if (known != known_.end() && known->Name) return known->Identifier;
     DISPID identifier = DISPID_UNKNOWN;
     wchar_t* names = name.data();

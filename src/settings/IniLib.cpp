@@ -36,21 +36,22 @@ std::string Read(const char* section, const char* key, DWORD size, const std::ws
     return buffer;
 }
 
-/// The text of a settings file. Nothing for one that the platform alone understands: of a bare name, in UTF-16, or with
-/// a mark of its encoding.
-std::optional<std::wstring> PlainText(const std::wstring& path) {
-    const auto bytes = Text::HasFolder(path) ? SafeFile::Read(path) : std::nullopt;
-    if (!bytes || bytes->find('\0') != std::string::npos || bytes->starts_with("\xEF\xBB\xBF")) return std::nullopt;
-    return ToWide(*bytes);
+/// True for a file that the platform alone understands: in UTF-16, or with a mark of its encoding.
+bool IsMarked(const std::string& bytes) {
+    return bytes.find('\0') != std::string::npos || bytes.starts_with("\xEF\xBB\xBF");
 }
 
 /// The whole value. As the platform would return it, but in a part of the time: that takes a whole file apart for each.
 std::wstring ReadValue(const std::wstring& section, const std::wstring& key, const std::wstring& fileName) {
     if (section.empty() || key.empty()) return {};
     const std::wstring path = ToWide(ToAnsi(fileName));
-    const auto text = PlainText(path);
-    if (!text) return ToWide(Read(ToAnsi(section).c_str(), ToAnsi(key).c_str(), kLongestValue, fileName));
-    const std::wstring value(IniText::Find(*text, section, key).value_or(std::wstring_view()));
+    const bool isBare = !Text::HasFolder(path); // the platform knows where such a file lies
+    const auto bytes = isBare ? std::nullopt : SafeFile::Read(path);
+    if (isBare || (bytes && IsMarked(*bytes)))
+        return ToWide(Read(ToAnsi(section).c_str(), ToAnsi(key).c_str(), kLongestValue, fileName));
+    if (!bytes) return {};
+    const std::wstring text = ToWide(*bytes);
+    const std::wstring value(IniText::Find(text, section, key).value_or(std::wstring_view()));
     if (!value.empty()) FileHealth::NoteRead(path);
     return value;
 }
