@@ -51,7 +51,7 @@ std::wstring ReadValue(const std::wstring& section, const std::wstring& key, con
         return ToWide(Read(ToAnsi(section).c_str(), ToAnsi(key).c_str(), kLongestValue, fileName));
     if (!bytes) return {};
     const std::wstring text = ToWide(*bytes);
-    const std::wstring value(IniText::Find(text, section, key).value_or(std::wstring_view()));
+    std::wstring value(IniText::Find(text, section, key).value_or(std::wstring_view()));
     if (!value.empty()) FileHealth::NoteRead(path);
     return value;
 }
