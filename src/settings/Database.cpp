@@ -4,7 +4,6 @@
 #include "settings/NameList.h"
 #include "settings/UserStore.h"
 #include "support/Text.h"
-#include "win32/AnsiText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -40,9 +39,7 @@ std::wstring ReadList(const wchar_t* key) {
     return IniLib::GetWholeValue(kGeneral, key);
 }
 
-NameList::Divided DivideSort(const std::wstring& whole) {
-    return NameList::Divide(ToWide(ToAnsi(whole).substr(0, IniLib::ShownBytes)), whole);
-}
+NameList::Divided DivideSort(const std::wstring& whole) { return NameList::Divide(IniLib::Shown(whole), whole); }
 
 NameList::Divided ReadSortList() { return DivideSort(ReadList(kSort)); }
 

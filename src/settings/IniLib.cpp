@@ -56,15 +56,14 @@ std::wstring ReadValue(const std::wstring& section, const std::wstring& key, con
     return value;
 }
 
-/// As much of a value as is shown.
-std::wstring Shown(const std::wstring& value) {
-    const std::string bytes = ToAnsi(value);
-    return bytes.size() <= IniLib::ShownBytes ? value : ToWide(bytes.substr(0, IniLib::ShownBytes));
-}
-
 } // namespace
 
 namespace IniLib {
+
+std::wstring Shown(const std::wstring& value) {
+    const std::string bytes = ToAnsi(value);
+    return bytes.size() <= ShownBytes ? value : ToWide(bytes.substr(0, ShownBytes));
+}
 
 const std::wstring& SettingsFile() { return CurrentFile(); }
 

@@ -14,8 +14,9 @@
 /// read yields its default, such a write does nothing and fails.
 namespace IniLib {
 
-/// How much of a value is shown.
+/// How much of a value is shown, in bytes of the ANSI code page, and that much of a value.
 inline constexpr size_t ShownBytes = 998;
+std::wstring Shown(const std::wstring& value);
 
 /// Full path of the current settings file; empty until it is set.
 const std::wstring& SettingsFile();
