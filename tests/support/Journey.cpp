@@ -213,7 +213,9 @@ HWND Journey::Window(const Process& program, const wchar_t* className) {
         return window && IsWindowVisible(window);
     });
     const auto box = isShown ? std::nullopt : JourneyWindow::MessageBoxOf(program.Id());
+    CAPTURE(std::wstring(className));
     CAPTURE(box ? box->Text : L"no message box");
+    CAPTURE(program.Running());
     REQUIRE(isShown);
     return window;
 }

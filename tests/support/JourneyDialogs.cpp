@@ -37,8 +37,8 @@ void Check(HWND form, const wchar_t* box, bool checked) {
     REQUIRE(Within([&] { return JourneyWindow::Checked(control) == checked; }));
 }
 
-void ShowTab(HWND properties, int tab) {
-    HWND control = JourneyWindow::Control(properties, L"mstOptions");
+void ShowTab(HWND dialog, int tab, const wchar_t* tabs) {
+    HWND control = JourneyWindow::Control(dialog, tabs);
     // As a click does, this tells the dialog of the change.
     PostMessageW(control, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
     REQUIRE(Within([&] { return SendMessageW(control, TCM_GETCURSEL, 0, 0) == tab; }));

@@ -22,7 +22,7 @@ HWND OpenByButton(const Journey& journey, HWND form, const wchar_t* button, cons
 void Type(HWND form, const Texts& texts);
 /// Clicks a check box until it is checked, or is not.
 void Check(HWND form, const wchar_t* box, bool checked);
-void ShowTab(HWND properties, int tab);
+void ShowTab(HWND dialog, int tab, const wchar_t* tabs = L"mstOptions");
 /// Clicks a button and waits until the dialog is gone. The window below it may still have work to do.
 void Leave(HWND dialog, const wchar_t* button);
 

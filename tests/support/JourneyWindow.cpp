@@ -5,6 +5,7 @@
 
 #include <array>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -41,6 +42,21 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<LRESULT>(answer);
 }
 
+/// What a question gives once the answer has not changed for a while.
+template <typename Question>
+auto Unchanged(const Question& question) {
+    constexpr DWORD kMilliseconds = 300;
+    DWORD since = GetTickCount();
+    auto last = question();
+    Within([&] {
+        auto now = question();
+        if (now != last) since = GetTickCount();
+        last = std::move(now);
+        return GetTickCount() - since >= kMilliseconds;
+    });
+    return last;
+}
+
 /// A part of the screen as it looks at this moment.
 class Picture {
 public:
@@ -72,11 +88,14 @@ private:
     HGDIOBJ old_ = nullptr;
 };
 
-void MouseInput(DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
+/// Where the mouse was moved last. A button goes down and up there, whatever the display reports late about the way.
+POINT mousePlace{};
+
+/// A coordinate in the parts of the screen that SendInput takes: 65,536 of them, whatever its pixels.
+LONG PartOf(LONG pixel, int metric) {
+    constexpr LONG kParts = 65'536;
+    const LONG pixels = GetSystemMetrics(metric);
+    return (pixel * kParts + pixels - 1) / pixels;
 }
 
 } // namespace
@@ -132,24 +151,34 @@ bool InFront(HWND control) {
 }
 
 void Settle(HWND window) {
-    constexpr DWORD kSettledMilliseconds = 300;
-    POINT last{-1, -1};
-    DWORD since = 0;
-    Within([&] {
-        POINT now{};
-        ClientToScreen(window, &now);
-        if (now.x != last.x || now.y != last.y) since = GetTickCount();
-        last = now;
-        return GetTickCount() - since >= kSettledMilliseconds;
+    Unchanged([window] {
+        POINT corner{};
+        ClientToScreen(window, &corner);
+        return std::pair(corner.x, corner.y);
     });
 }
 
 void MoveMouse(HWND window, POINT place) {
     ClientToScreen(window, &place);
+    mousePlace = place;
     SetCursorPos(place.x, place.y);
+    Unchanged([] {
+        POINT cursor{};
+        GetCursorPos(&cursor);
+        return cursor.x == mousePlace.x && cursor.y == mousePlace.y;
+    });
 }
 
-void LeftButton(bool isDown) { MouseInput(isDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP); }
+void LeftButton(bool isDown) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = PartOf(mousePlace.x, SM_CXSCREEN);
+    input.mi.dy = PartOf(mousePlace.y, SM_CYSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | (isDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
+    SendInput(1, &input, sizeof input);
+}
+
+bool LeftButtonIsDown() { return GetAsyncKeyState(VK_LBUTTON) < 0; }
 
 void Drag(HWND window, POINT place, SIZE distance) {
     ClientToScreen(window, &place);
@@ -201,6 +230,10 @@ std::vector<COLORREF> Pixels(HWND window) {
     for (int y = 0; y < client.bottom; ++y)
         for (int x = 0; x < client.right; ++x) pixels.push_back(picture.At(x, y));
     return pixels;
+}
+
+std::vector<COLORREF> StillPixels(HWND window) {
+    return Unchanged([window] { return Pixels(window); });
 }
 
 int RedPixels(HWND window, const RECT& part) {

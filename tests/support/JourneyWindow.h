@@ -40,10 +40,14 @@ void LeftButton(bool isDown);
 /// Drags a window by a place in its client area, so many pixels to the right and down. The display's own mouse does it:
 /// a window manager that moves windows does not see the input that Windows programs send.
 void Drag(HWND window, POINT place, SIZE distance);
+/// Whether the left button is held, by that mouse or by LeftButton.
+bool LeftButtonIsDown();
 /// The middle of a window in its own client coordinates.
 POINT Middle(HWND window);
 /// What the screen shows of a window's client area, row by row.
 std::vector<COLORREF> Pixels(HWND window);
+/// The same when it has stayed so for a while: a busy display draws late.
+std::vector<COLORREF> StillPixels(HWND window);
 
 /// Presses and releases a key, as a user's keyboard does: it goes to the window in the foreground.
 void Press(WORD key);
