@@ -32,6 +32,7 @@ void Control::SetFocus() { ::SetFocus(window_); }
 
 void Control::Move(const Twips& place) {
     if (place == place_) return;
+    OnMove();
     place_ = place;
     PlaceWindow();
 }

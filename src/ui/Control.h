@@ -81,6 +81,8 @@ private:
     virtual HBRUSH OnColor(HDC) { return nullptr; }
     /// True when the control has set a pointer of its own.
     virtual bool OnSetCursor() { return false; }
+    /// The control is about to get another place or size.
+    virtual void OnMove() {}
     virtual void OnFontChanged(const LOGFONTW&) {}
     /// The form has come to another resolution; `dpi` is the one before.
     virtual void OnDpiChanged(int /*dpi*/) {}

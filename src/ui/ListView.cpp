@@ -13,8 +13,7 @@ ListView::ListView(Form* form, const wchar_t* name, const Twips& place)
           {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
 
 void ListView::OnCreated() {
-    constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
-    SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
+    SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
 }
 
 void ListView::AddColumn(const std::wstring& title, int width) {
@@ -250,12 +249,22 @@ LRESULT ListView::OnNotify(NMHDR& header) {
     }
 }
 
+void ListView::OnMove() {
+    if (IsWindowVisible(Handle())) DrawSmoothly();
+}
+
+void ListView::DrawSmoothly() {
+    if (std::exchange(isSmooth_, true)) return;
+    SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_DOUBLEBUFFER, LVS_EX_DOUBLEBUFFER);
+}
+
 bool ListView::OnSetCursor() {
-    if (!tip_) return false;
     const DWORD before = std::exchange(pointer_, GetMessagePos());
+    const bool isMoving = before != 0 && before != pointer_;
+    if (isMoving) DrawSmoothly();
+    if (!tip_) return false;
     // Not before the pointer moves here: the tip listens to every message of the list, and filling it takes hundreds.
-    if (before != 0 && before != pointer_ && !std::exchange(hasTip_, true))
-        toolTip_.SetAsked(Owner().Handle(), Handle());
+    if (isMoving && !std::exchange(hasTip_, true)) toolTip_.SetAsked(Owner().Handle(), Handle());
     // A tip belongs to one row: on another one it begins anew.
     const POINT position{GET_X_LPARAM(pointer_), GET_Y_LPARAM(pointer_)};
     if (std::exchange(hotRow_, RowAt(position)) != hotRow_) toolTip_.Pop();

@@ -84,6 +84,10 @@ private:
     LRESULT OnNotify(NMHDR& header) override;
     void OnContextMenu(POINT position) override;
     bool OnSetCursor() override;
+    void OnMove() override;
+    /// Draws from now on into a bitmap of the list's size first, as what is sized, filtered or dragged would flicker.
+    /// Held only once it is needed.
+    void DrawSmoothly();
     void OnDpiChanged(int dpi) override;
     void OnTip(NMTTDISPINFOW& tip);
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
@@ -118,6 +122,7 @@ private:
     Handler<std::wstring, int> tip_;
     ToolTip toolTip_;
     bool hasTip_ = false;
+    bool isSmooth_ = false;
     DWORD pointer_ = 0; ///< where it was last, as a message tells it
     std::wstring shownTip_;
     int hotRow_ = -1;
