@@ -7,10 +7,21 @@
 
 #include <algorithm>
 
+namespace {
+
+bool HoldsBitmap(const frmMain& window) {
+    const LRESULT styles = SendMessageW(window.ListView1.Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
+    return (styles & LVS_EX_DOUBLEBUFFER) != 0;
+}
+
+} // namespace
+
 TEST_CASE("Growing the window grows the list and keeps the distances to the right and lower edge") {
     ActDesk desk;
     frmMain window;
     window.Load();
+    window.Show();
+    CHECK_FALSE(HoldsBitmap(window)); // a start needs none
     const RECT list = PlaceOf(window.ListView1.Handle());
     const RECT open = PlaceOf(window.cmdOpen.Handle());
     const RECT more = PlaceOf(window.lblMore.Handle());
@@ -18,6 +29,7 @@ TEST_CASE("Growing the window grows the list and keeps the distances to the righ
     window.OuterSize(8475 + 1500, 5190 + 3000); // 100 and 200 pixels at 96 DPI
     const int right = ToPixels(1500, window.Dpi());
     const int down = ToPixels(3000, window.Dpi());
+    CHECK(HoldsBitmap(window)); // or it would flicker
     CHECK(PlaceOf(window.ListView1.Handle()).right == list.right + right);
     CHECK(PlaceOf(window.ListView1.Handle()).bottom == list.bottom + down);
     CHECK(PlaceOf(window.cmdOpen.Handle()).left == open.left + right);
