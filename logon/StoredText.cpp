@@ -1,6 +1,6 @@
 #include "StoredText.h"
 
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/Application.h"
 #include "win32/Owner.h"
 

@@ -1,7 +1,7 @@
 // The log-on helper: fills in ACT!'s log-on dialog with the values that the launcher has put ready, and ends.
 
 #include "LogonDialog.h"
-#include "settings/Cipher.h"
+#include "stores/Cipher.h"
 #include "support/Application.h"
 #include "win32/Owner.h"
 

@@ -2,9 +2,9 @@
 
 #include "act/ActEvent.h"
 #include "app/SingleInstance.h"
+#include "databases/Database.h"
 #include "integration/clsToolbarIcon.h"
 #include "program/MainWindow.h"
-#include "settings/Database.h"
 #include "support/PathCheck.h"
 #include "ui/Button.h"
 #include "ui/ControlArray.h"

@@ -10,11 +10,11 @@
 #include "i18n/modLangues.h"
 #include "integration/frmIntegrateNew.h"
 #include "program/Program.h"
-#include "settings/modFolderFileExists.h"
 #include "support/Application.h"
 #include "support/MsgBox.h"
 #include "support/Shell.h"
 #include "support/Vendor.h"
+#include "support/modFolderFileExists.h"
 
 #include <array>
 

@@ -5,7 +5,7 @@
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/Text.h"
 
 namespace {

@@ -2,10 +2,10 @@
 
 #include "app/frmMain.h"
 
+#include "databases/ActSettings.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
-#include "settings/ActSettings.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"

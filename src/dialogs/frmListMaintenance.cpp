@@ -1,10 +1,10 @@
 #include "dialogs/frmListMaintenance.h"
 
+#include "databases/Database.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
-#include "settings/Database.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "databases/RemovedDatabase.h"
 #include "program/MainWindow.h"
-#include "settings/IniLib.h"
-#include "settings/RemovedDatabase.h"
+#include "stores/IniLib.h"
 #include "ui/Button.h"
 #include "ui/Form.h"
 #include "ui/Label.h"

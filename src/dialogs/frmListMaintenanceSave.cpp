@@ -1,7 +1,7 @@
 // frmListMaintenance's saving: the lines become the stored list, with what others have changed in it meanwhile.
 
+#include "databases/Database.h"
 #include "dialogs/frmListMaintenance.h"
-#include "settings/Database.h"
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
 #include "dialogs/frmLocations.h"
 
 #include "i18n/modLangues.h"
-#include "settings/IniLib.h"
-#include "settings/UserStore.h"
-#include "settings/modFolderFileExists.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
+#include "support/modFolderFileExists.h"
 #include "ui/CommonDialogs.h"
 
 frmLocations::frmLocations() : Form({L"frmLocations", 5940, 1875}) {}

@@ -1,8 +1,8 @@
 #include "dialogs/frmPrefLocations.h"
 
+#include "databases/Database.h"
 #include "i18n/modLangues.h"
-#include "settings/Database.h"
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "ui/CommonDialogs.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "program/MainWindow.h"
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"
 #include "ui/ControlArray.h"

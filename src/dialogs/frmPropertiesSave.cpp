@@ -3,9 +3,9 @@
 #include "dialogs/frmProperties.h"
 
 #include "program/Program.h"
-#include "settings/IniLib.h"
-#include "settings/UserStore.h"
-#include "settings/modEnCrypt.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
+#include "stores/modEnCrypt.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"

@@ -1,7 +1,7 @@
 #include "i18n/frmLanguage.h"
 
 #include "i18n/modLangues.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "act/ActApplication.h"
-#include "settings/Database.h"
+#include "databases/Database.h"
 
 #include <string>
 #include <vector>

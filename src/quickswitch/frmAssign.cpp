@@ -1,8 +1,8 @@
 #include "quickswitch/frmAssign.h"
 
+#include "databases/Database.h"
 #include "i18n/modLangues.h"
-#include "settings/Database.h"
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 

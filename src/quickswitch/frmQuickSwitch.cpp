@@ -3,8 +3,8 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/frmAssign.h"
-#include "settings/IniLib.h"
-#include "settings/UserStore.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 

@@ -2,7 +2,7 @@
 // call and a fault; with KELMORRA_SOAK_FAULTS=1 in the environment it is every pair.
 
 #include "i18n/modLangues.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Setting.h"

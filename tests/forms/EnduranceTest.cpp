@@ -11,7 +11,7 @@
 #include "program/Program.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Resources.h"

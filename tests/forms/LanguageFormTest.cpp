@@ -1,6 +1,6 @@
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/DialogScript.h"
 #include "support/ScratchRegistry.h"
 #include "support/Wide.h"

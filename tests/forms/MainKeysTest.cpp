@@ -1,7 +1,7 @@
 // The main window's keys, its find box, and what it tells of the files behind its rows.
 
 #include "i18n/modLangues.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"

@@ -1,7 +1,7 @@
 // The main window's list of databases.
 
 #include "program/Program.h"
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"

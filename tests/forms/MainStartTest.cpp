@@ -1,9 +1,9 @@
 // Start-up and shut-down of the main window.
 
 #include "i18n/modLangues.h"
-#include "settings/Backup.h"
-#include "settings/IniLib.h"
-#include "settings/UserStore.h"
+#include "stores/Backup.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"

@@ -1,7 +1,7 @@
 // The cipher: deciphering gives back every text of codes, in its length, for every key, and reads nothing beside them.
 
 #include "Input.h"
-#include "settings/CipherCore.h"
+#include "stores/CipherCore.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 // Stored lists of names: removing, renaming and writing back a list that was read cut never change another name.
 
 #include "Input.h"
-#include "settings/NameList.h"
+#include "databases/NameList.h"
 #include "support/Text.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // ini_writer FILE SECTION COUNT [plain]: writes that many keys into a section, or the same few for ever when COUNT is
 // 0. "plain" uses the platform's call alone. The exit code is the number of writes that were refused again and again.
 
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 #include "win32/AnsiText.h"
 #include "win32/Windows.h"
 

@@ -2,8 +2,8 @@
 
 #include "i18n/modLangues.h"
 #include "program/Program.h"
-#include "settings/IniLib.h"
-#include "settings/UserStore.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
 #include "support/MsgBox.h"
 #include "support/Wide.h"
 

@@ -1,7 +1,7 @@
-#include "settings/Database.h"
+#include "databases/Database.h"
 
-#include "settings/UserStore.h"
-#include "settings/modUpgrade32.h"
+#include "databases/modUpgrade32.h"
+#include "stores/UserStore.h"
 #include "support/MsgBox.h"
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"

@@ -1,4 +1,4 @@
-#include "settings/modEnCrypt.h"
+#include "stores/modEnCrypt.h"
 
 #include "support/Wide.h"
 #include "win32/AnsiCodes.h"

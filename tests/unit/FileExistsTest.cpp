@@ -1,4 +1,4 @@
-#include "settings/modFolderFileExists.h"
+#include "support/modFolderFileExists.h"
 
 #include "support/TempFile.h"
 #include "support/Wide.h"

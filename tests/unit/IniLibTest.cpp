@@ -1,4 +1,4 @@
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"

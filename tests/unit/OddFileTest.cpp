@@ -1,11 +1,11 @@
 // Settings files and names as no careful program writes them: what is read stays readable, and nothing is lost by a
 // write.
 
-#include "settings/Backup.h"
-#include "settings/Database.h"
-#include "settings/FileHealth.h"
-#include "settings/SafeFile.h"
-#include "settings/UserStore.h"
+#include "databases/Database.h"
+#include "stores/Backup.h"
+#include "stores/FileHealth.h"
+#include "stores/SafeFile.h"
+#include "stores/UserStore.h"
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"
 #include "support/Wide.h"

@@ -1,4 +1,4 @@
-#include "settings/RegistrySubs.h"
+#include "stores/RegistrySubs.h"
 
 #include "support/ScratchRegistry.h"
 #include "support/Wide.h"

@@ -1,9 +1,9 @@
 // Writing the settings file as one step, on files that are shared, protected, held open or damaged.
 
-#include "settings/SafeFile.h"
-#include "settings/Backup.h"
-#include "settings/Database.h"
-#include "settings/FileHealth.h"
+#include "stores/SafeFile.h"
+#include "databases/Database.h"
+#include "stores/Backup.h"
+#include "stores/FileHealth.h"
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"
 #include "support/Wide.h"

@@ -1,6 +1,6 @@
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 
-#include "settings/modEnCrypt.h"
+#include "stores/modEnCrypt.h"
 #include "support/ScratchRegistry.h"
 #include "support/Wide.h"
 #include "win32/AnsiCodes.h"

@@ -1,4 +1,4 @@
-#include "settings/IniText.h"
+#include "stores/IniText.h"
 
 #include "support/Text.h"
 

@@ -1,4 +1,4 @@
-#include "settings/NameList.h"
+#include "databases/NameList.h"
 
 #include "support/Text.h"
 

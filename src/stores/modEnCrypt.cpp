@@ -1,6 +1,6 @@
-#include "settings/modEnCrypt.h"
+#include "stores/modEnCrypt.h"
 
-#include "settings/Cipher.h"
+#include "stores/Cipher.h"
 #include "support/ErrorReport.h"
 
 namespace modEnCrypt {

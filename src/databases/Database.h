@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 
 #include <array>
 #include <string>

@@ -1,8 +1,8 @@
-#include "settings/ActSettings.h"
+#include "databases/ActSettings.h"
 
-#include "settings/Database.h"
-#include "settings/IniLib.h"
-#include "settings/RegistrySubs.h"
+#include "databases/Database.h"
+#include "stores/IniLib.h"
+#include "stores/RegistrySubs.h"
 
 namespace ActSettings {
 

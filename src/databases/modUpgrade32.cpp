@@ -1,7 +1,7 @@
-#include "settings/modUpgrade32.h"
+#include "databases/modUpgrade32.h"
 
-#include "settings/IniLib.h"
-#include "settings/UserStore.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 

@@ -1,8 +1,8 @@
-#include "settings/Database.h"
+#include "databases/Database.h"
 
-#include "settings/FileHealth.h"
-#include "settings/NameList.h"
-#include "settings/UserStore.h"
+#include "databases/NameList.h"
+#include "stores/FileHealth.h"
+#include "stores/UserStore.h"
 #include "support/Text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "settings/RegistrySubs.h"
+#include "stores/RegistrySubs.h"
 
 #include "win32/AnsiText.h"
 #include "win32/Owner.h"

@@ -1,4 +1,4 @@
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 
 #include "support/Application.h"
 #include "win32/Owner.h"

@@ -1,8 +1,8 @@
-#include "settings/IniLib.h"
+#include "stores/IniLib.h"
 
-#include "settings/FileHealth.h"
-#include "settings/IniText.h"
-#include "settings/SafeFile.h"
+#include "stores/FileHealth.h"
+#include "stores/IniText.h"
+#include "stores/SafeFile.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 #include "win32/AnsiText.h"

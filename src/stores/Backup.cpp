@@ -1,7 +1,7 @@
-#include "settings/Backup.h"
+#include "stores/Backup.h"
 
-#include "settings/FileHealth.h"
-#include "settings/SafeFile.h"
+#include "stores/FileHealth.h"
+#include "stores/SafeFile.h"
 #include "win32/Owner.h"
 
 #include <shlobj.h>

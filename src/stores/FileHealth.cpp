@@ -1,6 +1,6 @@
-#include "settings/FileHealth.h"
+#include "stores/FileHealth.h"
 
-#include "settings/SafeFile.h"
+#include "stores/SafeFile.h"
 #include "win32/Windows.h"
 
 namespace {

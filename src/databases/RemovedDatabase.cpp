@@ -1,6 +1,6 @@
-#include "settings/RemovedDatabase.h"
+#include "databases/RemovedDatabase.h"
 
-#include "settings/UserStore.h"
+#include "stores/UserStore.h"
 #include "support/Text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "settings/modFolderFileExists.h"
+#include "support/modFolderFileExists.h"
 
 #include "support/ErrorReport.h"
 #include "win32/AnsiText.h"

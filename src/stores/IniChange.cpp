@@ -1,9 +1,9 @@
 // What IniLib writes: collected first, then made in one step.
 
-#include "settings/Backup.h"
-#include "settings/FileHealth.h"
-#include "settings/IniLib.h"
-#include "settings/SafeFile.h"
+#include "stores/Backup.h"
+#include "stores/FileHealth.h"
+#include "stores/IniLib.h"
+#include "stores/SafeFile.h"
 #include "support/Text.h"
 #include "win32/AnsiText.h"
 #include "win32/Windows.h"

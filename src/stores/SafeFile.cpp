@@ -1,4 +1,4 @@
-#include "settings/SafeFile.h"
+#include "stores/SafeFile.h"
 
 #include "win32/Owner.h"
 

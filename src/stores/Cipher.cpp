@@ -1,6 +1,6 @@
-#include "settings/Cipher.h"
+#include "stores/Cipher.h"
 
-#include "settings/CipherCore.h"
+#include "stores/CipherCore.h"
 #include "win32/AnsiCodes.h"
 #include "win32/Windows.h"
 
