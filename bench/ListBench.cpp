@@ -2,7 +2,6 @@
 
 #include "Table.h"
 #include "Workplace.h"
-#include "support/CallCounts.h"
 
 #include <array>
 
@@ -13,7 +12,6 @@ constexpr std::array kSizes{10, 100, 300};
 struct Action {
     const char* name;
     std::array<Samples, kSizes.size()> times{};
-    std::array<unsigned, kSizes.size()> readings{};
 };
 
 /// Waits until the main window takes commands again. A program that waits for ACT! answers messages, but ignores
@@ -69,29 +67,11 @@ void MeasureTimes(const Workplace& workplace, std::array<Action, 4>& actions, si
               [&](size_t action, double time) { actions.at(action).times.at(size).push_back(time); });
 }
 
-void CountReadings(const Workplace& workplace, std::array<Action, 4>& actions, size_t size) {
-    workplace.WriteList(kSizes.at(size));
-    const ProcessGroup group;
-    const CountedProgram program(group, workplace.ProgramFile(L"Kelmorra.exe"));
-    unsigned before = 0;
-    const auto note = [&](size_t action, double) {
-        const unsigned now = program.Count({"CreateFileW"});
-        actions.at(action).readings.at(size) = now - before;
-        before = now;
-    };
-    HWND main = WaitUntilReady(program.Get(), Workplace::MainClass);
-    note(0, 0);
-    GoThrough(workplace, program.Get(), main, note);
-}
-
 void TellGrowth(const Action& action) {
     const auto& [few, some, many] = action.times;
-    const auto& counts = action.readings;
     const double each = (Median(many) - Median(few)) / (kSizes.back() - kSizes.front());
-    const double readings = static_cast<double>(counts.back() - counts.front()) / (kSizes.back() - kSizes.front());
     Tell({action.name, Spread(few, 1) + ", " + Spread(some, 1) + ", " + Spread(many, 1) + " ms",
-          "itself: " + Fixed(each, 2) + " ms and " + Fixed(readings, 1) + " openings of files for each more (" +
-              std::to_string(counts[0]) + ", " + std::to_string(counts[1]) + ", " + std::to_string(counts[2]) + ")",
+          "itself: " + Fixed(each, 2) + " ms for each more",
           "x " + Spread(Ratios(some, few), 2) + ", x " + Spread(Ratios(many, few), 2), "<= x 10, x 30",
           std::to_string(Runs())});
 }
@@ -104,7 +84,5 @@ TEST_CASE_FIXTURE(Workplace, "lists of 10, 100 and 300 databases") {
     JourneyDialogs::StartActElsewhere(*this);
     for (int run = 0; run < Runs(); ++run)
         for (size_t size = 0; size < kSizes.size(); ++size) MeasureTimes(*this, actions, size);
-    // Last: a start is an everyday one when another was before it.
-    for (size_t size = 0; size < kSizes.size(); ++size) CountReadings(*this, actions, size);
     for (const Action& action : actions) TellGrowth(action);
 }

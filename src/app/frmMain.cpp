@@ -5,8 +5,6 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/Backup.h"
-#include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/Busy.h"
@@ -181,23 +179,20 @@ void frmMain::SetMenuCaptions() {
 }
 
 void frmMain::SaveLayout() {
-    if (listLoaded_) UserStore::Set(L"Display", L"Selected", Text::FromNumber(ListView1.Selected()));
+    if (listLoaded_) UserStore::Set(Keys::Display, Keys::Selected, Text::FromNumber(ListView1.Selected()));
     for (int column = 0; columnsLoaded_ && column < ListView1.ColumnCount(); ++column)
-        UserStore::Set(L"Settings", L"Column" + Text::FromNumber(column),
+        UserStore::Set(Keys::Settings, Keys::Column + Text::FromNumber(column),
                        Text::FromNumber(ListView1.ColumnWidth(column)));
     if (!sizeLoaded_) return;
     const Twips size = OuterSize();
-    UserStore::Set(L"Settings", L"Height", Text::FromNumber(size.Height));
-    UserStore::Set(L"Settings", L"Width", Text::FromNumber(size.Width));
+    UserStore::Set(Keys::Settings, Keys::Height, Text::FromNumber(size.Height));
+    UserStore::Set(Keys::Settings, Keys::Width, Text::FromNumber(size.Width));
 }
 
 void frmMain::Form_Unload() {
     std::wstring database;
     try {
         SaveLayout();
-        Hide(); // a share may take its time to answer
-        // Not only before a change: the last change of all is in no copy otherwise.
-        Backup::KeepOnce(IniLib::SettingsFile());
         if (Program().RestartAct) database = CloseActForRestart();
     } catch (...) {
         Program().RestartAct = false;

@@ -2,7 +2,7 @@
 
 #include "act/ActEvent.h"
 #include "app/SingleInstance.h"
-#include "databases/Database.h"
+#include "databases/Record.h"
 #include "integration/clsToolbarIcon.h"
 #include "program/MainWindow.h"
 #include "support/PathCheck.h"
@@ -31,7 +31,7 @@ public:
 
     int SelectedIndex() const override { return ListView1.Selected(); }
     void SelectedIndex(int index) override;
-    void ReplaceRow(const std::wstring& name) override;
+    void ReplaceRow(const std::wstring& name, const DatabaseRecord& record) override;
 
     static constexpr std::size_t ViewCount = 7;
     static constexpr std::array<Twips, ViewCount> OptionPlaces{{{180, 255, 210, 210},
@@ -140,8 +140,8 @@ private:
 
     // The list (frmMainList.cpp)
     ActPlaces AskPlaces() const;
-    void FillList();
-    void ReloadList();
+    bool FillList();
+    bool ReloadList();
     void CollectOpenNames() const;
     static std::vector<std::wstring> CellsOf(const std::wstring& name, const DatabaseRecord& record,
                                              const ActPlaces& places);

@@ -4,6 +4,7 @@
 
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
+#include "stores/IniLib.h"
 #include "support/Shell.h"
 #include "support/Text.h"
 
@@ -84,7 +85,8 @@ void frmMain::FileIsMissing(int row, long number) {
 
 std::wstring frmMain::ListView1_Tip(int row) {
     constexpr int kPathColumn = 4;
-    const DatabaseRecord record = ExtractInfo(ListView1.Cell(row, 0));
+    const auto stored = IniLib::ReadFile(IniLib::SettingsFile(), 0); // nobody waits for a tip
+    const DatabaseRecord record = stored ? ExtractInfo(*stored, ListView1.Cell(row, 0)) : DatabaseRecord();
     const bool isMissing = static_cast<size_t>(row) < isMissing_.size() && isMissing_[static_cast<size_t>(row)] != 0;
     std::wstring tip = isMissing ? Translated(MoreText::FileMissing) + L"\r\n" + record.Path : std::wstring();
     const auto add = [&](int column, const std::wstring& whole) {

@@ -2,9 +2,11 @@
 
 #include "app/frmMain.h"
 
+#include "databases/DatabaseList.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/Text.h"
 
@@ -26,13 +28,15 @@ frmMain::ActPlaces frmMain::AskPlaces() const {
             program.Preferences.GetDefaultLocation(DefaultLocation::Macros), program.Application.GetOpenDBName()};
 }
 
-void frmMain::FillList() {
-    ProgramState& program = Program();
+/// False, with the rows as they were, when the list cannot be read.
+bool frmMain::FillList() {
+    const auto stored = IniLib::ReadFile();
+    if (!stored) return false;
     const ActPlaces places = AskPlaces();
-    program.DatabaseNames = DatabaseList::ReadSort();
+    Program().DatabaseNames = DatabaseList::Read(*stored).shown;
     ListView1.Clear();
-    for (const std::wstring& name : program.DatabaseNames) {
-        const DatabaseRecord record = ExtractInfo(name);
+    for (const std::wstring& name : Program().DatabaseNames) {
+        const DatabaseRecord record = ExtractInfo(*stored, name);
         MarkRow(ListView1.Add(CellsOf(name, record, places)), record.Path, places);
     }
     CollectOpenNames();
@@ -40,6 +44,7 @@ void frmMain::FillList() {
     ListView1.Filled();
     if (isFinding_) txtFind_Change();
     CheckFilesLater();
+    return true;
 }
 
 std::vector<std::wstring> frmMain::CellsOf(const std::wstring& name, const DatabaseRecord& record,
@@ -63,25 +68,27 @@ void frmMain::CollectOpenNames() const {
         if (ListView1.RowColor(row) == kOpenInAct) names += L"|" + ListView1.Cell(row, 0) + L"|";
 }
 
-void frmMain::ReloadList() {
-    FillList();
-    ListView1.Select(static_cast<int>(Text::WholeNumber(UserStore::Get(L"Display", L"Selected")).value_or(-1)));
+bool frmMain::ReloadList() {
+    if (!FillList()) return false;
+    listLoaded_ = true;
+    const auto selected = Text::WholeNumber(UserStore::Get(Keys::Display, Keys::Selected));
+    ListView1.Select(static_cast<int>(selected.value_or(-1)));
+    return true;
 }
 
-void frmMain::SelectedIndex(int index) { UserStore::Set(L"Display", L"Selected", Text::FromNumber(index)); }
+void frmMain::SelectedIndex(int index) { UserStore::Set(Keys::Display, Keys::Selected, Text::FromNumber(index)); }
 
-void frmMain::ReplaceRow(const std::wstring& name) {
+void frmMain::ReplaceRow(const std::wstring& name, const DatabaseRecord& record) {
     const int row = ListView1.Selected();
     if (row < 0) return;
     const ActPlaces places = AskPlaces();
-    const DatabaseRecord record = ExtractInfo(name);
     std::vector<std::wstring> cells = CellsOf(name, record, places);
     cells.back() = name;
     for (size_t column = 0; column < cells.size(); ++column)
         ListView1.Cell(row, static_cast<int>(column), cells[column]);
     MarkRow(row, record.Path, places);
     CollectOpenNames();
-    Program().DatabaseNames = DatabaseList::ReadSort();
+    if (const auto stored = IniLib::ReadFile()) Program().DatabaseNames = DatabaseList::Read(*stored).shown;
     ListView1.Select(row);
     CheckFilesLater();
 }

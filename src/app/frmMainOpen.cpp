@@ -3,8 +3,11 @@
 #include "app/frmMain.h"
 
 #include "databases/ActSettings.h"
+#include "databases/Logon.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "program/SettingsNotice.h"
+#include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
@@ -14,7 +17,7 @@
 namespace {
 
 std::wstring OrRecorded(const std::wstring& layout, const wchar_t* recordedKey) {
-    return layout.empty() ? UserStore::Get(L"Settings", recordedKey) : layout;
+    return layout.empty() ? UserStore::Get(Keys::Settings, recordedKey) : layout;
 }
 
 } // namespace
@@ -41,13 +44,20 @@ void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden)
 
 bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidden) {
     const ActPreferences& preferences = Program().Preferences;
-    const DatabaseRecord record = ExtractInfo(name);
+    const auto stored = IniLib::ReadFile();
+    if (!stored) {
+        if (mainHidden) Show();
+        SettingsNotice::CannotRead();
+        ListView1.SetFocus();
+        return false;
+    }
+    const DatabaseRecord record = ExtractInfo(*stored, name);
     if (!mainHidden) Hide();
     // Empty means "keep ACT!'s own": the last database's layout must not stay in force.
-    preferences.DefaultContactLayout(OrRecorded(record.ContactLayout, L"OriginalCL"));
-    preferences.DefaultGroupLayout(OrRecorded(record.GroupLayout, L"OriginalGL"));
-    ActSettings::WriteLocations(name);
-    LogonValues::CopyToLogon(name);
+    preferences.DefaultContactLayout(OrRecorded(record.ContactLayout, Keys::OriginalCL));
+    preferences.DefaultGroupLayout(OrRecorded(record.GroupLayout, Keys::OriginalGL));
+    ActSettings::WriteLocations(UsedFolders(*stored, name));
+    LogonHandOver::CopyToLogon(name);
     OpenWithShell(Application::FileInFolder(L"logon.exe"));
     if (!OpenDatabase(record.Path)) return false;
     ShowView(viewCode);
@@ -100,9 +110,9 @@ void frmMain::RunOpeningMacro(const std::wstring& macro) {
 
 void frmMain::PutDefaultsBack() {
     const ActPreferences& preferences = Program().Preferences;
-    preferences.DefaultContactLayout(UserStore::Get(L"Settings", L"OriginalCL"));
-    preferences.DefaultGroupLayout(UserStore::Get(L"Settings", L"OriginalGL"));
-    preferences.StartupMacro(UserStore::Get(L"Settings", L"OriginalMacro"));
+    preferences.DefaultContactLayout(UserStore::Get(Keys::Settings, Keys::OriginalCL));
+    preferences.DefaultGroupLayout(UserStore::Get(Keys::Settings, Keys::OriginalGL));
+    preferences.StartupMacro(UserStore::Get(Keys::Settings, Keys::OriginalMacro));
 }
 
 short frmMain::CheckedView() const {

@@ -5,14 +5,18 @@
 #include "app/LinkMenuItem.h"
 #include "app/Module1.h"
 #include "app/modStartACT.h"
+#include "databases/DatabaseList.h"
+#include "databases/Palette.h"
 #include "databases/modUpgrade32.h"
 #include "i18n/MoreText.h"
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "program/SettingsNotice.h"
 #include "stores/Backup.h"
 #include "stores/FileHealth.h"
 #include "stores/IniLib.h"
+#include "stores/PlatformIni.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
@@ -32,11 +36,11 @@ constexpr int kDesignColumn = 1125;    // twips; wider where a title needs it
 constexpr long kWidestColumn = 100000; // twips; more is garbage
 
 short StoredLanguage() {
-    const auto language = Text::WholeNumber(UserStore::Get(L"Options", L"Language"));
+    const auto language = Text::WholeNumber(UserStore::Get(Keys::Options, Keys::Language));
     return language && *language >= 0 && *language <= 2 ? static_cast<short>(*language) : short{0};
 }
 
-bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(L"Settings", L"Installed")).value_or(0) == 0; }
+bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(Keys::Settings, Keys::Installed)).value_or(0) == 0; }
 
 /// The day of a file's last change, as the user writes dates.
 std::wstring DateOf(const std::wstring& path) {
@@ -52,14 +56,24 @@ std::wstring DateOf(const std::wstring& path) {
 
 /// In twips; none when it was never stored or is garbage.
 std::optional<int> StoredColumnWidth(int column) {
-    const auto width = Text::Measure(UserStore::Get(L"Settings", L"Column" + Text::FromNumber(column)));
+    const auto width = Text::Measure(UserStore::Get(Keys::Settings, Keys::Column + Text::FromNumber(column)));
     if (!width || *width < 0 || *width > kWidestColumn) return std::nullopt;
     return static_cast<int>(*width);
 }
 
+/// Makes an almost empty file where there is none; an error code.
+DWORD CreateEmptyList(const std::wstring& path) {
+    constexpr char kBlankLine[] = " \r\n";
+    const FileHandle file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    DWORD written = 0;
+    const bool isMade = file && WriteFile(file.Get(), kBlankLine, sizeof kBlankLine - 1, &written, nullptr);
+    return isMade ? ERROR_SUCCESS : GetLastError();
+}
+
 bool OpensQuickSwitchAtStart() {
-    const auto wanted = Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0"));
-    return wanted.value_or(0) == 1 && !IniLib::GetKeyValue(L"General", L"Quickswitch").empty();
+    const auto stored = IniLib::ReadFile();
+    return stored && Palette::OpensAtStart(*stored);
 }
 
 } // namespace
@@ -87,17 +101,23 @@ bool frmMain::LoadLanguage() {
 }
 
 bool frmMain::FindSettingsFile() {
-    std::wstring path = UserStore::Get(L"Settings", L"IniLocation");
+    std::wstring path = UserStore::Get(Keys::Settings, Keys::IniLocation);
     IniLib::SettingsFile(path.empty() ? Application::FileInFolder(L"Kelmorra.ini") : path);
     return true;
 }
 
 bool frmMain::OfferBackup() {
     const std::wstring& path = IniLib::SettingsFile();
-    const auto backup = FileHealth::IsDamaged(path) ? Backup::LastGood(path) : std::nullopt;
+    // One that is missing may have been moved, or its share may not be there yet.
+    const bool isMissing = FileHealth::Inspect(path) == FileHealth::State::Missing;
+    const auto backup = isMissing || FileHealth::IsDamaged(path) ? Backup::LastGood(path) : std::nullopt;
     if (!backup) return true;
     const std::wstring question = Text::Replace(Translated(MoreText::RestoreBackup), L"%2", DateOf(*backup));
-    if (AskYesNo(Text::Replace(question, L"%1", path)) && !Backup::Restore(path))
+    if (!AskYesNo(Text::Replace(question, L"%1", path))) return true;
+    const Backup::Restored restored = Backup::Restore(path);
+    if (restored == Backup::Restored::NotNeeded)
+        MsgBox(Text::Replace(Translated(MoreText::RestoreNotNeeded), L"%1", path), MsgIcon::Information);
+    else if (restored == Backup::Restored::Failed)
         MsgBox(Text::Replace(Translated(MoreText::RestoreFailed), L"%1", *backup), MsgIcon::Exclamation);
     return true;
 }
@@ -115,14 +135,14 @@ bool frmMain::CheckActRuns() {
 }
 
 bool frmMain::UpgradeSettings() {
-    const std::wstring version = UserStore::Get(L"Settings", L"Version");
+    const std::wstring version = UserStore::Get(Keys::Settings, Keys::Version);
     if (version == L"200") {
-        const std::wstring location = UserStore::Get(L"Settings", L"IniLocation");
+        const std::wstring location = UserStore::Get(Keys::Settings, Keys::IniLocation);
         UserStore::DeleteAll();
-        if (!location.empty()) UserStore::Set(L"Settings", L"IniLocation", location);
+        if (!location.empty()) UserStore::Set(Keys::Settings, Keys::IniLocation, location);
     }
     if (version != L"32" && version != L"3") modUpgrade32::Upgrade_to_32();
-    UserStore::Set(L"Settings", L"Version", Application::VersionDigits());
+    UserStore::Set(Keys::Settings, Keys::Version, Application::VersionDigits());
     return true;
 }
 
@@ -157,29 +177,29 @@ void frmMain::FinishStart() {
         }
     }
     if (!reload_) ShowFirstWindow();
+    if (!reload_ && !listLoaded_ && !isReported) SettingsNotice::CannotRead();
 }
 
 void frmMain::CreateSettingsFile() {
     const std::wstring& path = IniLib::SettingsFile();
-    if (modFolderFileExists::FileExists(path)) return;
-    const FileHandle file(
-        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
-    constexpr char kBlankLine[] = " \r\n";
-    if (!file && GetLastError() == ERROR_ACCESS_DENIED) {
+    const bool isMissing = !modFolderFileExists::FileExists(path);
+    // One that has been read in this run has only gone away.
+    if (isMissing && FileHealth::IsOutage(path, FileHealth::State::Missing)) return;
+    DWORD error = PlatformIni::AnsiName(path) ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
+    if (isMissing && error == ERROR_SUCCESS) error = CreateEmptyList(path);
+    if (error == ERROR_ACCESS_DENIED) {
         const std::wstring hint = Text::Replace(Translated(MoreText::FolderNotWritable), L"%1", path);
         MsgBox(Text::Replace(hint, L"%2", Text::Replace(LangText[59], L"&", L"") + L" > " + LangText[122]),
                MsgIcon::Exclamation);
-        return;
+    } else if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS) {
+        throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(error)) + L" " + path);
     }
-    DWORD written = 0;
-    if (!file || !WriteFile(file.Get(), kBlankLine, sizeof kBlankLine - 1, &written, nullptr))
-        throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(GetLastError())) + L" " + path);
 }
 
 void frmMain::RestoreWindow() {
     if (!isFinding_) HideFind();
-    const auto width = Text::Measure(UserStore::Get(L"Settings", L"Width"));
-    const auto height = Text::Measure(UserStore::Get(L"Settings", L"Height"));
+    const auto width = Text::Measure(UserStore::Get(Keys::Settings, Keys::Width));
+    const auto height = Text::Measure(UserStore::Get(Keys::Settings, Keys::Height));
     const Twips design = OuterSize();
     const int widest = ToTwips(GetSystemMetrics(SM_CXMAXTRACK), Dpi());
     const int highest = ToTwips(GetSystemMetrics(SM_CYMAXTRACK), Dpi());
@@ -210,21 +230,19 @@ void frmMain::RestoreColumns() {
 void frmMain::CompleteFirstRun() {
     if (!IsFirstRun()) return;
     Create_LinkMenuItem(toolbarIcon_.GetACTLocation());
-    UserStore::Set(L"Settings", L"Installed", L"1");
+    UserStore::Set(Keys::Settings, Keys::Installed, L"1");
 }
 
 void frmMain::RecordActDefaults() {
     ProgramState& program = Program();
-    UserStore::Set(L"Settings", L"OriginalCL", program.Preferences.DefaultContactLayout());
-    UserStore::Set(L"Settings", L"OriginalGL", program.Preferences.DefaultGroupLayout());
-    UserStore::Set(L"Settings", L"OriginalMacro", program.Preferences.StartupMacro());
+    UserStore::Set(Keys::Settings, Keys::OriginalCL, program.Preferences.DefaultContactLayout());
+    UserStore::Set(Keys::Settings, Keys::OriginalGL, program.Preferences.DefaultGroupLayout());
+    UserStore::Set(Keys::Settings, Keys::OriginalMacro, program.Preferences.StartupMacro());
     program.DefaultDatabaseLocation = program.Preferences.GetDefaultLocation(DefaultLocation::Databases);
 }
 
 void frmMain::FillAndSelect() {
-    if (reload_) return;
-    ReloadList();
-    listLoaded_ = true;
+    if (!reload_) ReloadList();
 }
 
 void frmMain::ShowFirstWindow() {
@@ -233,5 +251,7 @@ void frmMain::ShowFirstWindow() {
         ShowQuickSwitch();
     else
         Show();
-    if (Visible() && DatabaseList::IsLongerThanShown()) MsgBox(Translated(MoreText::ListTooLong), MsgIcon::Information);
+    if (!Visible()) return;
+    if (const auto stored = IniLib::ReadFile(); stored && !DatabaseList::Read(*stored).unseen.empty())
+        MsgBox(Translated(MoreText::ListTooLong), MsgIcon::Information);
 }

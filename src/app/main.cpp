@@ -1,6 +1,8 @@
 #include "act/MessageFilter.h"
 #include "app/frmMain.h"
 #include "i18n/modLangues.h"
+#include "stores/Backup.h"
+#include "stores/IniLib.h"
 #include "support/ErrorReport.h"
 #include "win32/Windows.h"
 
@@ -22,15 +24,8 @@ private:
 
 std::wstring SupportSentence() { return LangText[108]; }
 
-} // namespace
-
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls,
-                                             ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
-    // A dead drive or share answers with an error, not with a box that asks for a disk.
-    SetErrorMode(SEM_FAILCRITICALERRORS);
-    InitCommonControlsEx(&kControls);
-    SetSupportSentence(&SupportSentence);
+/// Everything that other programs may wait for is let go when this returns.
+int Run() {
     const Apartment apartment;
     const MessageFilter filter;
     try {
@@ -41,4 +36,19 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
         ErrorReport("frmMain: Sub Form_Load");
         return 1;
     }
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls,
+                                             ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    // A dead drive or share answers with an error, not with a box that asks for a disk.
+    SetErrorMode(SEM_FAILCRITICALERRORS);
+    InitCommonControlsEx(&kControls);
+    SetSupportSentence(&SupportSentence);
+    const int exitCode = Run();
+    // Not only before a change: the last change of all is in no copy otherwise.
+    Backup::KeepAtEnd(IniLib::SettingsFile());
+    return exitCode;
 }

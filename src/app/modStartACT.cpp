@@ -1,17 +1,20 @@
 #include "app/modStartACT.h"
 
 #include "databases/ActSettings.h"
+#include "databases/DatabaseList.h"
+#include "databases/Logon.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "program/SettingsNotice.h"
 #include "quickswitch/frmQuickSwitch.h"
+#include "stores/IniLib.h"
 #include "stores/RegistrySubs.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Shell.h"
-#include "support/Text.h"
 
 namespace {
 
@@ -29,7 +32,7 @@ void AskForUsername() {
            L"you need to enter your username (and optionally a password).",
            MsgIcon::Exclamation);
     ProgramState& program = Program();
-    program.DatabaseNames = DatabaseList::ReadSort();
+    if (const auto stored = IniLib::ReadFile()) program.DatabaseNames = DatabaseList::Read(*stored).shown;
     program.AskForUsername = true;
     frmProperties properties(nullptr);
     properties.IsNew(false);
@@ -37,22 +40,22 @@ void AskForUsername() {
     program.AskForUsername = false;
 }
 
-void WriteActSettings(const std::wstring& name) {
-    const DatabaseRecord record = ExtractInfo(name);
+void WriteActSettings(const IniLib::Reading& stored, const std::wstring& name) {
+    const DatabaseRecord record = ExtractInfo(stored, name);
     SetActValue(kDatabaseKey, L"Last DB Name", record.Path);
     SetActValue(kDatabaseKey, L"Use Last DB", std::int32_t{1});
     // Without a layout of the database's own ACT! keeps its own.
     if (!record.ContactLayout.empty()) SetActValue(kDatabaseKey, L"Contact Layout", record.ContactLayout);
     if (!record.GroupLayout.empty()) SetActValue(kDatabaseKey, L"Group Layout", record.GroupLayout);
     SetActValue(kGeneralKey, L"Macro Name", record.OpeningMacro);
-    ActSettings::WriteLocations(name);
+    ActSettings::WriteLocations(UsedFolders(stored, name));
 }
 
 void WriteLogonValues(const std::wstring& name) {
-    UserStore::DeleteSection(L"Logon");
-    const bool withoutPassword = Text::WholeNumber(UserStore::Get(name, L"NoPasswordAtACTStartup")).value_or(0) != 0;
-    LogonValues::CopyToLogon(name);
-    UserStore::Set(L"Logon", L"UsePassword", withoutPassword ? L"0" : L"1");
+    UserStore::DeleteSection(Keys::Logon);
+    LogonHandOver::CopyToLogon(name);
+    const bool isWithoutPassword = LogonValues::Load(name).IsWithoutPasswordAtStart;
+    UserStore::Set(Keys::Logon, Keys::UsePassword, isWithoutPassword ? L"0" : L"1");
 }
 
 } // namespace
@@ -66,9 +69,11 @@ void StartACT_mode(MainWindow& mainWindow, const clsToolbarIcon& toolbarIcon) tr
     program.FriendlyName.clear();
     frmQuickSwitch(mainWindow).ShowModal();
     if (program.FriendlyName.empty()) return;
-    if (UserStore::Get(program.FriendlyName, L"Username").empty()) AskForUsername();
+    if (UserStore::Get(program.FriendlyName, Keys::Username).empty()) AskForUsername();
     const std::wstring name = program.FriendlyName; // the dialog may have renamed it
-    WriteActSettings(name);
+    const auto stored = IniLib::ReadFile();
+    if (!stored) return SettingsNotice::CannotRead();
+    WriteActSettings(*stored, name);
     const std::wstring act = toolbarIcon.GetACTLocation();
     if (act.empty() || act == L"none") {
         MsgBox(LangText[9] + Application::Title);

@@ -8,13 +8,11 @@ namespace {
 
 constexpr wchar_t kSeparator = L';';
 
-bool Has(const NameList::Names& names, const std::wstring& name) {
-    return std::ranges::find(names, name) != names.end();
-}
-
 } // namespace
 
 namespace NameList {
+
+bool Has(const Names& names, const std::wstring& name) { return std::ranges::find(names, name) != names.end(); }
 
 Divided Divide(std::wstring_view cut, std::wstring_view whole) {
     Divided list{Text::Split(cut, kSeparator), {}};
@@ -30,7 +28,7 @@ Divided Divide(std::wstring_view cut, std::wstring_view whole) {
 std::wstring WithUnseen(Names names, const Names& unseen) {
     const Names given = names;
     for (const std::wstring& name : unseen)
-        if (std::ranges::find(given, name) == given.end()) names.push_back(name);
+        if (!Has(given, name)) names.push_back(name);
     return Text::Join(names, kSeparator);
 }
 

@@ -9,6 +9,8 @@ namespace NameList {
 
 using Names = std::vector<std::wstring>;
 
+bool Has(const Names& names, const std::wstring& name);
+
 /// A stored list, divided into the names that a cut reading shows whole and those behind them.
 struct Divided {
     Names shown, unseen;

@@ -1,10 +1,10 @@
 #include "dialogs/frmListMaintenance.h"
 
-#include "databases/Database.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "program/SettingsNotice.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
@@ -14,6 +14,12 @@
 
 frmListMaintenance::frmListMaintenance(MainWindow& mainWindow)
     : Form({L"frmListMaintenance", 5610, 4200}), mainWindow_(mainWindow) {}
+
+bool frmListMaintenance::Form_Initialize() {
+    if (auto list = EditedList::Load()) list_ = std::move(*list);
+    if (!list_) SettingsNotice::CannotRead();
+    return list_.has_value();
+}
 
 void frmListMaintenance::Form_Load() try {
     // The text is a menu caption: without its access key mark.
@@ -46,18 +52,40 @@ void frmListMaintenance::SetMenuCaptions() {
     set(mnuDown, LangText[95], L"Alt+", Translated(MoreText::KeyDown));
 }
 
-void frmListMaintenance::Create_List() {
+void frmListMaintenance::Create_List() { ShowList(-1); }
+
+void frmListMaintenance::ShowList(int selected) {
     lstDB.Clear();
-    for (const std::wstring& name : DatabaseList::ReadSort()) lstDB.AddItem(name);
-    isListRead_ = DatabaseList::WasRead();
-    NoteStored();
+    for (const std::wstring& name : list_->Shown()) lstDB.AddItem(name);
+    if (selected >= 0) lstDB.ListIndex(std::min(selected, lstDB.ListCount() - 1));
+    EnableButtons();
+}
+
+void frmListMaintenance::ShowList(const std::wstring& selected) {
+    ShowList(static_cast<int>(std::ranges::find(list_->Shown(), selected) - list_->Shown().begin()));
+}
+
+std::vector<std::wstring> frmListMaintenance::Lines() const {
+    std::vector<std::wstring> names;
+    names.reserve(static_cast<size_t>(lstDB.ListCount()));
+    for (int index = 0; index < lstDB.ListCount(); ++index) names.push_back(lstDB.List(index));
+    return names;
+}
+
+bool frmListMaintenance::Save_List() {
+    const std::wstring selected = SelectedName();
+    if (!list_->Save(Lines())) return false;
+    if (Lines() != list_->Shown()) ShowList(selected);
+    return true;
 }
 
 void frmListMaintenance::Form_Unload() try {
-    if (Program().ActIsClosing) return; // nobody chose to keep the moves
-    Save_List();
-    mainWindow_.SelectedIndex(lstDB.ListIndex());
-    if (isMerged_) MsgBox(Translated(MoreText::ListMerged), MsgIcon::Information);
+    if (!list_ || Program().ActIsClosing) return; // nobody chose to keep the moves
+    if (!isLeft_) Save_List();
+    const auto& stored = list_->Shown();
+    const auto selected = std::ranges::find(stored, SelectedName());
+    mainWindow_.SelectedIndex(selected == stored.end() ? -1 : static_cast<int>(selected - stored.begin()));
+    if (list_->HaveOthersChanged()) MsgBox(Translated(MoreText::ListMerged), MsgIcon::Information);
 } catch (...) {
     ErrorReport("frmListMaintenance: Sub Form_Unload");
 }
@@ -96,7 +124,7 @@ void frmListMaintenance::lstDB_Click() { EnableButtons(); }
 void frmListMaintenance::lstDB_RightClick(POINT position) {
     const int selected = lstDB.ListIndex();
     for (MenuItem* item : {&mnuDuplicate, &mnuRemove}) item->Enabled(selected >= 0);
-    mnuUndo.Enabled(!removed_.empty());
+    mnuUndo.Enabled(list_->CanUndo());
     mnuUp.Enabled(selected > 0);
     mnuDown.Enabled(selected >= 0 && selected != lstDB.ListCount() - 1);
     mnuList.PopUp(position);
@@ -104,14 +132,22 @@ void frmListMaintenance::lstDB_RightClick(POINT position) {
 
 void frmListMaintenance::lstDB_Drop(int from, int to) { MoveListboxItem(lstDB, from, to); }
 
+std::wstring frmListMaintenance::SelectedName() const {
+    return lstDB.ListIndex() < 0 ? std::wstring() : lstDB.List(lstDB.ListIndex());
+}
+
 void frmListMaintenance::AddByProperties(const std::wstring& model) {
     // Moves made so far are written first: the properties dialog adds the new name to what is stored.
-    Save_List();
+    if (Lines() != list_->Shown() && !Save_List()) {
+        SettingsNotice::NotSaved();
+        return;
+    }
     frmProperties properties(&mainWindow_);
     properties.IsNew(true);
     properties.Model(model);
     properties.ShowModal();
     if (properties.Cancelled()) return;
+    if (!list_->Reload()) return SettingsNotice::CannotRead();
     Create_List();
     lstDB.ListIndex(lstDB.ListCount() - 1);
 }
@@ -119,44 +155,27 @@ void frmListMaintenance::AddByProperties(const std::wstring& model) {
 void frmListMaintenance::cmdAdd_Click() { AddByProperties({}); }
 
 void frmListMaintenance::mnuDuplicate_Click() {
-    if (lstDB.ListIndex() >= 0) AddByProperties(lstDB.List(lstDB.ListIndex()));
+    if (lstDB.ListIndex() >= 0) AddByProperties(SelectedName());
 }
 
 void frmListMaintenance::cmdRemove_Click() {
     const int line = lstDB.ListIndex();
     if (line < 0) return;
-    RemovedDatabase removed(lstDB.List(line), line);
-    IniLib::Change change;
-    DatabaseList::DeleteFileRecord(change, removed.Name());
-    lstDB.RemoveItem(line);
-    if (line < lstDB.ListCount())
-        lstDB.ListIndex(line);
-    else if (lstDB.ListCount() > 0)
-        lstDB.ListIndex(0);
-    EnableButtons();
-    DatabaseList::ReplaceInQuickSwitch(change, removed.Name(), {});
-    // A database that stays in the list keeps its log-on.
-    if (!Save_List(change)) return;
-    DatabaseList::DeleteUserRecord(removed.Name());
-    removed.NoteRemoval();
-    removed_.push_back(std::move(removed));
+    std::vector<std::wstring> left = Lines();
+    if (!list_->Remove(left, static_cast<size_t>(line))) return SettingsNotice::NotSaved();
+    left.erase(left.begin() + line);
+    if (left.empty())
+        Create_List();
+    else
+        ShowList(left[static_cast<size_t>(line) < left.size() ? static_cast<size_t>(line) : 0]);
 }
 
 void frmListMaintenance::mnuUndo_Click() {
-    if (removed_.empty()) return;
-    const RemovedDatabase& last = removed_.back();
-    const int line = std::min(last.Line(), lstDB.ListCount());
-    IniLib::Change change;
-    last.RestoreFile(change);
-    lstDB.InsertItem(last.Name(), line);
-    lstDB.ListIndex(line);
-    if (!Save_List(change)) {
-        lstDB.RemoveItem(line);
-        EnableButtons();
-        return;
-    }
-    last.RestoreUser();
-    removed_.pop_back();
+    if (!list_->CanUndo()) return;
+    if (const auto line = list_->Undo(Lines()))
+        ShowList(static_cast<int>(*line));
+    else
+        SettingsNotice::NotSaved();
 }
 
 void frmListMaintenance::MoveListboxItem(ListBox& list, int index, int newIndex) {
@@ -172,4 +191,11 @@ void frmListMaintenance::MoveListboxItem(ListBox& list, int index, int newIndex)
 
 void frmListMaintenance::cmdUp_Click() { MoveListboxItem(lstDB, lstDB.ListIndex(), lstDB.ListIndex() - 1); }
 void frmListMaintenance::cmdDown_Click() { MoveListboxItem(lstDB, lstDB.ListIndex(), lstDB.ListIndex() + 1); }
-void frmListMaintenance::cmdClose_Click() { Unload(); }
+
+void frmListMaintenance::cmdClose_Click() {
+    while (!Program().ActIsClosing && !Save_List() && Lines() != list_->Shown() &&
+           SettingsNotice::AskToSaveOrderAgain()) {
+    }
+    isLeft_ = true;
+    Unload();
+}

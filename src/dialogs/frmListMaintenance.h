@@ -1,13 +1,13 @@
 #pragma once
 
-#include "databases/RemovedDatabase.h"
+#include "databases/EditedList.h"
 #include "program/MainWindow.h"
-#include "stores/IniLib.h"
 #include "ui/Button.h"
 #include "ui/Form.h"
 #include "ui/Label.h"
 #include "ui/ListBox.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,6 +41,7 @@ public:
     MenuItem mnuDown{this, mnuList, L"mnuDown", &frmListMaintenance::cmdDown_Click};
 
 private:
+    bool Form_Initialize() override;
     void Form_Load() override;
     void Form_Unload() override;
     bool Form_KeyDown(const KeyPress& press) override;
@@ -61,18 +62,13 @@ private:
     void cmdClose_Click();
     void mnuDuplicate_Click();
     void mnuUndo_Click();
-
-    // Saving (frmListMaintenanceSave.cpp)
     bool Save_List();
-    bool Save_List(IniLib::Change& change);
-    bool MergeOthers();
-    void NoteStored();
     std::vector<std::wstring> Lines() const;
+    std::wstring SelectedName() const;
+    void ShowList(int selected);
+    void ShowList(const std::wstring& selected);
 
     MainWindow& mainWindow_;
-    bool isListRead_ = false;
-    bool isMerged_ = false;            ///< others' changes have been taken over and the user has not been told
-    std::vector<std::wstring> stored_; ///< the names as this dialog last read or wrote them
-    std::vector<std::wstring> shown_;  ///< the lines then: what is none of them was not taken out here
-    std::vector<RemovedDatabase> removed_;
+    std::optional<EditedList> list_; ///< none when the settings file could not be read
+    bool isLeft_ = false;            ///< by Close: what could be saved then has been saved
 };

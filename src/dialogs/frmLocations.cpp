@@ -1,5 +1,6 @@
 #include "dialogs/frmLocations.h"
 
+#include "databases/Keys.h"
 #include "i18n/modLangues.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
@@ -45,7 +46,7 @@ void frmLocations::cmdOK_Click() try {
         txtPath.SetFocus();
         return;
     }
-    UserStore::Set(L"Settings", L"IniLocation", path);
+    UserStore::Set(Keys::Settings, Keys::IniLocation, path);
     if (path != pathAtActivation_) {
         IniLib::SettingsFile(path);
         locationChanged_ = true;

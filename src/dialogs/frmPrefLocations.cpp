@@ -1,8 +1,7 @@
 #include "dialogs/frmPrefLocations.h"
 
-#include "databases/Database.h"
 #include "i18n/modLangues.h"
-#include "stores/IniLib.h"
+#include "program/SettingsNotice.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "ui/CommonDialogs.h"
@@ -11,17 +10,20 @@
 
 namespace {
 
-constexpr int kFirstRowText = 109; // the row texts follow one another in the order of LocationNames
+constexpr int kFirstRowText = 109; // the row texts follow one another in the order of the locations
 constexpr int kTypeColumn = 2100;  // twips
-constexpr int kLocationCount = static_cast<int>(LocationNames.size());
-
-const wchar_t* KeyOf(int row) { return LocationNames.at(static_cast<size_t>(row)); }
 
 } // namespace
 
 frmPrefLocations::frmPrefLocations(std::wstring currentName, std::wstring typedName)
     : Form({L"frmPrefLocations", 7200, 4500, Border::SizableDialog}), currentName_(std::move(currentName)),
       typedName_(std::move(typedName)) {}
+
+bool frmPrefLocations::Form_Initialize() {
+    if (auto locations = OwnLocations::Load(currentName_)) locations_ = std::move(*locations);
+    if (!locations_) SettingsNotice::CannotRead();
+    return locations_.has_value();
+}
 
 void frmPrefLocations::Form_Load() try {
     Caption(LangText[124]);
@@ -32,10 +34,8 @@ void frmPrefLocations::Form_Load() try {
     cmdClear.Text(L"Clear");
     lvwPref.AddColumn(LangText[147], kTypeColumn);
     lvwPref.AddColumn(LangText[148], lvwPref.Place().Width - kTypeColumn - 120);
-    for (int row = 0; row < kLocationCount; ++row) {
-        lvwPref.Add({LangText[kFirstRowText + row]});
-        lvwPref.Cell(row, 1, IniLib::GetKeyValue(currentName_, KeyOf(row)));
-    }
+    for (const std::wstring& folder : locations_->All())
+        lvwPref.Add({LangText[kFirstRowText + lvwPref.RowCount()], folder});
     lvwPref.Select(0);
 } catch (...) {
     ErrorReport("frmPrefLocations: Sub Form_Load");
@@ -62,17 +62,21 @@ void frmPrefLocations::cmdEditlocation_Click() {
 void frmPrefLocations::cmdClear_Click() try {
     const int row = lvwPref.Selected();
     if (row < 0 || !AskYesNo(LangText[149] + lvwPref.Cell(row, 0) + L"?")) return;
-    IniLib::DeleteKey(currentName_, KeyOf(row));
-    lvwPref.Cell(row, 1, {});
+    if (locations_->Clear(static_cast<size_t>(row)))
+        lvwPref.Cell(row, 1, {});
+    else
+        SettingsNotice::NotSaved();
 } catch (...) {
     ErrorReport("frmPrefLocations: Sub cmdClear_Click");
 }
 
 void frmPrefLocations::cmdOK_Click() try {
-    IniLib::Change change;
-    for (int row = 0; row < kLocationCount; ++row) change.WriteKeyValue(typedName_, KeyOf(row), lvwPref.Cell(row, 1));
-    change.Commit();
-    Unload();
+    Folders folders;
+    for (size_t row = 0; row < folders.size(); ++row) folders[row] = lvwPref.Cell(static_cast<int>(row), 1);
+    if (locations_->Save(typedName_, folders))
+        Unload();
+    else
+        SettingsNotice::NotSaved();
 } catch (...) {
     ErrorReport("frmPrefLocations: Sub cmdOK_Click");
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "databases/EditedDatabase.h"
 #include "ui/Button.h"
 #include "ui/Form.h"
 #include "ui/ListView.h"
 
+#include <optional>
 #include <string>
 
 /// Edits the twelve preference locations of one database. They are loaded and cleared under the current friendly name
@@ -21,6 +23,7 @@ public:
     CommandButton cmdClear{this, L"cmdClear", {5700, 1620, 1290, 345}, &frmPrefLocations::cmdClear_Click};
 
 private:
+    bool Form_Initialize() override;
     void Form_Load() override;
     void Form_Resize() override;
     void lvwPref_DblClick();
@@ -31,4 +34,5 @@ private:
 
     std::wstring currentName_;
     std::wstring typedName_;
+    std::optional<OwnLocations> locations_; ///< none when the settings file could not be read
 };

@@ -1,19 +1,16 @@
 #include "dialogs/frmProperties.h"
 
+#include "databases/DatabaseList.h"
 #include "dialogs/frmPrefLocations.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "program/SettingsNotice.h"
 #include "stores/IniLib.h"
 #include "stores/RegistrySubs.h"
-#include "stores/UserStore.h"
-#include "stores/modEnCrypt.h"
-#include "support/Application.h"
 #include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
 #include "ui/CommonDialogs.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -35,32 +32,32 @@ constexpr BrowseTarget kBrowseTargets[] = {
     {L"ACT! Database (*.dbf)|*.dbf", DefaultLocation::Databases, &frmProperties::txtPath, 91},
 };
 
-bool IsChecked(const std::wstring& name, const wchar_t* key) {
-    return Text::WholeNumber(UserStore::Get(name, key)).value_or(0) != 0;
-}
-
 } // namespace
 
 frmProperties::frmProperties(MainWindow* mainWindow) : Form({L"frmProperties", 6990, 4980}), mainWindow_(mainWindow) {}
 
 std::wstring frmProperties::GetACTSetting(int index) {
-    const std::wstring name = std::wstring(LocationNames.at(static_cast<size_t>(index))) + L" File Type";
+    const std::wstring name = std::wstring(Keys::Locations.at(static_cast<size_t>(index))) + L" File Type";
     const auto value = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, L"Software\\Symantec\\ACT!", name);
     const auto* folder = std::get_if<std::wstring>(&value);
     return folder ? *folder : std::wstring();
 }
 
-void frmProperties::Form_Load() try {
+bool frmProperties::Form_Initialize() {
     ProgramState& program = Program();
-    cancelled_ = false;
     if (isNew_) program.FriendlyName.clear();
     OldName_ = program.FriendlyName;
+    if (auto database = EditedDatabase::Load(OldName_, model_)) database_ = std::move(*database);
+    if (!database_) SettingsNotice::CannotRead();
+    return database_.has_value();
+}
+
+void frmProperties::Form_Load() try {
+    cancelled_ = false;
     SetCaptions();
     ShowPage(Tab::General);
-    if (!OldName_.empty()) LoadRecord(OldName_);
-    if (!model_.empty()) LoadModel();
-    txtPassword.Enabled(chkPassword.Value());
-    LoadLocations();
+    ShowValues();
+    ShowLenders();
 } catch (...) {
     ErrorReport("frmProperties: Sub Form_Load");
 }
@@ -91,36 +88,30 @@ void frmProperties::SetCaptions() {
     txtPassword.AccessibleName(LangText[137]);
 }
 
-void frmProperties::LoadModel() {
-    LoadRecord(model_);
-    const std::vector<std::wstring> names = DatabaseList::ReadSort();
-    std::wstring name;
-    for (int number = 2; name.empty() || std::ranges::find(names, name) != names.end(); ++number)
-        name = model_ + L" (" + Text::FromNumber(number) + L')';
-    txtName.Text(name);
-    txtName.SelectAll();
+void frmProperties::ShowValues() {
+    const DatabaseValues& values = database_->Values();
+    txtName.Text(values.Name);
+    txtPath.Text(values.Record.Path);
+    txtCL.Text(values.Record.ContactLayout);
+    txtGL.Text(values.Record.GroupLayout);
+    txtMacro.Text(values.Record.OpeningMacro);
+    txtUsername.Text(values.Logon.Username);
+    txtPassword.Text(values.Logon.Password);
+    chkPassword.Value(values.Logon.UsesPassword);
+    chkNotAtACTLaunch.Value(values.Logon.IsWithoutPasswordAtStart);
+    txtPassword.Enabled(chkPassword.Value());
+    if (!model_.empty()) txtName.SelectAll();
 }
 
-void frmProperties::LoadRecord(const std::wstring& name) {
-    const DatabaseRecord record = ExtractInfo(name);
-    txtName.Text(name);
-    txtPath.Text(record.Path);
-    txtCL.Text(record.ContactLayout);
-    txtGL.Text(record.GroupLayout);
-    txtMacro.Text(record.OpeningMacro);
-    txtUsername.Text(UserStore::Get(name, L"Username"));
-    txtPassword.Text(modEnCrypt::DecryptText(UserStore::Get(name, L"Password"), Application::Title));
-    chkPassword.Value(IsChecked(name, L"UsePassword"));
-    chkNotAtACTLaunch.Value(IsChecked(name, L"NoPasswordAtACTStartup"));
-}
-
-void frmProperties::LoadLocations() {
-    for (const std::wstring& name : Program().DatabaseNames)
+void frmProperties::ShowLenders() {
+    std::vector<std::wstring> names = Program().DatabaseNames;
+    const auto& lender = database_->Values().Lender;
+    // One that the list is too long to show is not lost for that.
+    if (lender && NameList::Has(database_->All(), *lender) && !NameList::Has(names, *lender)) names.push_back(*lender);
+    for (const std::wstring& name : names)
         if (name != OldName_) cboDB.AddItem(name);
-    const std::wstring& source = model_.empty() ? OldName_ : model_;
-    const std::wstring lender = source.empty() ? L"" : IniLib::GetKeyValue(source, L"UseLocationsFrom");
-    optLocations[lender.empty() ? Specific : FromOther].Value(true);
-    if (!lender.empty()) cboDB.Select(lender);
+    optLocations[lender ? FromOther : Specific].Value(true);
+    if (lender) cboDB.Select(*lender);
 }
 
 void frmProperties::Form_Activate() {
@@ -150,9 +141,10 @@ bool frmProperties::Check_Name() {
     txtName.Text(Text::Trim(txtName.Text()));
     const std::wstring name = txtName.Text();
     bool isTaken = false;
-    if (name != OldName_) {
-        Program().DatabaseNames = DatabaseList::ReadSort();
-        isTaken = std::ranges::count(Program().DatabaseNames, name) > 0;
+    // A list that cannot be read now is asked again when everything is saved.
+    if (const auto stored = name == OldName_ ? Unreadable() : IniLib::ReadFile()) {
+        Program().DatabaseNames = DatabaseList::Read(*stored).shown;
+        isTaken = NameList::Has(DatabaseList::ReadAll(*stored), name);
     }
     if (name.empty() || isTaken) return RefuseName();
     if (txtPath.Text().empty()) {
@@ -203,5 +195,40 @@ void frmProperties::cmdEditLocations_Click() try {
 
 void frmProperties::cmdCancel_Click() {
     cancelled_ = true;
+    Unload();
+}
+
+DatabaseValues frmProperties::Values() const {
+    DatabaseValues values;
+    values.Name = txtName.Text();
+    values.Record = {txtPath.Text(), txtCL.Text(), txtGL.Text(), txtMacro.Text()};
+    if (optLocations[FromOther].Value()) values.Lender = cboDB.SelectedText();
+    values.Logon = {txtUsername.Text(), txtPassword.Text(), chkPassword.Value(), chkNotAtACTLaunch.Value()};
+    return values;
+}
+
+void frmProperties::cmdOK_Click() try {
+    if (txtUsername.Text().empty()) {
+        MsgBox(L"Please enter a username for this database!", MsgIcon::Exclamation);
+        SkipTabCheck_ = true;
+        ShowTab(Tab::Logon);
+        txtUsername.SetFocus();
+        return;
+    }
+    if (Check_Name()) Save();
+} catch (...) {
+    ErrorReport("frmProperties: Sub cmdOK_Click");
+}
+
+void frmProperties::Save() {
+    const DatabaseValues values = Values();
+    switch (database_->Save(values)) {
+    case EditedDatabase::Outcome::NameTaken: RefuseName(); return;
+    case EditedDatabase::Outcome::NotSaved: SettingsNotice::NotSaved(); return;
+    case EditedDatabase::Outcome::Saved: break;
+    }
+    Program().FriendlyName = values.Name;
+    if (!isNew_ && mainWindow_) mainWindow_->ReplaceRow(values.Name, values.Record);
+    isNew_ = false;
     Unload();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "databases/EditedDatabase.h"
 #include "program/MainWindow.h"
-#include "stores/IniLib.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"
 #include "ui/ControlArray.h"
@@ -12,6 +12,7 @@
 #include "ui/TextBox.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 /// Edits one database: its name and files, where its preference locations come from, and its log-on. Works on the
@@ -25,7 +26,7 @@ public:
     void IsNew(bool isNew) { isNew_ = isNew; }
     /// Set by the caller before showing: the new database begins with the values of another one, "" for none.
     void Model(std::wstring name) { model_ = std::move(name); }
-    /// After showing: the user left without OK.
+    /// After showing: the user left without OK, or the dialog could not open.
     bool Cancelled() const { return cancelled_; }
     /// ACT!'s own folder for a preference location, 0 to 11, from ACT!'s registry values; "" when it has none. Any
     /// other index throws std::out_of_range.
@@ -70,12 +71,12 @@ public:
     CommandButton cmdCancel{this, L"cmdCancel", {5565, 4080, 1215, 345}, &frmProperties::cmdCancel_Click, Cancel};
 
 private:
+    bool Form_Initialize() override;
     void Form_Load() override;
     void Form_Activate() override;
     void SetCaptions();
-    void LoadRecord(const std::wstring& name);
-    void LoadModel();
-    void LoadLocations();
+    void ShowValues();
+    void ShowLenders();
     void ShowTab(int tab);
     void ShowPage(int tab);
     bool Check_Name();
@@ -87,20 +88,15 @@ private:
     void cmdEditLocations_Click();
     void cmdOK_Click();
     void cmdCancel_Click();
-
-    // Saving (frmPropertiesSave.cpp)
+    DatabaseValues Values() const;
     void Save();
-    bool SaveToFile(const std::wstring& name);
-    void Rename(IniLib::Change& change, const std::wstring& name) const;
-    void WriteFiles(IniLib::Change& change, const std::wstring& name);
-    void WriteLocations(IniLib::Change& change, const std::wstring& name);
-    void WriteLogon(const std::wstring& name);
 
     MainWindow* mainWindow_;
     std::wstring OldName_;
-    std::wstring model_; ///< of a new database: the one whose values it begins with
+    std::wstring model_;                     ///< of a new database: the one whose values it begins with
+    std::optional<EditedDatabase> database_; ///< none when the settings file could not be read
     bool isNew_ = false;
-    bool cancelled_ = false;
+    bool cancelled_ = true;
     bool SkipTabCheck_ = false;
     bool NameValid_ = false;
 };

@@ -10,7 +10,7 @@ namespace {
 // UTF-8, like the numbered table: English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const char*, 3>;
 
-constexpr std::array<Translations, 16> kTexts{{
+constexpr std::array<Translations, 20> kTexts{{
     {"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      "file.",
      "La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -45,12 +45,36 @@ constexpr std::array<Translations, 16> kTexts{{
     {"open in ACT!", "ouverte dans ACT!", "in ACT! geöffnet"},
     {"The database file is not there:", "Le fichier de la base est introuvable :",
      "Die Datenbankdatei ist nicht vorhanden:"},
-    {"The list of databases cannot be kept in\r\n%1\r\nbecause you may not write there. Please choose another place "
-     "under %2.",
-     "La liste des bases de données ne peut pas être conservée dans\r\n%1\r\ncar vous n'avez pas le droit d'y écrire. "
-     "Veuillez choisir un autre emplacement sous %2.",
-     "Die Liste der Datenbanken kann nicht in\r\n%1\r\naufbewahrt werden, weil Sie dort nicht schreiben dürfen. Bitte "
-     "wählen Sie unter %2 einen anderen Ort."},
+    {"The list of databases cannot be kept in\r\n%1\r\nbecause it cannot be written there. Please make an empty file "
+     "Kelmorra.ini in a folder of your own and choose it under %2.",
+     "La liste des bases de données ne peut pas être conservée dans\r\n%1\r\ncar il est impossible d'y écrire. "
+     "Veuillez "
+     "créer un fichier Kelmorra.ini vide dans un dossier à vous, puis le choisir sous %2.",
+     "Die Liste der Datenbanken kann nicht in\r\n%1\r\ngespeichert werden, weil dort nicht geschrieben werden kann. "
+     "Bitte legen Sie in einem eigenen Ordner eine leere Datei Kelmorra.ini an und wählen Sie sie unter %2 aus."},
+    {"The settings file\r\n%1\r\nis in order again. It has been left as it is.",
+     "Le fichier de paramètres\r\n%1\r\nest de nouveau en ordre. Il n'a pas été modifié.",
+     "Die Einstellungsdatei\r\n%1\r\nist wieder in Ordnung. Sie wurde nicht verändert."},
+    {"The settings file\r\n%1\r\ncannot be read at the moment. Nothing has been changed. Please try again later.",
+     "Le fichier de paramètres\r\n%1\r\nne peut pas être lu pour le moment. Rien n'a été modifié. Veuillez réessayer "
+     "plus tard.",
+     "Die Einstellungsdatei\r\n%1\r\nkann im Moment nicht gelesen werden. Es wurde nichts geändert. Bitte versuchen "
+     "Sie "
+     "es später noch einmal."},
+    {"The change could not be saved in the settings file\r\n%1\r\nNothing has been changed. The file may be away, "
+     "write-protected or in use. Please try again.",
+     "La modification n'a pas pu être enregistrée dans le fichier de paramètres\r\n%1\r\nRien n'a été modifié. Le "
+     "fichier est peut-être inaccessible, protégé en écriture ou en cours d'utilisation. Veuillez réessayer.",
+     "Die Änderung konnte nicht gespeichert werden in der Einstellungsdatei\r\n%1\r\nEs wurde nichts geändert. "
+     "Vielleicht ist die Datei nicht erreichbar, schreibgeschützt oder in Gebrauch. Bitte versuchen Sie es noch "
+     "einmal."},
+    {"The order of the databases could not be saved in the settings file\r\n%1\r\n\r\nDo you want to try again? If you "
+     "choose No, the list keeps its former order.",
+     "L'ordre des bases de données n'a pas pu être enregistré dans le fichier de paramètres\r\n%1\r\n\r\nVoulez-vous "
+     "réessayer ? Si vous choisissez Non, la liste garde son ordre précédent.",
+     "Die Reihenfolge der Datenbanken konnte nicht gespeichert werden in der Einstellungsdatei\r\n%1\r\n\r\nMöchten "
+     "Sie "
+     "es noch einmal versuchen? Wenn Sie Nein wählen, behält die Liste ihre bisherige Reihenfolge."},
 }};
 
 } // namespace

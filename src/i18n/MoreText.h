@@ -3,8 +3,8 @@
 #include <string>
 
 /// Texts for situations that the numbered table knows nothing of.
-/// In `RestoreBackup` %1 stands for the settings file's path and %2 for the backup's date, in `RestoreFailed` %1 for
-/// the backup's path; in `FolderNotWritable` %1 for the settings file's path and %2 for the menu item.
+/// %1 stands for the settings file's path, in `RestoreFailed` for the backup's; %2 in `RestoreBackup` for the backup's
+/// date, in `FolderNotWritable` for the menu item.
 enum class MoreText {
     ListTooLong,
     WhatThisIs,
@@ -22,6 +22,10 @@ enum class MoreText {
     OpenInAct,
     FileMissing,
     FolderNotWritable,
+    RestoreNotNeeded,
+    CannotRead,
+    NotSaved,
+    OrderNotSaved,
 };
 
 /// A text in the current language.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "databases/Record.h"
+
 #include <string>
 
 /// What other windows may ask of the main window.
@@ -20,5 +22,5 @@ public:
     /// Names the database to select when the list is filled again.
     virtual void SelectedIndex(int index) = 0;
     /// Shows the selected row anew, under the given friendly name and with that database's record.
-    virtual void ReplaceRow(const std::wstring& name) = 0;
+    virtual void ReplaceRow(const std::wstring& name, const DatabaseRecord& record) = 0;
 };

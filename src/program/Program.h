@@ -1,7 +1,6 @@
 #pragma once
 
 #include "act/ActApplication.h"
-#include "databases/Database.h"
 
 #include <string>
 #include <vector>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "databases/Palette.h"
+
 #include <cstdint>
 #include <vector>
 
@@ -7,7 +9,7 @@
 /// rounded corners and one swept one. Nothing here touches Windows.
 namespace Artwork {
 
-inline constexpr int SchemeCount = 5;
+inline constexpr int SchemeCount = Palette::SchemeCount;
 inline constexpr int ShapeCount = 4;
 
 /// A colour, 8 bits a channel.

@@ -1,8 +1,7 @@
 #include "quickswitch/frmAssign.h"
 
-#include "databases/Database.h"
 #include "i18n/modLangues.h"
-#include "stores/IniLib.h"
+#include "program/SettingsNotice.h"
 #include "support/ErrorReport.h"
 #include "support/Text.h"
 
@@ -72,18 +71,21 @@ void frmAssign::DrawPosition(int, HDC canvas, const RECT& area, bool) {
     }
 }
 
+bool frmAssign::Form_Initialize() {
+    if (auto settings = Palette::Edited::Load()) settings_ = std::move(*settings);
+    if (!settings_) SettingsNotice::CannotRead();
+    return settings_.has_value();
+}
+
 void frmAssign::Form_Load() try {
     SetCaptions();
     ShowPage(0);
     FillLists();
-    const std::wstring stored = IniLib::GetKeyValue(L"General", L"QuickSwitchScheme", L"0");
-    chkStartup.Value(Text::WholeNumber(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup", L"0")).value_or(0) != 0);
+    chkStartup.Value(settings_->IsShownAtStart());
     optColor[0].Value(true); // what is shown also after an error
-    const auto scheme = Text::WholeNumber(stored);
-    if (!scheme) throw Error(BasicError::TypeMismatch, L"Type mismatch");
-    if (*scheme < 0 || *scheme >= Artwork::SchemeCount) throw Error(BasicError::OutOfRange, L"Subscript out of range");
+    const auto scheme = static_cast<size_t>(settings_->Scheme());
     optColor[0].Value(false);
-    optColor[static_cast<size_t>(*scheme)].Value(true);
+    optColor[scheme].Value(true);
 } catch (...) {
     ErrorReport("frmAssign: Sub Form_Load");
 }
@@ -110,14 +112,10 @@ void frmAssign::SetButtonCaption(size_t index) {
 }
 
 void frmAssign::FillLists() {
-    const std::vector<std::wstring> names = DatabaseList::ReadSort();
-    areListsRead_ = DatabaseList::WasRead();
-    const std::vector<std::wstring> assigned = DatabaseList::ReadQuickSwitch();
-    areListsRead_ = areListsRead_ && DatabaseList::WasRead();
     for (size_t index = 0; index < ButtonCount; ++index) {
         cboDB[index].AddItem({});
-        for (const std::wstring& name : names) cboDB[index].AddItem(name);
-        if (!assigned[index].empty()) cboDB[index].Select(assigned[index]);
+        for (const std::wstring& name : settings_->Choices(index)) cboDB[index].AddItem(name);
+        if (!settings_->Button(index).empty()) cboDB[index].Select(settings_->Button(index));
     }
 }
 
@@ -133,13 +131,10 @@ void frmAssign::cmdOK_Click() try {
     for (const ComboBox& list : cboDB) names.push_back(list.SelectedText());
     size_t scheme = 0;
     while (scheme + 1 < Artwork::SchemeCount && !optColor[scheme].Value()) ++scheme;
-    IniLib::Change change;
-    if (!areListsRead_) change.Refuse(); // the lists were filled from nothing
-    change.WriteKeyValue(L"General", L"QuickSwitch", Text::Join(names, L';'));
-    change.WriteKeyValue(L"General", L"QuickSwitchStartup", chkStartup.Value() ? L"1" : L"0");
-    change.WriteKeyValue(L"General", L"QuickSwitchScheme", Text::FromNumber(scheme));
-    change.Commit();
-    Unload();
+    if (settings_->Save(names, static_cast<int>(scheme), chkStartup.Value()))
+        Unload();
+    else
+        SettingsNotice::NotSaved();
 } catch (...) {
     ErrorReport("frmAssign: Sub cmdOK_Click");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "databases/Palette.h"
 #include "quickswitch/Drawing.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"
@@ -11,13 +12,14 @@
 #include "ui/TabControl.h"
 
 #include <array>
+#include <optional>
 
 /// The palette's settings: which database each button opens, the colour scheme, and whether it comes up at the start.
 class frmAssign : public Form {
 public:
     frmAssign();
 
-    static constexpr std::size_t ButtonCount = 8;
+    static constexpr std::size_t ButtonCount = Palette::ButtonCount;
 
     TabControl mstAssign{this, L"mstAssign", {120, 120, 7500, 4740}, &frmAssign::mstAssign_Click};
 
@@ -40,6 +42,7 @@ public:
     CommandButton cmdCancel{this, L"cmdCancel", {6405, 4980, 1215, 345}, &frmAssign::cmdCancel_Click, Cancel};
 
 private:
+    bool Form_Initialize() override;
     void Form_Load() override;
     void SetCaptions();
     void SetButtonCaption(size_t index);
@@ -55,5 +58,5 @@ private:
     void DrawSample(int scheme, HDC canvas, const RECT& area, bool isFocused);
     void DrawPosition(int number, HDC canvas, const RECT& area, bool isFocused);
 
-    bool areListsRead_ = false;
+    std::optional<Palette::Edited> settings_; ///< none when the settings file could not be read
 };

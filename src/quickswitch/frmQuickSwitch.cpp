@@ -1,5 +1,7 @@
 #include "quickswitch/frmQuickSwitch.h"
 
+#include "databases/Keys.h"
+#include "databases/Palette.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/frmAssign.h"
@@ -54,31 +56,23 @@ void frmQuickSwitch::Form_Load() try {
 }
 
 void frmQuickSwitch::Refresh_Screen() try {
+    const auto stored = IniLib::ReadFile();
+    if (!stored && !QuickSwitchNames_.empty()) return; // its buttons are better than none
     for (Tracker& tracker : trackers_) tracker.Detach();
     isHighlighted_.fill(false);
-    ReadNames();
+    QuickSwitchNames_ = stored ? Palette::Buttons(*stored) : std::vector<std::wstring>(ButtonCount);
     ShowColumns();
     for (int button = 1; button <= ButtonCount; ++button) {
         Picture(button).Text(CaptionOf(button));
         toolTip_.Set(Handle(), Picture(button).Handle(), NameOf(button));
     }
     AttachTrackers();
-    ReadScheme();
+    Scheme_ = 0; // also what is shown after an error
+    if (stored) Scheme_ = Palette::Scheme(*stored);
     InvalidateRect(Handle(), nullptr, TRUE);
 } catch (...) {
     ErrorReport("frmQuickSwitch: Sub Refresh_Screen");
 }
-
-void frmQuickSwitch::ReadScheme() {
-    Scheme_ = 0; // also what is shown after an error
-    const std::wstring stored = IniLib::GetKeyValue(L"General", L"QuickSwitchScheme", L"0");
-    const auto scheme = Text::WholeNumber(stored);
-    if (!scheme) throw Error(BasicError::TypeMismatch, L"Type mismatch");
-    if (*scheme < 0 || *scheme >= Artwork::SchemeCount) throw Error(BasicError::OutOfRange, L"Subscript out of range");
-    Scheme_ = static_cast<short>(*scheme);
-}
-
-void frmQuickSwitch::ReadNames() { QuickSwitchNames_ = DatabaseList::ReadQuickSwitch(); }
 
 void frmQuickSwitch::ShowColumns() {
     int columns = 4;
@@ -94,8 +88,8 @@ void frmQuickSwitch::AttachTrackers() {
 }
 
 void frmQuickSwitch::RestorePosition() {
-    const auto top = Text::Measure(UserStore::Get(L"Settings", L"QuickTop"));
-    const auto left = Text::Measure(UserStore::Get(L"Settings", L"QuickLeft"));
+    const auto top = Text::Measure(UserStore::Get(Keys::Settings, Keys::QuickTop));
+    const auto left = Text::Measure(UserStore::Get(Keys::Settings, Keys::QuickLeft));
     RECT place{};
     GetWindowRect(Handle(), &place);
     OffsetRect(&place, left ? ToPixels(static_cast<int>(*left), Dpi()) - place.left : 0,
@@ -116,8 +110,8 @@ void frmQuickSwitch::RestorePosition() {
 
 void frmQuickSwitch::Save_Position() const try {
     const Twips position = Position();
-    UserStore::Set(L"Settings", L"QuickLeft", Text::FromNumber(position.Left));
-    UserStore::Set(L"Settings", L"QuickTop", Text::FromNumber(position.Top));
+    UserStore::Set(Keys::Settings, Keys::QuickLeft, Text::FromNumber(position.Left));
+    UserStore::Set(Keys::Settings, Keys::QuickTop, Text::FromNumber(position.Top));
 } catch (...) {
     ErrorReport("frmQuickSwitch: Sub Save_Position");
 }

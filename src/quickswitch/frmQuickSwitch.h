@@ -51,8 +51,6 @@ private:
     void Form_Paint();
     void Form_MouseDown(POINT position);
     void Refresh_Screen();
-    void ReadScheme();
-    void ReadNames();
     void ShowColumns();
     void AttachTrackers();
     void RestorePosition();

@@ -60,21 +60,37 @@ std::vector<std::wstring> Copies(const std::wstring& settingsFile) {
     return copies;
 }
 
-using Bytes = std::optional<std::string>;
+using SafeFile::Contents;
 
-bool HoldsSettings(const Bytes& bytes) {
-    return FileHealth::Inspect(bytes) == FileHealth::State::Sound && bytes->find('[') != std::string::npos;
+bool HoldsSettings(const Contents& contents) {
+    return FileHealth::Inspect(contents) == FileHealth::State::Sound && contents.Bytes.find('[') != std::string::npos;
 }
 
 /// A write cuts lines at their first zero byte: what such a file holds behind it would be gone.
-bool WouldBeCut(const Bytes& bytes) {
-    return FileHealth::Inspect(bytes) == FileHealth::State::Empty &&
-           bytes->find_first_not_of('\0') != std::string::npos;
+bool WouldBeCut(const Contents& contents) {
+    return FileHealth::Inspect(contents) == FileHealth::State::Empty &&
+           contents.Bytes.find_first_not_of('\0') != std::string::npos;
 }
 
 /// Neither hidden nor read-only: the copy must be easy to find and to replace.
 bool Copy(const std::wstring& from, const std::wstring& to) {
     return CopyFileW(from.c_str(), to.c_str(), FALSE) && SetFileAttributesW(to.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+/// Keeps a copy of `from` under the name of a settings file. The ending of a damaged one's lets it never be offered.
+bool Keep(const std::wstring& from, const std::wstring& settingsFile, bool isSound) {
+    const std::wstring folder = BackupFolder();
+    return !folder.empty() &&
+           Copy(from, folder + Prefix(settingsFile) + TimeStamp() + (isSound ? L".ini" : L".damaged.txt"));
+}
+
+DWORD WINAPI KeepInThread(void* settingsFile) {
+    try {
+        Backup::KeepOnce(*static_cast<const std::wstring*>(settingsFile));
+    } catch (...) {
+        return 1; // no copy, and nobody left to be told
+    }
+    return 0;
 }
 
 } // namespace
@@ -84,17 +100,28 @@ namespace Backup {
 void KeepOnce(const std::wstring& settingsFile) {
     static std::wstring kept;
     if (settingsFile == kept) return;
-    const Bytes bytes = SafeFile::Read(settingsFile);
-    kept = bytes ? settingsFile : L""; // one that nobody can read now may be kept later
-    if (!bytes) return;
-    const bool isSound = HoldsSettings(bytes);
-    const auto newest = LastGood(settingsFile);
-    if (isSound && newest && SafeFile::Read(*newest) == bytes) return;
-    const std::wstring folder = isSound || WouldBeCut(bytes) ? BackupFolder() : L"";
-    const wchar_t* const ending = isSound ? L".ini" : L".damaged.txt"; // the latter is never offered
-    if (folder.empty() || !Copy(settingsFile, folder + Prefix(settingsFile) + TimeStamp() + ending)) return;
+    const Contents contents = SafeFile::Read(settingsFile);
+    kept = contents.IsRead() ? settingsFile : L""; // one that nobody can read now may be kept later
+    if (!contents.IsRead()) return;
+    const bool isSound = HoldsSettings(contents);
+    if (!isSound && !WouldBeCut(contents)) return;
+    if (const auto newest = LastGood(settingsFile); isSound && newest) {
+        const Contents last = SafeFile::Read(*newest);
+        if (last.IsRead() && last.Bytes == contents.Bytes) return;
+    }
+    if (!Keep(settingsFile, settingsFile, isSound)) return;
     const std::vector<std::wstring> copies = Copies(settingsFile);
     for (size_t index = 0; index + kKept < copies.size(); ++index) DeleteFileW(copies[index].c_str());
+}
+
+void KeepAtEnd(const std::wstring& settingsFile) {
+    constexpr DWORD kPatience = 10'000;
+    if (settingsFile.empty()) return;
+    std::wstring path = settingsFile;
+    const KernelHandle thread(CreateThread(nullptr, 0, &KeepInThread, &path, 0, nullptr));
+    // Nothing is left to be saved, and a thread that hangs would outlive what it works with.
+    if (thread && WaitForSingleObject(thread.Get(), kPatience) == WAIT_TIMEOUT)
+        TerminateProcess(GetCurrentProcess(), 0);
 }
 
 std::optional<std::wstring> LastGood(const std::wstring& settingsFile) {
@@ -105,9 +132,19 @@ std::optional<std::wstring> LastGood(const std::wstring& settingsFile) {
     return *newest;
 }
 
-bool Restore(const std::wstring& settingsFile) {
-    const auto copy = LastGood(settingsFile);
-    return copy && SafeFile::Change(settingsFile, [&](const std::wstring& path) { return Copy(*copy, path); });
+Restored Restore(const std::wstring& settingsFile) {
+    const auto good = LastGood(settingsFile);
+    bool isSound = false;
+    const bool isDone = good && SafeFile::Change(settingsFile, [&](const std::wstring& copy) -> DWORD {
+                            const Contents present = SafeFile::Read(copy);
+                            isSound = FileHealth::Inspect(present) == FileHealth::State::Sound;
+                            if (isSound) return ERROR_SUCCESS;
+                            if (!present.IsRead() && !present.IsMissing()) return present.Error;
+                            const bool isKept = present.Bytes.empty() || Keep(copy, settingsFile, false);
+                            return isKept && Copy(*good, copy) ? ERROR_SUCCESS : ERROR_WRITE_FAULT;
+                        });
+    if (isSound) return Restored::NotNeeded;
+    return isDone ? Restored::Done : Restored::Failed;
 }
 
 } // namespace Backup

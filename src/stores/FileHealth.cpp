@@ -1,65 +1,67 @@
 #include "stores/FileHealth.h"
 
-#include "stores/SafeFile.h"
-#include "win32/Windows.h"
+#include "support/Text.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
-std::wstring& LastRead() {
-    static std::wstring path;
-    return path;
+using FileHealth::State;
+
+struct Known {
+    std::wstring Path;
+    State Best;
+};
+
+/// A run knows one settings file, or two when another one is chosen.
+std::vector<Known>& KnownFiles() {
+    static std::vector<Known> files;
+    return files;
+}
+
+Known* Find(const std::wstring& path) {
+    const auto found =
+        std::ranges::find_if(KnownFiles(), [&](const Known& file) { return Text::EqualNoCase(file.Path, path); });
+    return found == KnownFiles().end() ? nullptr : &*found;
 }
 
 bool IsUnicode(const std::string& bytes) { return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"); }
-
-/// Polls a condition; true when it has come to hold.
-template <class Condition>
-bool ComesTrue(Condition condition, DWORD milliseconds) {
-    constexpr DWORD kPause = 15;
-    const DWORD start = GetTickCount();
-    while (!condition()) {
-        if (GetTickCount() - start >= milliseconds) return false;
-        Sleep(kPause);
-    }
-    return true;
-}
 
 } // namespace
 
 namespace FileHealth {
 
-State Inspect(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return State::Missing;
-    return Inspect(SafeFile::Read(path));
+State Inspect(const SafeFile::Contents& contents) {
+    if (contents.IsMissing()) return State::Missing;
+    if (!contents.IsRead()) return State::Unreadable;
+    const bool hasZeros = contents.Bytes.find('\0') != std::string::npos && !IsUnicode(contents.Bytes);
+    return contents.Bytes.empty() || hasZeros ? State::Empty : State::Sound;
 }
 
-State Inspect(const std::optional<std::string>& bytes) {
-    if (!bytes) return State::Unreadable;
-    const bool hasZeros = bytes->find('\0') != std::string::npos && !IsUnicode(*bytes);
-    return bytes->empty() || hasZeros ? State::Empty : State::Sound;
-}
+State Inspect(const std::wstring& path) { return Inspect(SafeFile::Read(path)); }
 
 bool IsDamaged(const std::wstring& path) {
     constexpr DWORD kPatience = 400;
-    const auto isWell = [&] {
+    constexpr DWORD kPause = 15;
+    for (const DWORD start = GetTickCount();; Sleep(kPause)) {
         const State state = Inspect(path);
-        return state == State::Missing || state == State::Sound;
-    };
-    return !ComesTrue(isWell, kPatience);
+        if (state == State::Missing || state == State::Sound) return false;
+        if (GetTickCount() - start >= kPatience) return true;
+    }
 }
 
-void NoteRead(const std::wstring& path) {
-    if (path != LastRead() && Inspect(path) == State::Sound) LastRead() = path;
+void Note(const std::wstring& path, State state) {
+    if (Known* const known = Find(path))
+        known->Best = std::max(known->Best, state);
+    else if (state > State::Missing)
+        KnownFiles().push_back({path, state});
 }
 
-bool CanBeTrusted(const std::wstring& path) {
-    constexpr DWORD kPatience = 90;
-    const auto isTrusted = [&] {
-        const State state = Inspect(path);
-        return state != State::Unreadable && (state != State::Empty || path != LastRead());
-    };
-    return ComesTrue(isTrusted, kPatience);
+bool IsOutage(const std::wstring& path, State state) {
+    if (state == State::Unreadable) return true;
+    const Known* const known = Find(path);
+    return known && state < known->Best;
 }
 
 } // namespace FileHealth

@@ -1,21 +1,18 @@
 // What IniLib writes: collected first, then made in one step.
 
+#include "stores/IniChange.h"
+
 #include "stores/Backup.h"
 #include "stores/FileHealth.h"
 #include "stores/IniLib.h"
+#include "stores/PlatformIni.h"
 #include "stores/SafeFile.h"
-#include "support/Text.h"
 #include "win32/AnsiText.h"
-#include "win32/Windows.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace {
-
-// What the platform reads back whole of a line; Wine's writer crashes on much longer values.
-constexpr size_t kLongestLine = 32766;
 
 constexpr bool IsBlank(char character) { return character == ' ' || character == '\t'; }
 constexpr bool IsQuote(char character) { return character == '"' || character == '\''; }
@@ -28,77 +25,88 @@ std::string Quoted(std::string value) {
     return blankAtEnd || wrapped ? '"' + std::move(value) + '"' : value;
 }
 
-/// A missing key gives back whichever default is offered; a present one, even empty, cannot equal both.
-bool KeyExists(const char* section, const char* key, const char* file) {
-    for (const char* fallback : {"0", "1"}) {
-        std::array<char, 3> value{};
-        GetPrivateProfileStringA(section, key, fallback, value.data(), value.size(), file);
-        if (std::string_view(value.data()) != fallback) return true;
-    }
-    return false;
+/// The copy as one reading; what it is a copy of does not matter to it.
+Read<IniLib::Reading> ReadCopy(const std::wstring& copy) {
+    SafeFile::Contents contents = SafeFile::Read(copy);
+    if (!contents.IsRead() && !contents.IsMissing()) return Unreadable();
+    return IniLib::Reading({copy, !contents.IsMissing()}, std::move(contents.Bytes));
 }
 
 } // namespace
 
 namespace IniLib {
 
-// Through the ANSI code page: the path must be the one that the platform's calls are going to meet.
-Change::Change(const std::wstring& fileName) : fileName_(ToWide(ToAnsi(fileName))) {}
+Change::Change(const std::wstring& fileName) : fileName_(PlatformIni::FullPath(fileName)) {}
+
+Change::Change() : Change(SettingsFile()) {}
+
+Change::Change(Origin origin) : origin_(std::move(origin)), fileName_(origin_->Path) {}
 
 void Change::Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value) {
-    if (section.empty()) Refuse();
-    steps_.push_back({ToAnsi(section), std::move(key), std::move(value), {}});
+    if (section.empty()) isRefused_ = true;
+    steps_.push_back({ToAnsi(section), std::move(key), std::move(value)});
 }
 
 void Change::WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
     std::string keyBytes = ToAnsi(key);
     std::string bytes = Quoted(ToAnsi(value));
-    if (keyBytes.size() + bytes.size() > kLongestLine) Refuse();
+    if (keyBytes.size() + bytes.size() > LongestLine) isRefused_ = true;
     Add(section, std::move(keyBytes), std::move(bytes));
-}
-
-void Change::EditKeyValue(const std::wstring& section, const std::wstring& key, Edit edit) {
-    Add(section, ToAnsi(key), {});
-    steps_.back().edit = std::move(edit);
 }
 
 void Change::DeleteKey(const std::wstring& section, const std::wstring& key) { Add(section, ToAnsi(key), {}); }
 
 void Change::DeleteSection(const std::wstring& section) { Add(section, {}, {}); }
 
-bool Change::Make(const std::wstring& path) const {
-    const std::string file = ToAnsi(path);
-    return std::ranges::all_of(steps_, [&](const Step& step) { return MakeStep(step, file.c_str()); });
-}
-
-bool Change::MakeEdit(const Step& step, const char* file) {
-    const std::wstring whole = GetWholeValue(ToWide(step.section), ToWide(*step.key), ToWide(file));
-    const auto value = step.edit(whole);
-    if (!value) return true;
-    const std::string bytes = Quoted(ToAnsi(*value));
-    if (whole.size() > kLongestLine || step.key->size() + bytes.size() > kLongestLine) {
-        SetLastError(ERROR_BUFFER_OVERFLOW);
-        return false;
+DWORD Change::Make(const std::wstring& copy) const try {
+    if (const DWORD refusal = Refusal(copy)) return refusal;
+    Change composed(*this);
+    if (!builds_.empty()) {
+        const Read<Reading> stored = ReadCopy(copy);
+        if (!stored) return ERROR_SHARING_VIOLATION;
+        const bool isBuilt = std::ranges::all_of(builds_, [&](const Build& build) { return build(*stored, composed); });
+        if (!isBuilt || composed.isRefused_) return ERROR_CANCELLED;
     }
-    return WritePrivateProfileStringA(step.section.c_str(), step.key->c_str(), bytes.c_str(), file) != 0;
+    for (const Step& step : composed.steps_)
+        if (const DWORD error = MakeStep(step, copy)) return error;
+    return ERROR_SUCCESS;
+} catch (const Error&) {
+    return ERROR_READ_FAULT; // a value that nobody can read now
 }
 
-bool Change::MakeStep(const Step& step, const char* file) {
-    if (step.edit) return MakeEdit(step, file);
-    const char* const section = step.section.c_str();
+DWORD Change::Refusal(const std::wstring& copy) const {
+    const FileHealth::State state = FileHealth::Inspect(copy);
+    // Another program may be writing it in place: worth another try.
+    if (FileHealth::IsOutage(fileName_, state)) return ERROR_SHARING_VIOLATION;
+    const bool hasCome = origin_ && !origin_->IsThere && state != FileHealth::State::Missing;
+    return hasCome ? ERROR_CANCELLED : ERROR_SUCCESS;
+}
+
+DWORD Change::MakeStep(const Step& step, const std::wstring& copy) {
     const char* const key = step.key ? step.key->c_str() : nullptr;
-    // The platform would rewrite the file for a key that is not there.
-    if (key && !step.value && !KeyExists(section, key, file)) return true;
-    return WritePrivateProfileStringA(section, key, step.value ? step.value->c_str() : nullptr, file) != 0;
+    const bool isKeyRemoval = key && !step.value;
+    if (isKeyRemoval) {
+        const Read<Reading> stored = ReadCopy(copy);
+        if (!stored) return ERROR_SHARING_VIOLATION;
+        // The platform would rewrite the file for a key that is not there.
+        if (!stored->Whole(ToWide(step.section), ToWide(*step.key))) return ERROR_SUCCESS;
+    }
+    return PlatformIni::Write(copy, step.section, key, step.value ? step.value->c_str() : nullptr);
 }
 
 bool Change::Commit() const {
-    if (isRefused_) return false;
-    if (steps_.empty()) return true;
-    if (!Text::HasFolder(fileName_)) return Make(fileName_);
-    if (!FileHealth::CanBeTrusted(fileName_)) return false;
-    Backup::KeepOnce(fileName_);
-    return SafeFile::Change(fileName_, [this](const std::wstring& path) { return Make(path); });
+    if (isRefused_ || (origin_ && origin_->Path != PlatformIni::FullPath(SettingsFile()))) return false;
+    if (steps_.empty() && builds_.empty()) return true;
+    if (hasBackup_) Backup::KeepOnce(fileName_);
+    FileHealth::State made = FileHealth::State::Missing;
+    const bool isMade = SafeFile::Change(fileName_, [&](const std::wstring& copy) {
+        const DWORD error = Make(copy);
+        made = FileHealth::Inspect(copy);
+        return error;
+    });
+    // A file that has just been made and goes away is away, not missing.
+    if (isMade) FileHealth::Note(fileName_, made);
+    return isMade;
 }
 
 } // namespace IniLib

@@ -3,13 +3,13 @@
 #include "support/Text.h"
 
 #include <algorithm>
-#include <cwctype>
 
 namespace {
 
-bool IsBlank(wchar_t character) {
+/// Not the no-break space: the platform keeps it.
+constexpr bool IsBlank(wchar_t character) {
     constexpr wchar_t kEndOfFile = 0x1A; // DOS editors left it
-    return character == kEndOfFile || std::iswspace(character) != 0;
+    return character == kEndOfFile || character == L' ' || (character >= L'\t' && character <= L'\r');
 }
 
 std::wstring_view Bare(std::wstring_view text) {
@@ -49,11 +49,31 @@ bool EqualAscii(std::wstring_view left, std::wstring_view right) {
 }
 
 /// What follows the first line of the first section of that name.
-std::optional<std::wstring_view> Section(std::wstring_view text, std::wstring_view name,
-                                         bool (*equal)(std::wstring_view, std::wstring_view)) {
+std::optional<std::wstring_view> Behind(std::wstring_view text, std::wstring_view name,
+                                        bool (*equal)(std::wstring_view, std::wstring_view)) {
     while (!text.empty())
         if (const auto found = SectionName(TakeLine(text)); found && equal(*found, name)) return text;
     return std::nullopt;
+}
+
+struct Entry {
+    std::wstring_view Key, Value;
+};
+
+Entry EntryOf(std::wstring_view line) {
+    const size_t sign = std::min(line.find(L'='), line.size());
+    return {Bare(line.substr(0, sign)), WithoutQuotes(Bare(line.substr(std::min(sign + 1, line.size()))))};
+}
+
+/// The entries of the first section of that name, from the first to the one that `take` returns true for.
+template <class Take>
+void ForEachEntry(std::wstring_view text, std::wstring_view section, Take take) {
+    auto rest = Behind(text, Bare(section), &EqualAscii);
+    if (!rest) rest = Behind(text, Bare(section), &Text::EqualNoCase);
+    while (rest && !rest->empty()) {
+        const std::wstring_view line = TakeLine(*rest);
+        if (SectionName(line) || take(EntryOf(line))) return;
+    }
 }
 
 } // namespace
@@ -61,16 +81,24 @@ std::optional<std::wstring_view> Section(std::wstring_view text, std::wstring_vi
 namespace IniText {
 
 std::optional<std::wstring_view> Find(std::wstring_view text, std::wstring_view section, std::wstring_view key) {
-    auto rest = Section(text, Bare(section), &EqualAscii);
-    if (!rest) rest = Section(text, Bare(section), &Text::EqualNoCase);
-    while (rest && !rest->empty()) {
-        const std::wstring_view line = TakeLine(*rest);
-        if (SectionName(line)) break;
-        const size_t sign = std::min(line.find(L'='), line.size());
-        if (EqualAscii(Bare(line.substr(0, sign)), Bare(key)))
-            return WithoutQuotes(Bare(line.substr(std::min(sign + 1, line.size()))));
-    }
-    return std::nullopt;
+    std::optional<std::wstring_view> value;
+    ForEachEntry(text, section, [&, wanted = Bare(key)](const Entry& entry) {
+        if (!EqualAscii(entry.Key, wanted)) return false;
+        value = entry.Value;
+        return true;
+    });
+    return value;
+}
+
+std::vector<std::pair<std::wstring, std::wstring>> Section(std::wstring_view text, std::wstring_view section) {
+    std::vector<std::pair<std::wstring, std::wstring>> entries;
+    ForEachEntry(text, section, [&](const Entry& entry) {
+        const bool isComment = entry.Key.empty() || entry.Key.starts_with(L';');
+        const auto isSame = [&](const auto& other) { return EqualAscii(other.first, entry.Key); };
+        if (!isComment && std::ranges::none_of(entries, isSame)) entries.emplace_back(entry.Key, entry.Value);
+        return false;
+    });
+    return entries;
 }
 
 } // namespace IniText

@@ -1,9 +1,11 @@
 #include "stores/UserStore.h"
 
 #include "support/Application.h"
+#include "support/Text.h"
 #include "win32/Owner.h"
 #include "win32/Windows.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -56,6 +58,15 @@ LSTATUS DeleteTree(HKEY parent, const wchar_t* path) {
 } // namespace
 
 namespace UserStore {
+
+bool IsSameSection(const std::wstring& one, const std::wstring& other) {
+    const auto keys = [](const std::wstring& name) {
+        std::vector<std::wstring> path = Text::Split(name, L'\\');
+        std::erase(path, std::wstring());
+        return path;
+    };
+    return std::ranges::equal(keys(one), keys(other), &Text::EqualNoCase);
+}
 
 std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText) {
     if (section.empty()) return defaultText;

@@ -12,6 +12,9 @@ namespace UserStore {
 /// The key of the current user below which every application has its own key, named after its title.
 inline constexpr wchar_t Root[] = L"Software\\VB and VBA Program Settings";
 
+/// True when two names are those of one section: letter case does not count, nor does a "\" too many.
+bool IsSameSection(const std::wstring& one, const std::wstring& other);
+
 /// The stored text, which may be empty; `defaultText` when there is none or the value is not a text.
 std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
 

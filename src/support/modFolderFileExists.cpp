@@ -1,7 +1,6 @@
 #include "support/modFolderFileExists.h"
 
 #include "support/ErrorReport.h"
-#include "win32/AnsiText.h"
 #include "win32/Windows.h"
 
 namespace {
@@ -19,7 +18,7 @@ namespace modFolderFileExists {
 bool FileExists(const std::wstring& path) try {
     if (!IsAbsolute(path)) return false;
     // Not the shell: it answers yes for drives that are not there, and loading it takes longer than all else here.
-    return GetFileAttributesA(ToAnsi(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+    return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 } catch (...) {
     ErrorReport("modFolderFileExists: Function FileExists");
     return false;

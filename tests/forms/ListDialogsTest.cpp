@@ -9,22 +9,13 @@
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
+#include "support/FakeMainWindow.h"
 #include "support/Text.h"
+#include "support/Whole.h"
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
 namespace {
-
-class SelectedRow : public MainWindow {
-public:
-    explicit SelectedRow(int row) : Row(row) {}
-    void Open_DB(const std::wstring&, short, bool) override {}
-    void ShowMain() override {}
-    int SelectedIndex() const override { return Row; }
-    void SelectedIndex(int index) override { Row = index; }
-    void ReplaceRow(const std::wstring&) override {}
-    int Row;
-};
 
 std::wstring Sort() { return IniLib::GetKeyValue(L"General", L"Sort"); }
 
@@ -61,7 +52,7 @@ int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
         desk.AddDatabase(name, {{L"Path", L"x"}});
         UserStore::Set(name, L"Username", L"Chris");
     }
-    SelectedRow row(selected);
+    FakeMainWindow row(selected);
     DialogScript script;
     script.Then(step);
     if (inner) script.Then(inner);
@@ -71,41 +62,12 @@ int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
 
 } // namespace
 
-TEST_CASE("A list that could not be read when the dialog opened is not written when it closes") {
-    ActDesk desk;
-    for (const wchar_t* name : {L"A", L"B"}) desk.AddDatabase(name, {});
-    const std::string before = desk.SettingsBytes();
-    FileHandle held(CreateFileW(desk.SettingsFile().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    SelectedRow row(-1);
-    DialogScript script;
-    script.Then([&](HWND dialog) {
-        held.Reset();
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    frmListMaintenance(row).ShowModal();
-    CHECK(desk.SettingsBytes() == before);
-}
-
-TEST_CASE("A removal that the settings file refuses leaves record, list and log-on") {
-    ActDesk desk;
-    std::string before;
-    Maintain(desk, 0, [&](HWND dialog) {
-        before = desk.SettingsBytes();
-        SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY);
-        Press(dialog, L"cmdRemove");
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    CHECK(desk.SettingsBytes() == before);
-    CHECK(UserStore::Get(L"A", L"Username") == L"Chris");
-    SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
-}
-
 TEST_CASE("Names that come into sight when a long list gets shorter stay in it") {
     ActDesk desk;
     std::vector<std::wstring> names;
     for (int number = 100; number < 180; ++number) names.push_back(std::to_wstring(number) + L" with a long name");
     REQUIRE(IniLib::WriteKeyValue(L"General", L"Sort", Text::Join(names, L';')));
-    SelectedRow row(0);
+    FakeMainWindow row(0);
     DialogScript script;
     script.Then([](HWND dialog) {
         for (int count = 0; count < 3; ++count) Press(dialog, L"cmdRemove");
@@ -113,7 +75,7 @@ TEST_CASE("Names that come into sight when a long list gets shorter stay in it")
     });
     frmListMaintenance(row).ShowModal();
     names.erase(names.begin(), names.begin() + 3);
-    CHECK(IniLib::GetWholeValue(L"General", L"Sort") == Text::Join(names, L';'));
+    CHECK(Whole(L"General", L"Sort") == Text::Join(names, L';'));
     CHECK(script.All().size() == 1); // nobody is told of others' changes
 }
 
@@ -163,7 +125,7 @@ TEST_CASE("Removing clears both stores and the buttons at once and selects the l
     });
     CHECK(selected == -1);
     CHECK(Sort().empty());
-    CHECK(IniLib::GetWholeValue(L"General", L"QuickSwitch") == L";;;;");
+    CHECK(Whole(L"General", L"QuickSwitch") == L";;;;");
 }
 
 TEST_CASE("Removals are undone one after another, with both stores and the palette as they were") {
@@ -194,7 +156,7 @@ TEST_CASE("What somebody else adds and removes meanwhile is kept, and the user i
     ActDesk desk;
     std::wstring told;
     for (const wchar_t* name : {L"A", L"B", L"C"}) desk.AddDatabase(name, {});
-    SelectedRow row(0);
+    FakeMainWindow row(0);
     DialogScript script;
     script.Then([](HWND dialog) {
         Press(dialog, L"cmdDown");

@@ -7,6 +7,7 @@
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"
+#include "win32/Owner.h"
 
 namespace {
 
@@ -89,53 +90,89 @@ TEST_CASE("Where no settings file may be made the user is shown the way to anoth
     window.Load();
     CHECK(window.Visible());
     REQUIRE(script.All().size() == 1);
-    CHECK(
-        script.All()[0].Text ==
-        L"The list of databases cannot be kept in\r\nZ:\\sys\\Kelmorra.ini\r\nbecause you may not write there. Please "
-        L"choose another place under Options > Settings File Location.");
+    CHECK(script.All()[0].Text == L"The list of databases cannot be kept in\r\nZ:\\sys\\Kelmorra.ini\r\nbecause it "
+                                  L"cannot be written there. Please "
+                                  L"make an empty file Kelmorra.ini in a folder of your own and choose it under "
+                                  L"Options > Settings File Location.");
     End(window);
 }
 
-TEST_CASE("A settings file that has become empty is restored or not, as the user says, before it is first read") {
-    for (const int answer : {IDYES, IDNO}) {
+namespace {
+
+constexpr char kWhole[] = "[General]\r\nSort=Sales\r\n[Sales]\r\nPath=C:\\Sales.dbf\r\n";
+constexpr char kMended[] = "[General]\r\nSort=Mended\r\n";
+
+/// The settings file, whose copy may be kept, as a start finds it; null: missing.
+void Leave(const ActDesk& desk, bool isKept, const char* bytes) {
+    desk.SettingsBytes(kWhole);
+    Backup::KeepOnce(desk.SettingsFile() + L" of another run");
+    if (isKept) Backup::KeepOnce(desk.SettingsFile());
+    desk.SettingsBytes(bytes ? bytes : "");
+    if (!bytes) DeleteFileW(desk.SettingsFile().c_str());
+}
+
+} // namespace
+
+TEST_CASE("A settings file that is empty or away is restored or not, as the user says, unless somebody mends it") {
+    struct Row {
+        const char* bytes;
+        int answer;
+        bool isMended; ///< while the question is open
+        const char* after;
+    };
+    for (const Row& row : {Row{"", IDYES, false, kWhole}, Row{"", IDNO, false, ""}, Row{"", IDYES, true, kMended},
+                           Row{nullptr, IDYES, false, kWhole}, Row{nullptr, IDYES, true, kMended},
+                           Row{nullptr, IDNO, true, kMended}, Row{nullptr, IDNO, false, " \r\n"}}) {
+        CAPTURE(row.answer);
         ActDesk desk;
-        desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Sales.dbf"}});
-        const std::string whole = desk.SettingsBytes();
-        Backup::KeepOnce(desk.SettingsFile() + L" of another run");
-        Backup::KeepOnce(desk.SettingsFile());
-        desk.SettingsBytes(std::string(whole.size(), '\0'));
-        desk.Act.InstanceCount = 0;
+        Leave(desk, true, row.bytes);
         DialogScript script;
-        script.Answer(answer).Answer(IDOK);
+        script.Then([&](HWND question) {
+            if (row.isMended) desk.SettingsBytes(kMended);
+            PostMessageW(question, WM_COMMAND, static_cast<WPARAM>(row.answer), 0);
+        });
+        if (row.isMended && row.answer == IDYES) script.Answer(IDOK);
         frmMain window;
         window.Load();
-        RunToEnd(window);
-        REQUIRE(script.All().size() == 2);
+        CHECK(window.Visible());
         CHECK(script.All()[0].Text.find(desk.SettingsFile() + L"\r\nis empty") != std::wstring::npos);
         CHECK(script.All()[0].Text.find(L'%') == std::wstring::npos);
-        CHECK((desk.SettingsBytes() == whole) == (answer == IDYES));
+        CHECK(desk.SettingsBytes() == row.after);
+        End(window);
     }
 }
 
-TEST_CASE("Nobody is asked about a settings file that is missing, holds an empty list, or has no copy kept") {
-    struct Row {
-        bool isKept;
-        const char* bytes; ///< null: missing
-    };
-    for (const auto& [isKept, bytes] : {Row{true, nullptr}, Row{true, " \r\n"}, Row{false, ""}}) {
+TEST_CASE("Nobody is asked about a settings file that holds an empty list, or that has no copy kept") {
+    const std::pair<bool, const char*> rows[] = {{true, " \r\n"}, {false, ""}, {false, nullptr}};
+    for (const auto& [isKept, bytes] : rows) {
         ActDesk desk;
-        desk.AddDatabase(L"Sales", {});
-        Backup::KeepOnce(desk.SettingsFile() + L" of another run");
-        if (isKept) Backup::KeepOnce(desk.SettingsFile());
+        Leave(desk, isKept, bytes);
         REQUIRE(Backup::LastGood(desk.SettingsFile()).has_value() == isKept);
-        desk.SettingsBytes(bytes ? bytes : "");
-        if (!bytes) DeleteFileW(desk.SettingsFile().c_str());
         const DialogScript script; // fails on any question
         frmMain window;
         window.Load();
         CHECK(window.Visible());
         End(window);
     }
+}
+
+TEST_CASE("A list that cannot be read at the start is told of, and neither it nor the selection is written") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {});
+    UserStore::Set(L"Display", L"Selected", L"7");
+    const FileHandle held(
+        CreateFileW(desk.SettingsFile().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    DialogScript script;
+    script.Answer(IDOK).Answer(IDOK);
+    frmMain window;
+    window.Load();
+    window.Open_DB(L"Sales", 0, false);
+    for (const DialogScript::Seen& seen : script.All())
+        CHECK(seen.Text.find(desk.SettingsFile() + L"\r\ncannot be read at the moment") != std::wstring::npos);
+    CHECK(window.Visible());
+    CHECK(desk.Act.CallsSince(0).find(L"openDB") == std::wstring::npos);
+    End(window);
+    CHECK(UserStore::Get(L"Display", L"Selected") == L"7");
 }
 
 TEST_CASE("ACT!'s defaults are recorded at every start, and sizes survive in either decimal spelling") {

@@ -22,7 +22,7 @@ public:
     void ShowMain() override { ++Shown; }
     int SelectedIndex() const override { return -1; }
     void SelectedIndex(int) override {}
-    void ReplaceRow(const std::wstring&) override {}
+    void ReplaceRow(const std::wstring&, const DatabaseRecord&) override {}
 
     std::wstring Opened;
     int Shown = 0;

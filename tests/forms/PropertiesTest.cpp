@@ -1,5 +1,6 @@
 // The properties dialog: validation, both stores, renaming.
 
+#include "databases/DatabaseList.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
@@ -8,20 +9,10 @@
 #include "stores/modEnCrypt.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
+#include "support/FakeMainWindow.h"
 #include "support/Wide.h"
 
 namespace {
-
-/// The main window as the dialog sees it.
-class NotedRow : public MainWindow {
-public:
-    void Open_DB(const std::wstring&, short, bool) override {}
-    void ShowMain() override {}
-    int SelectedIndex() const override { return 0; }
-    void SelectedIndex(int) override {}
-    void ReplaceRow(const std::wstring& name) override { Replaced = name; }
-    std::wstring Replaced;
-};
 
 std::wstring Ini(const wchar_t* section, const wchar_t* key) { return IniLib::GetKeyValue(section, key, L"(none)"); }
 std::wstring Stored(const wchar_t* section, const wchar_t* key) { return UserStore::Get(section, key, L"(none)"); }
@@ -29,13 +20,13 @@ std::wstring Stored(const wchar_t* section, const wchar_t* key) { return UserSto
 /// Opens the dialog for a database ("" for a new one), types into its boxes, and presses OK. What then happens to
 /// message boxes and to the dialog itself is up to the script.
 struct Session {
-    NotedRow Row;
+    FakeMainWindow Row;
     frmProperties Dialog{&Row};
     DialogScript Script;
 
     void Open(const wchar_t* name, const std::function<void(HWND)>& step) {
         Program().FriendlyName = name;
-        Program().DatabaseNames = DatabaseList::ReadSort();
+        Program().DatabaseNames = DatabaseList::Read(*IniLib::ReadFile()).shown;
         Dialog.IsNew(*name == L'\0');
         Script.Then(step);
     }
@@ -90,22 +81,6 @@ TEST_CASE("No longer name can be typed than the log-on can be stored under") {
     session.Run();
     CHECK(Ini(L"General", L"Sort") == std::wstring(255, L'n'));
     CHECK(Stored(std::wstring(255, L'n').c_str(), L"Username") == L"Chris");
-}
-
-TEST_CASE("A rename that the settings file refuses changes none of it and keeps the old name's log-on") {
-    ActDesk desk;
-    AddSales(desk);
-    const std::string before = desk.SettingsBytes();
-    SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY);
-    Session session;
-    session.Open(L"Sales", [](HWND dialog) {
-        Type(dialog, L"txtName", L"Team");
-        PressOK(dialog);
-    });
-    session.Run();
-    CHECK(desk.SettingsBytes() == before);
-    CHECK(Stored(L"Sales", L"Username") == L"Chris");
-    SetFileAttributesW(desk.SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_CASE("Input that is refused names the reason, shows its tab, and writes nothing") {

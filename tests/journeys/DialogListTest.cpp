@@ -93,50 +93,46 @@ TEST_CASE_FIXTURE(Journey, "a list of three is built from nothing, and the third
     CHECK(User(L"Logon", L"Username") == L"Chris");
 }
 
-TEST_CASE_FIXTURE(Journey, "a removed database is gone from both stores at once, even when the program dies then") {
+TEST_CASE_FIXTURE(Journey,
+                  "while the list's share is away nothing opens or is saved, and afterwards all is as it was") {
     FurnishThree(*this);
+    const std::wstring share = File(L"Share");
+    CreateDirectoryW(share.c_str(), nullptr);
+    REQUIRE(MoveFileW(SettingsFile().c_str(), (share + L"\\Kelmorra.ini").c_str()));
+    User(L"Settings", L"IniLocation", share + L"\\Kelmorra.ini");
+    const auto away = [&] { REQUIRE(MoveFileW(share.c_str(), (share + L" away").c_str())); };
+    const auto back = [&] { REQUIRE(MoveFileW((share + L" away").c_str(), share.c_str())); };
     StartActElsewhere(*this);
     User(L"Display", L"Selected", L"1");
-    StartToMainWindow();
-    HWND list = OpenList(*this);
-    REQUIRE(SelectedLine(list) == 1);
-    JourneyWindow::Click(list, L"cmdRemove");
-    const std::string left = "[General]\r\nSort=Archive;Suppliers\r\nQuickSwitch=Archive;Suppliers;;;;;\r\n"
-                             "[Archive]\r\nPath=C:\\Data\\Archive.dbf\r\n"
-                             "[Suppliers]\r\nPath=C:\\Data\\Suppliers.dbf\r\n";
-    CHECK(Within([&] { return FileBytes(SettingsFile()) == left; }));
-    // The log-on goes after the file, so that a database that has to stay keeps it.
-    CHECK(Within([&] { return UserSection(L"Customers") == L"(none)"; }));
-    CHECK(IsWindowVisible(list));
-    Program().Terminate();
-    REQUIRE(Program().ExitCode() == Process::Terminated);
-
-    CHECK(Rows(StartToMainWindow()) == L"Archive;Suppliers");
-    CHECK(FileBytes(SettingsFile()) == left);
-    CHECK(UserSection(L"Customers") == L"(none)");
-    CHECK(UserSection(L"Suppliers") == L"UsePassword=0;Username=Pat;");
-    Close();
-}
-
-TEST_CASE_FIXTURE(Journey, "moves are saved when list maintenance closes, and the moved database is selected") {
-    FurnishThree(*this);
-    StartActElsewhere(*this);
-    User(L"Display", L"Selected", L"2");
     HWND window = StartToMainWindow();
-    const std::string before = FileBytes(SettingsFile());
+    const std::string before = FileBytes(share + L"\\Kelmorra.ini");
     HWND list = OpenList(*this);
-    REQUIRE(SelectedLine(list) == 2);
-    for (const wchar_t* expected : {L"Archive;Suppliers;Customers", L"Suppliers;Archive;Customers"}) {
-        JourneyWindow::Click(list, L"cmdUp");
-        REQUIRE(Within([&] { return Lines(list) == expected; }));
+    away();
+    JourneyWindow::Click(list, L"cmdRemove");
+    CHECK(AnswerBox().Text.find(L"could not be saved in the settings file\r\n" + share) != std::wstring::npos);
+    CHECK(Lines(list) == L"Archive;Customers;Suppliers");
+    JourneyWindow::Click(list, L"cmdUp");
+    REQUIRE(Within([&] { return Lines(list) == L"Customers;Archive;Suppliers"; }));
+    JourneyWindow::Click(list, L"cmdClose");
+    JourneyWindow::Answer(Box(Program()), IDNO); // leaves without saving
+    REQUIRE(Within([&] { return !IsWindow(list); }));
+    CHECK(Rows(window) == L"Archive;Customers;Suppliers");
+    for (const wchar_t* item : {L"mnuManageList", L"mnuEditProperties", L"mnuFileOpen"}) {
+        REQUIRE(Within([&] { return IsWindowEnabled(window) != FALSE; }));
+        JourneyWindow::ClickMenu(window, item);
+        CHECK(AnswerBox().Text.find(share + L"\\Kelmorra.ini\r\ncannot be read at the moment") != std::wstring::npos);
     }
-    CHECK(FileBytes(SettingsFile()) == before);
-    Leave(list, L"cmdClose");
-    CHECK(Within([&] { return Rows(window) == L"Suppliers;Archive;Customers"; }));
-    CHECK(Within([&] { return ForeignList(ListOf(window)).Selected() == 0; }));
-    CHECK(FileBytes(SettingsFile()).starts_with("[General]\r\nSort=Suppliers;Archive;Customers\r\n"));
+    back();
+    CHECK(FileBytes(share + L"\\Kelmorra.ini") == before);
+    for (const wchar_t* name : {L"Archive", L"Customers", L"Suppliers"})
+        CHECK(UserSection(name) == L"UsePassword=0;Username=Pat;");
+    JourneyWindow::Click(OpenList(*this), L"cmdRemove");
+    CHECK(Within([&] { return UserSection(L"Customers") == L"(none)"; }));
+    CHECK(FileBytes(share + L"\\Kelmorra.ini") ==
+          "[General]\r\nSort=Archive;Suppliers\r\nQuickSwitch=Archive;Suppliers;;;;;\r\n[Archive]\r\nPath=C:\\Data\\"
+          "Archive.dbf\r\n[Suppliers]\r\nPath=C:\\Data\\Suppliers.dbf\r\n");
+    Leave(Window(Program(), L"frmListMaintenance"), L"cmdClose");
     Close();
-    CHECK(User(L"Display", L"Selected") == L"0");
 }
 
 TEST_CASE_FIXTURE(Journey, "the mouse over the bare parts of dialogs leaves them as they are") {

@@ -100,38 +100,6 @@ TEST_CASE_FIXTURE(Journey, "a rename takes the database along in both stores, an
     CHECK(again.Cell(1, 4) == path);
 }
 
-TEST_CASE_FIXTURE(Journey, "folders are cleared under the opened name and written under the one typed in") {
-    const std::wstring path = FurnishSales(*this);
-    StartActElsewhere(*this);
-    StartToMainWindow();
-    HWND properties = OpenProperties(*this);
-    Type(properties, {{L"txtName", L"Leads"}});
-    ShowTab(properties, 1);
-    HWND locations = OpenByButton(*this, properties, L"cmdEditLocations", L"frmPrefLocations");
-    HWND rows = JourneyWindow::Control(locations, L"lvwPref");
-    {
-        const ForeignList list(rows);
-        CHECK(list.Rows() == 12);
-        CHECK(list.Cell(11, 1) == L"D:\\11");
-        CHECK(list.Selected() == 0);
-    }
-    JourneyWindow::Click(locations, L"cmdClear");
-    const JourneyWindow::Box box = Box(Program());
-    CHECK(box.Text == L"Are you sure you want to clear the location: Attached E-mail?");
-    PostMessageW(box.Window, WM_COMMAND, IDYES, 0);
-    REQUIRE(Within([&] { return ForeignList(rows).Cell(0, 1).empty(); }));
-    const std::string general = "[General]\r\nSort=BigSales;Sales\r\nQuickSwitch=BigSales;Sales;;;;;\r\n"
-                                "[BigSales]\r\nPath=C:\\Data\\BigSales.dbf\r\n";
-    const std::string sales =
-        "[Sales]\r\nPath=" + ToAnsi(path) + "\r\nCLY=C:\\L\\Sales.cly\r\nGLY=\r\nStartupMacro=\r\n" + FolderLines(1);
-    CHECK(FileBytes(SettingsFile()) == general + sales);
-    Leave(locations, L"cmdOK");
-    CHECK(FileBytes(SettingsFile()) == general + sales + "[Leads]\r\nAttached Email=\r\n" + FolderLines(1));
-    Leave(properties, L"cmdCancel");
-    CHECK(FileBytes(SettingsFile()) == general + sales + "[Leads]\r\nAttached Email=\r\n" + FolderLines(1));
-    CHECK(UserSection(L"Leads") == L"(none)");
-}
-
 TEST_CASE_FIXTURE(Journey, "a password keeps every byte of its cipher through save, a new run and an open") {
     const std::wstring cipher(L"\0\r\n\u00c7\0", 5);
     FurnishSales(*this);

@@ -1,19 +1,26 @@
-#include "databases/Database.h"
+// The rules about databases: their list, the buttons, and what both stores keep under a name.
 
+#include "databases/DatabaseList.h"
+#include "databases/EditedDatabase.h"
+#include "databases/EditedList.h"
+#include "databases/Logon.h"
+#include "databases/Palette.h"
 #include "databases/modUpgrade32.h"
+#include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/MsgBox.h"
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"
 #include "support/Text.h"
+#include "support/Whole.h"
 #include "support/Wide.h"
 
-#include <array>
-#include <functional>
+#include <algorithm>
+#include <filesystem>
 
 namespace {
 
-using Names = std::vector<std::wstring>;
+using NameList::Names;
 
 /// Both stores are empty scratch ones.
 struct Stores : ScratchRegistry {
@@ -26,22 +33,21 @@ struct Stores : ScratchRegistry {
     TempFile file{L"Kelmorra.ini"};
 };
 
-bool Commit(const std::function<void(IniLib::Change&)>& collect) {
-    IniLib::Change change;
-    collect(change);
-    return change.Commit();
+void List(const Names& names) { REQUIRE(IniLib::WriteKeyValue(L"General", L"Sort", Text::Join(names, L';'))); }
+std::wstring Sort() { return Whole(L"General", L"Sort"); }
+Names Shown() { return DatabaseList::Read(*IniLib::ReadFile()).shown; }
+
+EditedDatabase::Outcome Save(const wchar_t* oldName, const wchar_t* newName) {
+    DatabaseValues values = EditedDatabase::Load(oldName, {})->Values();
+    values.Name = newName;
+    return EditedDatabase::Load(oldName, {})->Save(values);
 }
 
-bool WriteSort(const Names& names) {
-    return Commit([&](IniLib::Change& change) { DatabaseList::WriteSort(change, names); });
+/// Removes the database at a line of the list.
+bool Remove(size_t line) {
+    auto list = EditedList::Load();
+    return list->Remove(list->Shown(), line);
 }
-
-void DeleteDatabase(const std::wstring& name) {
-    CHECK(Commit([&](IniLib::Change& change) { DatabaseList::DeleteFileRecord(change, name); }));
-    DatabaseList::DeleteUserRecord(name);
-}
-
-std::wstring Sort() { return IniLib::GetWholeValue(L"General", L"Sort"); }
 
 /// "name 00", "name 01" and so on, each of `length` characters, so that with the separator n of them take n*(length+1).
 Names LongList(size_t count, size_t length) {
@@ -56,26 +62,31 @@ Names LongList(size_t count, size_t length) {
 } // namespace
 
 TEST_CASE_FIXTURE(Stores, "Changes of a list that are made up at the same moment all reach it") {
-    WriteSort({L"A", L"B", L"C", L"D"});
+    List({L"A", L"B", L"C", L"D"});
     IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;B;C");
-    std::array<IniLib::Change, 4> changes;
-    DatabaseList::RenameInSort(changes[0], L"A", L"X");
-    DatabaseList::ReplaceInQuickSwitch(changes[0], L"A", L"X");
-    DatabaseList::RenameInSort(changes[1], L"B", L"Y");
-    DatabaseList::ReplaceInQuickSwitch(changes[1], L"B", L"Y");
-    DatabaseList::AddToSort(changes[2], L"New");
-    DatabaseList::MergeIntoSort(changes[3], {L"D", L"A", L"B"}, {L"A", L"B", L"C", L"D"}); // D moved up, C removed
-    for (const IniLib::Change& change : changes) CHECK(change.Commit());
-    CHECK(Sort() == L"D;X;Y;New");
-    CHECK(IniLib::GetWholeValue(L"General", L"QuickSwitch") == L"X;Y;C");
+    auto moved = EditedList::Load();
+    const auto palette = Palette::Edited::Load();
+    const auto added = EditedDatabase::Load(L"", L"");
+    const auto again = EditedDatabase::Load(L"", L"");
+    CHECK(Save(L"A", L"X") == EditedDatabase::Outcome::Saved);
+    DatabaseValues fresh;
+    fresh.Name = L"New";
+    CHECK(added->Save(fresh) == EditedDatabase::Outcome::Saved);
+    CHECK(again->Save(fresh) == EditedDatabase::Outcome::NameTaken);
+    CHECK(moved->Remove({L"D", L"A", L"B", L"C"}, 3));
+    CHECK(palette->Save({L"A", L"B", L"", L"D", L"", L"", L"", L""}, 2, true));
+    CHECK(Sort() == L"D;B;X;New");
+    CHECK(moved->Shown() == Names{L"D", L"B", L"X", L"New"});
+    CHECK(moved->HaveOthersChanged());
+    CHECK(Whole(L"General", L"QuickSwitch") == L"X;B;;D;;;;");
+    CHECK(Save(L"X", L"B") == EditedDatabase::Outcome::NameTaken);
 }
 
 TEST_CASE_FIXTURE(Stores, "The list of databases keeps empty names, and an empty list is an empty value") {
-    CHECK(DatabaseList::ReadSort().empty());
-    for (const Names& names : {Names{L"A", L"", L"B"}, Names{L"One"}, Names{}}) {
-        CHECK(WriteSort(names));
-        CHECK(DatabaseList::ReadSort() == names);
-    }
+    CHECK(Shown().empty());
+    List({L"A", L"", L"B"});
+    CHECK(Shown() == Names{L"A", L"", L"B"});
+    for (int left = 3; left > 0; --left) CHECK(Remove(0));
     CHECK(file.Bytes() == "[General]\r\nSort=\r\n");
 }
 
@@ -88,33 +99,25 @@ TEST_CASE_FIXTURE(Stores, "What a list too long to be read whole holds behind th
     constexpr Row rows[] = {{99, 9, "within a name"}, {998, 1, "at the end of a name"}, {997, 1, "behind a separator"}};
     for (const Row& row : rows) {
         CAPTURE(row.cut);
-        const Names names = LongList(20, row.length);
-        IniLib::WriteKeyValue(L"General", L"Sort", Text::Join(names, L';'));
-        Names shown = DatabaseList::ReadSort();
+        Names names = LongList(20, row.length);
+        List(names);
+        auto list = EditedList::Load();
+        Names shown = list->Shown();
         CHECK(shown == Names(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(row.seen)));
-        CHECK(DatabaseList::IsLongerThanShown());
-
-        CHECK(WriteSort(shown));
+        std::ranges::reverse(shown);
+        CHECK(list->Save(shown));
+        std::reverse(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(row.seen));
         CHECK(Sort() == Text::Join(names, L';'));
+        CHECK_FALSE(list->HaveOthersChanged());
 
-        shown.front() = L"New";
-        WriteSort(shown);
-        Names expected = names;
-        expected.front() = L"New";
-        CHECK(Sort() == Text::Join(expected, L';'));
+        // One that only the rest of the list holds is taken as a name, and stays on its button.
+        IniLib::WriteKeyValue(L"General", L"QuickSwitch", names.back() + L";gone");
+        CHECK(Save(L"", names.back().c_str()) == EditedDatabase::Outcome::NameTaken);
+        const auto palette = Palette::Edited::Load();
+        CHECK(palette->Choices(0).back() == names.back());
+        CHECK(palette->Save({palette->Button(0), palette->Button(1), L"", L"", L"", L"", L"", L""}, 0, false));
+        CHECK(Whole(L"General", L"QuickSwitch") == names.back() + L";;;;;;;");
     }
-}
-
-TEST_CASE_FIXTURE(Stores, "A name that an addition pushed behind the cut is not written twice") {
-    const Names names = LongList(9, 99);
-    WriteSort(names);
-    CHECK_FALSE(DatabaseList::IsLongerThanShown());
-    Names held = DatabaseList::ReadSort();
-    held.insert(held.begin(), std::wstring(150, L'n'));
-    WriteSort(held);
-    CHECK(DatabaseList::IsLongerThanShown());
-    WriteSort(held);
-    CHECK(Sort() == Text::Join(held, L';'));
 }
 
 TEST_CASE_FIXTURE(Stores, "Renaming and removing on the buttons goes by whole names, equal neighbours included") {
@@ -135,76 +138,96 @@ TEST_CASE_FIXTURE(Stores, "Renaming and removing on the buttons goes by whole na
     };
     for (const Row& row : rows) {
         IniLib::WriteKeyValue(L"General", L"QuickSwitch", row.before);
-        Commit([&](IniLib::Change& change) { DatabaseList::ReplaceInQuickSwitch(change, row.oldName, row.newName); });
-        CHECK(IniLib::GetKeyValue(L"General", L"Quickswitch") == row.after);
+        IniLib::Change change;
+        Palette::ReplaceInQuickSwitch(*IniLib::ReadFile(), change, row.oldName, row.newName);
+        CHECK(change.Commit());
+        CHECK(Whole(L"General", L"Quickswitch") == row.after);
     }
     IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;;B");
-    CHECK(DatabaseList::ReadQuickSwitch() == Names{L"A", L"", L"B", L"", L"", L"", L"", L""});
+    CHECK(Palette::Buttons(*IniLib::ReadFile()) == Names{L"A", L"", L"B", L"", L"", L"", L"", L""});
 }
 
-TEST_CASE_FIXTURE(Stores,
-                  "Renaming in the list is text replacement; an empty name renames only itself, and can be removed") {
-    struct Row {
-        const wchar_t* before;
-        const wchar_t* oldName;
-        const wchar_t* after;
-    };
-    constexpr Row rows[] = {{L"Sales;Admin;Staff", L"Staff", L"Sales;Admin;New"},
-                            {L"BigSales;Sales", L"Sales", L"BigNew;New"},
-                            {L"A;;B", L"", L"A;New;B"}};
-    for (const Row& row : rows) {
-        IniLib::WriteKeyValue(L"General", L"Sort", row.before);
-        CHECK(Commit([&](IniLib::Change& change) { DatabaseList::RenameInSort(change, row.oldName, L"New"); }));
-        CHECK(Sort() == row.after);
+TEST_CASE_FIXTURE(Stores, "Renaming in the list is text replacement") {
+    const std::pair<Names, const wchar_t*> rows[] = {{{L"Sales", L"Admin", L"Staff"}, L"Sales;Admin;New"},
+                                                     {{L"BigStaff", L"Staff"}, L"BigNew;New"}};
+    for (const auto& [names, after] : rows) {
+        List(names);
+        CHECK(Save(L"Staff", L"New") == EditedDatabase::Outcome::Saved);
+        CHECK(Sort() == after);
     }
-    DeleteDatabase(L"");
-    CHECK(Sort() == L"A;New;B");
 }
 
-TEST_CASE_FIXTURE(Stores, "A record is read from the section of its name") {
-    file.Bytes("[Sales]\r\nPath=C:\\s.dbf\r\nCLY=C:\\c.cly\r\nGLY=C:\\g.gly\r\nStartupMacro=C:\\m.mpr\r\n");
-    const DatabaseRecord record = ExtractInfo(L"Sales");
-    CHECK(record.Path == L"C:\\s.dbf");
-    CHECK(record.ContactLayout == L"C:\\c.cly");
-    CHECK(record.GroupLayout == L"C:\\g.gly");
-    CHECK(record.OpeningMacro == L"C:\\m.mpr");
-    CHECK(ExtractInfo(L"Other").Path.empty());
-}
-
-TEST_CASE_FIXTURE(Stores, "Deleting a database takes its record from both stores") {
+TEST_CASE_FIXTURE(Stores, "Removing a database takes its record from both stores") {
     file.Bytes("[General]\r\nSort=Sales;Other\r\n[Sales]\r\nPath=x\r\nOwn=1\r\n[Other]\r\nPath=y\r\n");
     for (const wchar_t* name : {L"Sales", L"Other"}) UserStore::Set(name, L"Username", L"u");
-    DeleteDatabase(L"Sales");
-    CHECK(file.Bytes() == "[General]\r\nSort=Sales;Other\r\n[Other]\r\nPath=y\r\n");
+    CHECK(Remove(0));
+    CHECK(file.Bytes() == "[General]\r\nSort=Other\r\n[Other]\r\nPath=y\r\n");
     CHECK(UserStore::Get(L"Sales", L"Username", L"gone") == L"gone");
     CHECK(UserStore::Get(L"Other", L"Username") == L"u");
 }
 
-TEST_CASE_FIXTURE(Stores, "A database called like a section of the program takes only its own keys with it") {
+TEST_CASE_FIXTURE(Stores,
+                  "A database called like a section of the program, in whatever spelling, takes its keys alone") {
     file.Bytes("[General]\r\nSort=GENERAL\r\nPath=x\r\nNetLinks=y\r\nUseLocationsFrom=z\r\nQuickSwitch=;;\r\n");
-    DeleteDatabase(L"GENERAL");
-    CHECK(file.Bytes() == "[General]\r\nSort=GENERAL\r\nQuickSwitch=;;\r\n");
+    CHECK(Remove(0));
+    CHECK(file.Bytes() == "[General]\r\nSort=\r\nQuickSwitch=;;\r\n");
 
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"Settings", L"IniLocation"}, {L"Options", L"Language"}, {L"Display", L"Selected"}, {L"Logon", L"Other"}};
-    for (const auto& [section, ownKey] : rows) {
-        UserStore::Set(section, ownKey, L"kept");
-        UserStore::Set(section, L"NoPasswordAtACTStartup", L"1");
-        UserStore::Set(section, L"Password", L"secret");
-        std::wstring name = section;
-        CharUpperW(name.data());
-        DeleteDatabase(name);
-        CHECK(UserStore::Get(section, ownKey) == L"kept");
-        CHECK(UserStore::Get(section, L"Password", L"gone") == L"gone");
-        CHECK(UserStore::Get(section, L"NoPasswordAtACTStartup", L"gone") == L"gone");
+        {L"SETTINGS", L"IniLocation"}, {L"Settings\\", L"IniLocation"}, {L"\\Settings\\\\", L"IniLocation"},
+        {L"Options", L"Language"},     {L"Display", L"Selected"},       {L"Logon", L"Other"},
+        {L"LogonDialog", L"Title"}};
+    for (const auto& [name, ownKey] : rows) {
+        CAPTURE(std::wstring(name));
+        List({name});
+        UserStore::Set(name, ownKey, L"kept");
+        UserStore::Set(name, L"NoPasswordAtACTStartup", L"1");
+        UserStore::Set(name, L"Password", L"secret");
+        CHECK(Remove(0));
+        CHECK(UserStore::Get(name, ownKey) == L"kept");
+        CHECK(UserStore::Get(name, L"Password", L"gone") == L"gone");
+        CHECK(UserStore::Get(name, L"NoPasswordAtACTStartup", L"gone") == L"gone");
     }
+}
+
+TEST_CASE_FIXTURE(Stores, "Databases whose names share a section lose nothing by each other's removal or rename") {
+    for (const wchar_t* name : {L"SALES", L"Sales\\"})
+        for (const bool isRenamed : {false, true}) {
+            CAPTURE(std::wstring(name));
+            List({L"Sales", name});
+            for (const wchar_t* each : {L"Sales", name}) {
+                IniLib::WriteKeyValue(each, L"Path", L"x");
+                UserStore::Set(each, L"Username", L"Chris");
+            }
+            if (isRenamed)
+                CHECK(Save(name, L"New") == EditedDatabase::Outcome::Saved);
+            else
+                CHECK(Remove(1));
+            CHECK(Whole(L"Sales", L"Path") == L"x");
+            CHECK(UserStore::Get(L"Sales", L"Username") == L"Chris");
+        }
+}
+
+TEST_CASE_FIXTURE(Stores, "A change is refused against another file, and against one that has come since") {
+    IniLib::SettingsFile(file.Path() + L"2");
+    auto list = EditedList::Load();
+    const auto palette = Palette::Edited::Load();
+    IniLib::SettingsFile(file.Path());
+    List({L"A"});
+    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;;;;;;;");
+    const std::string before = file.Bytes();
+    CHECK_FALSE(list->Save({}));
+    std::filesystem::copy_file(file.Path(), file.Path() + L"2");
+    IniLib::SettingsFile(file.Path() + L"2");
+    CHECK_FALSE(palette->Save(Names(8), 0, false));
+    CHECK(Whole(L"General", L"QuickSwitch") == L"A;;;;;;;");
+    CHECK(file.Bytes() == before);
 }
 
 TEST_CASE_FIXTURE(Stores, "Log-on values are handed over whole: a missing one is empty, not somebody else's") {
     UserStore::Set(L"Logon", L"Password", L"of another database");
     UserStore::Set(L"Sales", L"Username", L"Chris");
     UserStore::Set(L"Sales", L"UsePassword", L"0");
-    LogonValues::CopyToLogon(L"Sales");
+    LogonHandOver::CopyToLogon(L"Sales");
     CHECK(UserStore::Get(L"Logon", L"Password", L"missing").empty());
     CHECK(UserStore::Get(L"Logon", L"Username") == L"Chris");
     CHECK(UserStore::Get(L"Logon", L"UsePassword") == L"0");
@@ -226,6 +249,8 @@ TEST_CASE_FIXTURE(Stores, "The upgrade moves log-on values to the user, once") {
         CHECK(UserStore::Get(L"Other", L"Username") == L"Pat");
         CHECK(UserStore::Get(L"Other", L"Password") == L"the user's own");
         CHECK(file.Bytes() == "[General]\r\nSort=Sales;Other\r\n[Sales]\r\nPath=x\r\n[Other]\r\n");
+        // No copy is made of a file with log-on values.
+        CHECK_FALSE(std::filesystem::exists(file.Folder() + L"\\Kelmorra"));
     }
 }
 

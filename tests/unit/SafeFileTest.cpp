@@ -1,9 +1,9 @@
 // Writing the settings file as one step, on files that are shared, protected, held open or damaged.
 
 #include "stores/SafeFile.h"
-#include "databases/Database.h"
 #include "stores/Backup.h"
 #include "stores/FileHealth.h"
+#include "stores/IniLib.h"
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"
 #include "support/Wide.h"
@@ -88,20 +88,20 @@ TEST_CASE_FIXTURE(Desk,
                   "A change leaves the bytes of the platform's calls one after another, and nothing beside the file") {
     for (const char* before : {kBefore, "", " \r\n", "[General]\nSort=A"}) {
         CAPTURE(before);
-        const TempFile plain(L"Kelmorra.ini");
+        const TempFile plain(L"Kelmorra.ini"), own(L"Kelmorra.ini");
         plain.Bytes(before);
-        file.Bytes(before);
+        own.Bytes(before);
+        IniLib::SettingsFile(own.Path());
         MakeStepsPlainly(plain.Path());
         CHECK(ChangeOfSteps().Commit());
-        CHECK(file.Bytes() == plain.Bytes());
-        CHECK(IsAlone());
+        CHECK(own.Bytes() == plain.Bytes());
+        CHECK(std::distance(fs::directory_iterator(own.Folder()), fs::directory_iterator()) == 1);
     }
-    const TempFile plain(L"Kelmorra.ini");
-    fs::remove(file.Path());
+    const TempFile plain(L"Kelmorra.ini"), fresh(L"Kelmorra.ini");
     MakeStepsPlainly(plain.Path());
+    IniLib::SettingsFile(fresh.Path());
     CHECK(ChangeOfSteps().Commit());
-    CHECK(file.Bytes() == plain.Bytes());
-    CHECK(IsAlone());
+    CHECK(fresh.Bytes() == plain.Bytes());
 }
 
 TEST_CASE_FIXTURE(Desk, "A change is made as a whole or not at all, and not before it is committed") {
@@ -201,21 +201,73 @@ TEST_CASE_FIXTURE(Desk, "A file that has become empty, unreadable or full of zer
     CHECK(Write());
 }
 
-TEST_CASE_FIXTURE(Desk, "A list that could not be read is never written back, not even when the file is well again") {
+TEST_CASE_FIXTURE(Desk,
+                  "A file that is held or has gone since it was read is unreadable, not empty, and not made anew") {
     file.Bytes(kBefore);
-    std::vector<std::wstring> names;
     {
         const FileHandle held = Hold(file.Path(), 0);
-        names = DatabaseList::ReadSort();
+        CHECK_FALSE(IniLib::ReadFile());
+        CHECK(IniLib::GetKeyValue(L"General", L"Sort", L"none") == L"none");
     }
-    CHECK(names.empty());
-    CHECK_FALSE(DatabaseList::WasRead());
-    IniLib::Change change;
-    DatabaseList::WriteSort(change, {L"C"});
-    CHECK_FALSE(change.Commit());
-    CHECK(file.Bytes() == kBefore);
-    CHECK(DatabaseList::ReadSort().size() == 2);
-    CHECK(DatabaseList::WasRead());
+    CHECK(IniLib::ReadFile());
+    fs::rename(file.Path(), file.Path() + L"2");
+    CHECK_FALSE(IniLib::ReadFile());
+    CHECK_FALSE(Write());
+    CHECK_FALSE(fs::exists(file.Path()));
+    fs::rename(file.Path() + L"2", file.Path());
+    CHECK(Write());
+    // What this run makes is known to it, too.
+    const TempFile other(L"Kelmorra.ini");
+    IniLib::SettingsFile(other.Path());
+    CHECK(IniLib::ReadFile());
+    CHECK(Write());
+    fs::remove(other.Path());
+    CHECK_FALSE(Write());
+}
+
+TEST_CASE_FIXTURE(Desk, "A try that fails on the way is made again from the original, not from what it had changed") {
+    file.Bytes(kBefore);
+    int tries = 0;
+    CHECK(SafeFile::Change(file.Path(), [&](const std::wstring& copy) -> DWORD {
+        CHECK(SafeFile::Read(copy).Bytes == kBefore);
+        REQUIRE(WritePrivateProfileStringA("General", "Sort", "A;B;New", ToAnsi(copy).c_str()));
+        return ++tries < 3 ? ERROR_SHARING_VIOLATION : ERROR_SUCCESS;
+    }));
+    CHECK(IniLib::GetKeyValue(L"General", L"Sort") == L"A;B;New");
+}
+
+TEST_CASE_FIXTURE(Desk,
+                  "A file of two names keeps both, and one whose lock is on its way out is not written unlocked") {
+    file.Bytes(kBefore);
+    const std::wstring second = file.Folder() + L"\\Second.ini";
+    REQUIRE(CreateHardLinkW(second.c_str(), file.Path().c_str(), nullptr));
+    CHECK(Write());
+    CHECK(SafeFile::Read(second).Bytes == file.Bytes());
+    CHECK(IniLib::GetKeyValue(L"A", L"Path") == L"new");
+
+    const std::wstring lock = file.Path() + L".lock";
+    const FileHandle other(
+        CreateFileW(lock.c_str(), GENERIC_WRITE, FILE_SHARE_DELETE, nullptr, CREATE_NEW, 0, nullptr));
+    REQUIRE(DeleteFileW(lock.c_str()));
+    CHECK_FALSE(Write(L"unlocked"));
+    CHECK(IniLib::GetKeyValue(L"A", L"Path") == L"new");
+}
+
+TEST_CASE_FIXTURE(Desk, "A folder whose name the code page lacks is written by its short name, a long path in place") {
+    const std::wstring folder = file.Folder() + L"\\\u0416\u0101\u4e2d";
+    // One more character, and the lock's and the copy's names would be too long for Windows.
+    const std::wstring deep = file.Folder() + L'\\' + std::wstring(200, L'd');
+    for (const std::wstring& place : {folder, deep}) {
+        fs::create_directory(place);
+        const std::wstring path = place + L"\\" + std::wstring(place == deep ? 256 - place.size() : 4, L'k');
+        IniLib::SettingsFile(path);
+        CHECK(IniLib::ReadFile());
+        CHECK(Write());
+        CHECK(IniLib::GetKeyValue(L"A", L"Path") == L"new");
+        CHECK(Write(L"again"));
+        CHECK(SafeFile::Read(path).Bytes == "[A]\r\nPath=again\r\n");
+        fs::remove_all(place);
+    }
 }
 
 TEST_CASE_FIXTURE(Desk, "The first change of a run keeps a copy; five are kept, and none of a file without settings") {
@@ -225,7 +277,7 @@ TEST_CASE_FIXTURE(Desk, "The first change of a run keeps a copy; five are kept, 
     Write(L"first");
     Write(L"second");
     REQUIRE(Backups().size() == 1);
-    CHECK(SafeFile::Read(Backups()[0].wstring()) == kBefore);
+    CHECK(SafeFile::Read(Backups()[0].wstring()).Bytes == kBefore);
     CHECK(Backup::LastGood(file.Path()) == Backups()[0].wstring());
     CHECK_FALSE(Backup::LastGood(file.Folder() + L"\\Other.ini"));
 
@@ -242,7 +294,7 @@ TEST_CASE_FIXTURE(Desk, "The first change of a run keeps a copy; five are kept, 
     }
     fs::remove(Backups().back());
     Backup::KeepOnce(L"another file");
-    file.Bytes(SafeFile::Read(Backups().back().wstring()).value_or(""));
+    file.Bytes(SafeFile::Read(Backups().back().wstring()).Bytes);
     Backup::KeepOnce(file.Path()); // as it was kept in 2004
     CHECK(Backups().size() == 5);
     Backup::KeepOnce(L"another file");
@@ -265,11 +317,15 @@ TEST_CASE_FIXTURE(Desk, "A damaged file is restored from the newest copy that is
     for (const std::string& damaged : {std::string(), std::string(40, '\0')}) {
         file.Bytes(damaged);
         CHECK(FileHealth::IsDamaged(file.Path()));
-        CHECK(Backup::Restore(file.Path()));
+        CHECK(Backup::Restore(file.Path()) == Backup::Restored::Done);
         CHECK(file.Bytes() == kBefore);
         CHECK_FALSE(FileHealth::IsDamaged(file.Path()));
+        if (!damaged.empty()) CHECK(SafeFile::Read(Backups()[1].wstring()).Bytes == damaged);
         CHECK(IsAlone());
     }
+    file.Bytes("[General]\r\nSort=mended\r\n");
+    CHECK(Backup::Restore(file.Path()) == Backup::Restored::NotNeeded);
+    CHECK(file.Bytes() == "[General]\r\nSort=mended\r\n");
     file.Bytes("\xFF\xFE[\0A\0]\0"); // UTF-16, which the platform reads too
     CHECK_FALSE(FileHealth::IsDamaged(file.Path()));
 }
