@@ -113,6 +113,22 @@ void Leave(const ActDesk& desk, bool isKept, const char* bytes) {
 
 } // namespace
 
+TEST_CASE("A folder whose name the code page lacks holds the settings file as any other does, start after start") {
+    ActDesk desk;
+    const std::wstring folder = desk.SettingsFile().substr(0, desk.SettingsFile().rfind(L'\\')) + L"\\\u0416\u0101";
+    REQUIRE(CreateDirectoryW(folder.c_str(), nullptr));
+    UserStore::Set(L"Settings", L"IniLocation", folder + L"\\Kelmorra.ini");
+    const DialogScript script; // fails on any report
+    for (int start = 0; start < 2; ++start) {
+        frmMain window;
+        window.Load();
+        CHECK(window.ListView1.RowCount() == start);
+        desk.AddDatabase(std::to_wstring(start), {});
+        End(window);
+    }
+    CHECK(UserStore::Get(L"Settings", L"IniLocation") == folder + L"\\Kelmorra.ini");
+}
+
 TEST_CASE("A settings file that is empty or away is restored or not, as the user says, unless somebody mends it") {
     struct Row {
         const char* bytes;
