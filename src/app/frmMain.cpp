@@ -21,7 +21,7 @@ namespace {
 
 constexpr UINT kActIsClosing = WM_APP + 1;
 constexpr UINT kCheckFiles = WM_APP + 2;
-constexpr UINT kFileIsMissing = WM_APP + 3;
+constexpr UINT kFileLookedFor = WM_APP + 3;
 constexpr unsigned kCloseRetryMilliseconds = 50;
 
 // The design size, which is the minimum too, in twips.
@@ -65,7 +65,7 @@ BOOL CALLBACK CancelNext(HWND window, LPARAM state) {
 
 } // namespace
 
-frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), pathCheck_(kFileIsMissing) {}
+frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), pathCheck_(kFileLookedFor) {}
 
 // A start that is refused, and one that only shows the palette, need none of the controls.
 bool frmMain::Form_Initialize() try { return StartSteps(); } catch (...) {
@@ -88,7 +88,7 @@ void frmMain::CheckFilesLater() { PostMessageW(Handle(), kCheckFiles, 0, 0); }
 bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
     case kCheckFiles: CheckFiles(); return true;
-    case kFileIsMissing: FileIsMissing(static_cast<int>(wParam), static_cast<long>(lParam)); return true;
+    case kFileLookedFor: NoteFile(wParam, static_cast<long>(lParam)); return true;
     case kActIsClosing:
         Program().ActIsClosing = true;
         SilenceMessages(true);
@@ -209,7 +209,11 @@ void frmMain::Form_Unload() {
 std::wstring frmMain::CloseActForRestart() const {
     constexpr short kCloseAct = 150; // ACT!'s own number
     std::wstring database = Program().Application.GetOpenDBName();
-    Program().Application.Command(kCloseAct);
+    try {
+        Program().Application.Command(kCloseAct);
+    } catch (const Error& error) {
+        if (error.Number != BasicError::ServerUnavailable) throw; // gone is what it was to be
+    }
     return database;
 }
 
@@ -228,7 +232,11 @@ void frmMain::Timer1_Timer() {
 
 void frmMain::ActEvent1_OnActUserWantsToClose() {
     // Only the answer belongs into the event: nothing may be released while the component is still in its call.
-    ActEvent1.AnswerUserWantsToClose(true);
+    try {
+        ActEvent1.AnswerUserWantsToClose(true);
+    } catch (const Error&) {
+        // Whatever becomes of the answer, the program does not outlive its ACT!.
+    }
     if (Program().RestartAct) return;
     PostMessageW(Handle(), kActIsClosing, 0, 0);
 }

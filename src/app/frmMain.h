@@ -17,6 +17,7 @@
 #include "ui/Timer.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -98,6 +99,7 @@ private:
         std::wstring Layouts;
         std::wstring Macros;
         std::wstring OpenDatabase;
+        std::optional<Error> Failure; ///< the first of these, whose answers are empty
     };
 
     // The window and its life (frmMain.cpp)
@@ -139,8 +141,10 @@ private:
     void ShowFirstWindow();
 
     // The list (frmMainList.cpp)
-    ActPlaces AskPlaces() const;
-    bool FillList();
+    static ActPlaces AskPlaces();
+    /// False, with the rows as they were, when the list cannot be read. ReloadList throws the failure of ACT!'s answers
+    /// once the rows are there.
+    bool FillList(const ActPlaces& places);
     bool ReloadList();
     void CollectOpenNames() const;
     static std::vector<std::wstring> CellsOf(const std::wstring& name, const DatabaseRecord& record,
@@ -161,7 +165,7 @@ private:
     bool FindKey(int key);
     void CheckFilesLater();
     void CheckFiles();
-    void FileIsMissing(int row, long number);
+    void NoteFile(WPARAM answer, long number);
     std::wstring ListView1_Tip(int row);
 
     // Opening (frmMainOpen.cpp)
@@ -196,9 +200,10 @@ private:
     ActEvent ActEvent1;
     clsToolbarIcon toolbarIcon_;
     PathCheck pathCheck_;
-    long checkNumber_ = 0;            ///< of the last check of the rows' files
-    std::vector<std::wstring> paths_; ///< of the database files, by row
-    std::vector<char> isMissing_;     ///< by row
+    long checkNumber_ = 0;              ///< of the last check of the rows' files
+    bool checkAgain_ = false;           ///< the rows have changed while their files were looked for
+    std::vector<std::wstring> paths_;   ///< of the database files, by row
+    std::vector<std::wstring> missing_; ///< those of them that were not there when they were last looked for
     bool isFinding_ = false;
     int ticks_ = 0; ///< of Timer1
     int sortColumn_ = -1;

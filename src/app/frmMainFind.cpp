@@ -2,11 +2,14 @@
 
 #include "app/frmMain.h"
 
+#include "databases/NameList.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "stores/IniLib.h"
 #include "support/Shell.h"
 #include "support/Text.h"
+
+#include <utility>
 
 bool frmMain::Form_KeyDown(const KeyPress& press) {
     if (press.Ctrl && !press.Alt && !press.Shift && press.Key >= '1' && press.Key < '1' + static_cast<int>(ViewCount)) {
@@ -71,23 +74,29 @@ void frmMain::CheckFiles() {
     RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // before anything takes time
     ListView1.AccessibleName(LangText[90]);
     ListView1.TellNotes();
-    for (int row = 0; row < ListView1.RowCount(); ++row) ListView1.Fade(row, false);
-    isMissing_.assign(paths_.size(), 0);
     checkNumber_ = pathCheck_.Start(Handle(), paths_);
+    checkAgain_ = checkNumber_ == 0;
     PrepareShell();
 }
 
-void frmMain::FileIsMissing(int row, long number) {
-    if (number != checkNumber_ || row >= ListView1.RowCount() || paths_[static_cast<size_t>(row)].empty()) return;
-    isMissing_.at(static_cast<size_t>(row)) = 1;
-    ListView1.Fade(row, true);
+void frmMain::NoteFile(WPARAM answer, long number) {
+    if (answer == PathCheck::Done) {
+        if (std::exchange(checkAgain_, false)) CheckFilesLater();
+        return;
+    }
+    const size_t row = PathCheck::Index(answer);
+    if (number != checkNumber_ || row >= paths_.size() || paths_[row].empty()) return;
+    const bool isMissing = PathCheck::IsMissing(answer);
+    std::erase(missing_, paths_[row]);
+    if (isMissing) missing_.push_back(paths_[row]);
+    ListView1.Fade(static_cast<int>(row), isMissing);
 }
 
 std::wstring frmMain::ListView1_Tip(int row) {
     constexpr int kPathColumn = 4;
     const auto stored = IniLib::ReadFile(IniLib::SettingsFile(), 0); // nobody waits for a tip
     const DatabaseRecord record = stored ? ExtractInfo(*stored, ListView1.Cell(row, 0)) : DatabaseRecord();
-    const bool isMissing = static_cast<size_t>(row) < isMissing_.size() && isMissing_[static_cast<size_t>(row)] != 0;
+    const bool isMissing = NameList::Has(missing_, record.Path);
     std::wstring tip = isMissing ? Translated(MoreText::FileMissing) + L"\r\n" + record.Path : std::wstring();
     const auto add = [&](int column, const std::wstring& whole) {
         if (whole.empty() || (whole == ListView1.Cell(row, column) && !ListView1.IsCut(row, column))) return;

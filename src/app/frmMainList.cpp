@@ -22,17 +22,25 @@ std::wstring ShownName(const std::wstring& path, const std::wstring& actFolder) 
 
 } // namespace
 
-frmMain::ActPlaces frmMain::AskPlaces() const {
+frmMain::ActPlaces frmMain::AskPlaces() {
     const ProgramState& program = Program();
-    return {program.Preferences.GetDefaultLocation(DefaultLocation::Layouts),
-            program.Preferences.GetDefaultLocation(DefaultLocation::Macros), program.Application.GetOpenDBName()};
+    ActPlaces places;
+    const auto ask = [&](std::wstring& answer, auto question) {
+        try {
+            answer = question();
+        } catch (const Error& error) {
+            if (!places.Failure) places.Failure = error;
+        }
+    };
+    ask(places.Layouts, [&] { return program.Preferences.GetDefaultLocation(DefaultLocation::Layouts); });
+    ask(places.Macros, [&] { return program.Preferences.GetDefaultLocation(DefaultLocation::Macros); });
+    ask(places.OpenDatabase, [&] { return program.Application.GetOpenDBName(); });
+    return places;
 }
 
-/// False, with the rows as they were, when the list cannot be read.
-bool frmMain::FillList() {
+bool frmMain::FillList(const ActPlaces& places) {
     const auto stored = IniLib::ReadFile();
     if (!stored) return false;
-    const ActPlaces places = AskPlaces();
     Program().DatabaseNames = DatabaseList::Read(*stored).shown;
     ListView1.Clear();
     for (const std::wstring& name : Program().DatabaseNames) {
@@ -56,6 +64,8 @@ std::vector<std::wstring> frmMain::CellsOf(const std::wstring& name, const Datab
 void frmMain::MarkRow(int row, const std::wstring& path, const ActPlaces& places) {
     paths_.resize(static_cast<size_t>(ListView1.RowCount()));
     paths_[static_cast<size_t>(row)] = path;
+    checkNumber_ = 0; // what is being looked for now may belong to another row
+    ListView1.Fade(row, NameList::Has(missing_, path));
     const bool isOpen = Text::SamePath(path, places.OpenDatabase);
     ListView1.RowColor(row, isOpen ? kOpenInAct : CLR_DEFAULT);
     ListView1.Note(row, isOpen ? Translated(MoreText::OpenInAct) : std::wstring());
@@ -69,10 +79,12 @@ void frmMain::CollectOpenNames() const {
 }
 
 bool frmMain::ReloadList() {
-    if (!FillList()) return false;
+    const ActPlaces places = AskPlaces();
+    if (!FillList(places)) return false;
     listLoaded_ = true;
     const auto selected = Text::WholeNumber(UserStore::Get(Keys::Display, Keys::Selected));
     ListView1.Select(static_cast<int>(selected.value_or(-1)));
+    if (places.Failure) throw Error(*places.Failure);
     return true;
 }
 
@@ -91,6 +103,7 @@ void frmMain::ReplaceRow(const std::wstring& name, const DatabaseRecord& record)
     if (const auto stored = IniLib::ReadFile()) Program().DatabaseNames = DatabaseList::Read(*stored).shown;
     ListView1.Select(row);
     CheckFilesLater();
+    if (places.Failure) throw Error(*places.Failure);
 }
 
 int frmMain::ColumnText(int column) { return kColumnTitleRows[column]; }

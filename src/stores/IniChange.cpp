@@ -42,21 +42,21 @@ Change::Change() : Change(SettingsFile()) {}
 
 Change::Change(Origin origin) : origin_(std::move(origin)), fileName_(origin_->Path) {}
 
-void Change::Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value) {
+void Change::Add(std::wstring_view section, std::optional<std::string> key, std::optional<std::string> value) {
     if (section.empty()) isRefused_ = true;
     steps_.push_back({ToAnsi(section), std::move(key), std::move(value)});
 }
 
-void Change::WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+void Change::WriteKeyValue(std::wstring_view section, std::wstring_view key, std::wstring_view value) {
     std::string keyBytes = ToAnsi(key);
     std::string bytes = Quoted(ToAnsi(value));
     if (keyBytes.size() + bytes.size() > LongestLine) isRefused_ = true;
     Add(section, std::move(keyBytes), std::move(bytes));
 }
 
-void Change::DeleteKey(const std::wstring& section, const std::wstring& key) { Add(section, ToAnsi(key), {}); }
+void Change::DeleteKey(std::wstring_view section, std::wstring_view key) { Add(section, ToAnsi(key), {}); }
 
-void Change::DeleteSection(const std::wstring& section) { Add(section, {}, {}); }
+void Change::DeleteSection(std::wstring_view section) { Add(section, {}, {}); }
 
 DWORD Change::Make(const std::wstring& copy) const try {
     if (const DWORD refusal = Refusal(copy)) return refusal;

@@ -23,9 +23,9 @@ public:
     /// not there and has come since.
     explicit Change(Origin origin);
 
-    void WriteKeyValue(const std::wstring& section, const std::wstring& key, const std::wstring& value);
-    void DeleteKey(const std::wstring& section, const std::wstring& key);
-    void DeleteSection(const std::wstring& section);
+    void WriteKeyValue(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+    void DeleteKey(std::wstring_view section, std::wstring_view key);
+    void DeleteSection(std::wstring_view section);
     /// Has steps added when the change is made, of the file as it is then, while other writers are kept out: for lists,
     /// of which others change other elements. False: the change is not made. Called again when a try has failed.
     using Build = std::function<bool(const Reading& stored, Change& change)>;
@@ -45,7 +45,7 @@ private:
         std::string section;
         std::optional<std::string> key, value; ///< none: the section, or the key, goes
     };
-    void Add(const std::wstring& section, std::optional<std::string> key, std::optional<std::string> value);
+    void Add(std::wstring_view section, std::optional<std::string> key, std::optional<std::string> value);
     /// These give an error code.
     unsigned long Make(const std::wstring& copy) const;
     unsigned long Refusal(const std::wstring& copy) const;

@@ -50,7 +50,7 @@ std::optional<std::string> AnsiName(const std::wstring& path) {
     return carried(ShortName(path));
 }
 
-std::optional<std::wstring> Value(const std::wstring& path, const std::wstring& section, const std::wstring& key) {
+std::optional<std::wstring> Value(const std::wstring& path, std::wstring_view section, std::wstring_view key) {
     // A missing key gives back whichever text is offered instead; a present one cannot equal both.
     std::string value;
     for (const char* otherwise : {"0", "1"}) {
@@ -60,7 +60,7 @@ std::optional<std::wstring> Value(const std::wstring& path, const std::wstring& 
     return std::nullopt;
 }
 
-std::vector<std::wstring> Keys(const std::wstring& path, const std::wstring& section) {
+std::vector<std::wstring> Keys(const std::wstring& path, std::wstring_view section) {
     constexpr DWORD kFirstSize = 1000;
     for (DWORD size = kFirstSize;; size *= 2) {
         const std::string keys = Read(path, ToAnsi(section).c_str(), nullptr, "", size);

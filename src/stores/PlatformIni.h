@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The platform's private-profile calls, which take texts and paths in the ANSI code page.
@@ -15,10 +16,10 @@ std::wstring FullPath(const std::wstring& fileName);
 std::optional<std::string> AnsiName(const std::wstring& path);
 
 /// The value of a key, up to 32767 bytes; nothing when the key is missing.
-std::optional<std::wstring> Value(const std::wstring& path, const std::wstring& section, const std::wstring& key);
+std::optional<std::wstring> Value(const std::wstring& path, std::wstring_view section, std::wstring_view key);
 
 /// The names of a section's keys in the file's order.
-std::vector<std::wstring> Keys(const std::wstring& path, const std::wstring& section);
+std::vector<std::wstring> Keys(const std::wstring& path, std::wstring_view section);
 
 /// What the call returns for the names of all sections and a buffer of `size` bytes: each with a zero behind, the last
 /// one cut where the buffer ends.

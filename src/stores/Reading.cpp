@@ -27,18 +27,18 @@ Reading::Reading(Origin origin, std::string bytes) : origin_(std::move(origin)) 
         text_ = ToWide(bytes);
 }
 
-std::wstring Reading::Value(const std::wstring& section, const std::wstring& key) const {
+std::wstring Reading::Value(std::wstring_view section, std::wstring_view key) const {
     return Shown(Whole(section, key).value_or(L""));
 }
 
-std::optional<std::wstring> Reading::Whole(const std::wstring& section, const std::wstring& key) const {
+std::optional<std::wstring> Reading::Whole(std::wstring_view section, std::wstring_view key) const {
     if (section.empty() || key.empty()) return std::nullopt;
     if (!bytes_.empty()) return AskPlatform(section, key);
     const auto found = IniText::Find(text_, section, key);
     return found ? std::optional<std::wstring>(*found) : std::nullopt;
 }
 
-Reading::Values Reading::Section(const std::wstring& section) const {
+Reading::Values Reading::Section(std::wstring_view section) const {
     if (section.empty()) return {};
     if (bytes_.empty()) return IniText::Section(text_, section);
     Values values;
@@ -53,7 +53,7 @@ bool Reading::MayHold(std::initializer_list<std::wstring_view> words) const {
            std::ranges::any_of(words, [&](std::wstring_view word) { return Text::ContainsNoCase(text_, word); });
 }
 
-std::optional<std::wstring> Reading::AskPlatform(const std::wstring& section, const std::wstring& key) const {
+std::optional<std::wstring> Reading::AskPlatform(std::wstring_view section, std::wstring_view key) const {
     auto value = PlatformIni::Value(origin_.Path, section, key);
     RequireUnchanged();
     return value;

@@ -27,18 +27,18 @@ public:
     const Origin& From() const { return origin_; }
 
     /// A value, cut to what is shown of one; "" when the key is missing.
-    std::wstring Value(const std::wstring& section, const std::wstring& key) const;
+    std::wstring Value(std::wstring_view section, std::wstring_view key) const;
     /// The value of a key without the cut; nothing when the key is missing. For those who write a long value back and
     /// must not lose its end. (Of a file in UTF-16 the platform reads 32767 bytes.) Throws Error (FileNotAccessible)
     /// when only the platform can read the file and it has changed since.
-    std::optional<std::wstring> Whole(const std::wstring& section, const std::wstring& key) const;
+    std::optional<std::wstring> Whole(std::wstring_view section, std::wstring_view key) const;
     /// Every key of a section with its whole value, in the file's order.
-    Values Section(const std::wstring& section) const;
+    Values Section(std::wstring_view section) const;
     /// False when none of these words (plain ASCII) stands anywhere in the file, in whatever letter case.
     bool MayHold(std::initializer_list<std::wstring_view> words) const;
 
 private:
-    std::optional<std::wstring> AskPlatform(const std::wstring& section, const std::wstring& key) const;
+    std::optional<std::wstring> AskPlatform(std::wstring_view section, std::wstring_view key) const;
     void RequireUnchanged() const;
 
     Origin origin_;

@@ -16,7 +16,7 @@ constexpr size_t kLongestKeyName = 256;     // 255 characters and the zero
 
 std::wstring ApplicationPath() { return std::wstring(UserStore::Root) + L'\\' + Application::Title; }
 
-std::wstring SectionPath(const std::wstring& section) { return ApplicationPath() + L'\\' + section; }
+std::wstring SectionPath(std::wstring_view section) { return ApplicationPath().append(L"\\").append(section); }
 
 RegistryKey Open(const std::wstring& path, REGSAM access) {
     RegistryKey key;
@@ -59,8 +59,8 @@ LSTATUS DeleteTree(HKEY parent, const wchar_t* path) {
 
 namespace UserStore {
 
-bool IsSameSection(const std::wstring& one, const std::wstring& other) {
-    const auto keys = [](const std::wstring& name) {
+bool IsSameSection(std::wstring_view one, std::wstring_view other) {
+    const auto keys = [](std::wstring_view name) {
         std::vector<std::wstring> path = Text::Split(name, L'\\');
         std::erase(path, std::wstring());
         return path;
@@ -68,25 +68,26 @@ bool IsSameSection(const std::wstring& one, const std::wstring& other) {
     return std::ranges::equal(keys(one), keys(other), &Text::EqualNoCase);
 }
 
-std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText) {
-    if (section.empty()) return defaultText;
+std::wstring Get(std::wstring_view section, std::wstring_view key, std::wstring_view defaultText) {
+    if (section.empty()) return std::wstring(defaultText);
     const RegistryKey opened = Open(SectionPath(section), KEY_QUERY_VALUE);
-    if (!opened) return defaultText;
+    if (!opened) return std::wstring(defaultText);
+    const std::wstring name(key);
     DWORD type = REG_NONE;
     DWORD size = 0;
-    if (RegQueryValueExW(opened.Get(), key.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ)
-        return defaultText;
+    if (RegQueryValueExW(opened.Get(), name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ)
+        return std::wstring(defaultText);
     std::wstring text((size + 1) / kCharacterSize, L'\0');
     size = static_cast<DWORD>(text.size()) * kCharacterSize;
     BYTE* const bytes = reinterpret_cast<BYTE*>(text.data());
-    if (RegQueryValueExW(opened.Get(), key.c_str(), nullptr, nullptr, bytes, &size) != ERROR_SUCCESS)
-        return defaultText;
+    if (RegQueryValueExW(opened.Get(), name.c_str(), nullptr, nullptr, bytes, &size) != ERROR_SUCCESS)
+        return std::wstring(defaultText);
     // Exactly one zero ends the value, if any: a cipher text may end in zeros of its own.
     if (text.ends_with(L'\0')) text.pop_back();
     return text;
 }
 
-std::vector<std::pair<std::wstring, std::wstring>> GetSection(const std::wstring& section) {
+std::vector<std::pair<std::wstring, std::wstring>> GetSection(std::wstring_view section) {
     std::vector<std::pair<std::wstring, std::wstring>> values;
     const RegistryKey opened = section.empty() ? RegistryKey() : Open(SectionPath(section), KEY_QUERY_VALUE);
     if (!opened) return values;
@@ -100,24 +101,25 @@ std::vector<std::pair<std::wstring, std::wstring>> GetSection(const std::wstring
     return values;
 }
 
-bool Set(const std::wstring& section, const std::wstring& key, const std::wstring& text) {
+bool Set(std::wstring_view section, std::wstring_view key, std::wstring_view text) {
     if (section.empty()) return false;
     RegistryKey opened;
     if (RegCreateKeyExW(HKEY_CURRENT_USER, SectionPath(section).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                         KEY_SET_VALUE, nullptr, opened.Receive(), nullptr) != ERROR_SUCCESS)
         return false;
-    const DWORD size = static_cast<DWORD>(text.size() + 1) * kCharacterSize;
-    return RegSetValueExW(opened.Get(), key.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), size) ==
+    const std::wstring name(key), value(text);
+    const DWORD size = static_cast<DWORD>(value.size() + 1) * kCharacterSize;
+    return RegSetValueExW(opened.Get(), name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()), size) ==
            ERROR_SUCCESS;
 }
 
-void Delete(const std::wstring& section, const std::wstring& key) {
+void Delete(std::wstring_view section, std::wstring_view key) {
     if (section.empty()) return;
     if (const RegistryKey opened = Open(SectionPath(section), KEY_SET_VALUE))
-        RegDeleteValueW(opened.Get(), key.c_str());
+        RegDeleteValueW(opened.Get(), std::wstring(key).c_str());
 }
 
-void DeleteSection(const std::wstring& section) {
+void DeleteSection(std::wstring_view section) {
     if (section.empty()) return;
     const std::wstring path = SectionPath(section);
     RegistryKey opened = Open(path, KEY_READ | KEY_WRITE);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,22 +14,22 @@ namespace UserStore {
 inline constexpr wchar_t Root[] = L"Software\\VB and VBA Program Settings";
 
 /// True when two names are those of one section: letter case does not count, nor does a "\" too many.
-bool IsSameSection(const std::wstring& one, const std::wstring& other);
+bool IsSameSection(std::wstring_view one, std::wstring_view other);
 
 /// The stored text, which may be empty; `defaultText` when there is none or the value is not a text.
-std::wstring Get(const std::wstring& section, const std::wstring& key, const std::wstring& defaultText = {});
+std::wstring Get(std::wstring_view section, std::wstring_view key, std::wstring_view defaultText = {});
 
 /// Every text of a section by its key.
-std::vector<std::pair<std::wstring, std::wstring>> GetSection(const std::wstring& section);
+std::vector<std::pair<std::wstring, std::wstring>> GetSection(std::wstring_view section);
 
 /// Stores a text; false when it could not be written.
-bool Set(const std::wstring& section, const std::wstring& key, const std::wstring& text);
+bool Set(std::wstring_view section, std::wstring_view key, std::wstring_view text);
 
 /// Removes one value, if it is there.
-void Delete(const std::wstring& section, const std::wstring& key);
+void Delete(std::wstring_view section, std::wstring_view key);
 
 /// Removes a section's values and its key. Sections whose names begin with this one and a "\" lie below it and stay.
-void DeleteSection(const std::wstring& section);
+void DeleteSection(std::wstring_view section);
 
 /// Removes every section of the application.
 void DeleteAll();

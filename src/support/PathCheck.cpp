@@ -20,11 +20,13 @@ std::atomic<bool> isRunning;
 DWORD WINAPI Look(void* parameter) {
     {
         const std::unique_ptr<Job> job(static_cast<Job*>(parameter));
-        for (size_t index = 0; index < job->Paths.size(); ++index)
-            if (GetFileAttributesW(job->Paths[index].c_str()) == INVALID_FILE_ATTRIBUTES)
-                PostMessageW(job->Window, job->Message, index, job->Number);
+        for (size_t index = 0; index < job->Paths.size(); ++index) {
+            const bool isMissing = GetFileAttributesW(job->Paths[index].c_str()) == INVALID_FILE_ATTRIBUTES;
+            PostMessageW(job->Window, job->Message, index * 2 + (isMissing ? 1 : 0), job->Number);
+        }
+        isRunning = false;
+        PostMessageW(job->Window, job->Message, PathCheck::Done, job->Number);
     }
-    isRunning = false;
     return 0;
 }
 
