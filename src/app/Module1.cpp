@@ -12,7 +12,6 @@ bool Create_object() try {
     program.Application.OpenFile(L"");
     program.Views = program.Application.Views();
     program.Preferences = program.Application.Preferences();
-    CoFreeUnusedLibrariesEx(0, 0); // what has only helped to connect, almost a megabyte under Wine
     return true;
 } catch (...) {
     ErrorReport("Module1: Sub Create_object");

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <ranges>
 
 namespace {
 
@@ -36,15 +37,24 @@ bool IsMessageBox(HWND window) {
     return std::wcscmp(className, L"#32770") == 0;
 }
 
+/// What is to be closed before the main window.
+struct Cancelling {
+    const Form* MainWindow;
+    HWND BoxAtClose; ///< of message boxes this one alone, unless ACT! is closing: later ones ask their user something
+    bool Found;
+};
+
 /// Ends one dialog, message box or common dialog of this thread as by Cancel; false when `window` is none in use.
-bool CancelDialog(HWND window, const Form& mainWindow) {
-    if (window == mainWindow.Handle() || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
+bool CancelDialog(HWND window, const Cancelling& cancel) {
+    if (window == cancel.MainWindow->Handle() || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
     if (Form* form = Form::FromWindow(window)) {
         form->CloseAsByUser();
-        if (!form->Unloaded()) form->Unload(); // one that cannot be cancelled
+        // One that cannot be cancelled; where a question is open the next tick looks again.
+        if (!form->Unloaded() && IsWindowEnabled(window)) form->Unload();
         return true;
     }
     if (!IsMessageBox(window)) return false;
+    if (!Program().ActIsClosing && window != cancel.BoxAtClose) return true;
     if (GetDlgItem(window, IDNO))
         PostMessageW(window, WM_COMMAND, IDNO, 0); // has no Cancel
     else
@@ -52,15 +62,10 @@ bool CancelDialog(HWND window, const Form& mainWindow) {
     return true;
 }
 
-struct CancelState {
-    const Form* mainWindow;
-    bool found;
-};
-
 BOOL CALLBACK CancelNext(HWND window, LPARAM state) {
-    auto& cancel = *reinterpret_cast<CancelState*>(state);
-    cancel.found = CancelDialog(window, *cancel.mainWindow);
-    return !cancel.found;
+    auto& cancel = *reinterpret_cast<Cancelling*>(state);
+    cancel.Found = CancelDialog(window, cancel);
+    return !cancel.Found;
 }
 
 } // namespace
@@ -97,10 +102,7 @@ bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& res
         return true;
     case WM_QUERYENDSESSION: result = TRUE; return true;
     case WM_ENDSESSION:
-        if (wParam) {
-            SilenceMessages(true);
-            SaveLayout();
-        }
+        if (wParam) EndSession();
         return true;
     default: return false;
     }
@@ -243,12 +245,34 @@ void frmMain::ActEvent1_OnActUserWantsToClose() {
 
 void frmMain::tmrClose_Timer() {
     if (Busy::Now()) return;
-    CancelState cancel{this, false};
+    Cancelling cancel{this, boxAtClose_, false};
     EnumThreadWindows(GetCurrentThreadId(), &CancelNext, reinterpret_cast<LPARAM>(&cancel));
     // A cancelled dialog returns to its caller first; the next tick looks again.
-    if (cancel.found || !IsWindowEnabled(Handle())) return;
+    if (cancel.Found || !IsWindowEnabled(Handle())) return;
     tmrClose.Interval(0);
     Unload();
+}
+
+void frmMain::Form_CloseBox() {
+    const auto isOpen = [this](const Form* form) { return form != this && !form->Unloaded(); };
+    if (IsWindowEnabled(Handle()) && std::ranges::none_of(Form::Loaded(), isOpen)) return Unload();
+    // Something is open in front of it: that is left first, one after another.
+    HWND front = GetLastActivePopup(Handle());
+    boxAtClose_ = front && IsMessageBox(front) ? front : nullptr;
+    tmrClose.Interval(kCloseRetryMilliseconds);
+}
+
+/// Windows waits for nothing behind this: all is saved before it returns, and nobody is asked.
+void frmMain::EndSession() {
+    SilenceMessages(true);
+    EndMenu();
+    for (const std::vector<Form*> forms = Form::Loaded(); Form * form : forms | std::views::reverse)
+        if (form != this && !form->Unloaded()) {
+            Program().QuickSwitchHandled = true; // the palette brings no window back
+            form->CloseAsByUser();
+            form->Unload();
+        }
+    SaveLayout();
 }
 
 void frmMain::EndIfInvisible() {

@@ -107,6 +107,7 @@ private:
     void Form_Load() override;
     void Form_Resize() override;
     void Form_Unload() override;
+    void Form_CloseBox() override;
     bool Form_KeyDown(const KeyPress& press) override;
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
     void SetCaptions();
@@ -116,6 +117,7 @@ private:
     void ActEvent1_OnActUserWantsToClose();
     void Timer1_Timer();
     void tmrClose_Timer();
+    void EndSession();
     std::wstring CloseActForRestart() const;
     void WaitForRestart(const std::wstring& database);
     void EndIfInvisible();
@@ -205,7 +207,8 @@ private:
     std::vector<std::wstring> paths_;   ///< of the database files, by row
     std::vector<std::wstring> missing_; ///< those of them that were not there when they were last looked for
     bool isFinding_ = false;
-    int ticks_ = 0; ///< of Timer1
+    HWND boxAtClose_ = nullptr; ///< the message box that was open when the window was told to close
+    int ticks_ = 0;             ///< of Timer1
     int sortColumn_ = -1;
     bool sortDescending_ = false;
     bool reload_ = false;     ///< Form_Load runs again after a change of language

@@ -77,6 +77,7 @@ bool frmMain::OpenDatabase(const std::wstring& path) {
         else
             MsgBox(LangText[106]);
     }
+    ToFront();
     ListView1.SetFocus();
     try {
         PutDefaultsBack();

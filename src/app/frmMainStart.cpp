@@ -91,6 +91,7 @@ bool frmMain::ClaimInstance() {
     short language = StoredLanguage();
     modLangues::Init_Language(language);
     MsgBox(language == 0 ? kAlreadyRunning : LangText[7]);
+    SingleInstance::ShowOther();
     return false;
 }
 

@@ -12,6 +12,8 @@
 #include "support/Text.h"
 #include "ui/CommonDialogs.h"
 
+#include <utility>
+
 namespace {
 
 enum Tab { General, Locations, Logon };
@@ -115,10 +117,12 @@ void frmProperties::ShowLenders() {
 }
 
 void frmProperties::Form_Activate() {
-    if (Program().AskForUsername) {
+    if (!Program().AskForUsername) return;
+    if (!std::exchange(isLogonShown_, true)) {
+        SkipTabCheck_ = true;
         ShowTab(Tab::Logon);
-        txtUsername.SetFocus();
     }
+    txtUsername.SetFocus();
 }
 
 void frmProperties::ShowTab(int tab) {

@@ -74,6 +74,7 @@ private:
     bool Form_Initialize() override;
     void Form_Load() override;
     void Form_Activate() override;
+    bool Form_KeyDown(const KeyPress& press) override { return mstOptions.TakesKey(press); }
     void SetCaptions();
     void ShowValues();
     void ShowLenders();
@@ -98,5 +99,6 @@ private:
     bool isNew_ = false;
     bool cancelled_ = true;
     bool SkipTabCheck_ = false;
+    bool isLogonShown_ = false; ///< for the user name that is asked for
     bool NameValid_ = false;
 };

@@ -26,6 +26,7 @@ enum class MoreText {
     CannotRead,
     NotSaved,
     OrderNotSaved,
+    PaletteMenu,
 };
 
 /// A text in the current language.

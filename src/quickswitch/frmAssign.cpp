@@ -126,6 +126,10 @@ void frmAssign::ShowPage(int tab) {
 
 void frmAssign::mstAssign_Click(int) { ShowPage(mstAssign.Tab()); }
 
+void frmAssign::picSample_Click(int scheme) {
+    for (OptionButton& option : optColor) option.Value(option.Index() == scheme);
+}
+
 void frmAssign::cmdOK_Click() try {
     std::vector<std::wstring> names;
     for (const ComboBox& list : cboDB) names.push_back(list.SelectedText());

@@ -32,11 +32,16 @@ public:
 
     Frame fraColors{this, L"fraColors", {300, 600, 7140, 4110}};
     ControlArray<OptionButton, Artwork::SchemeCount> optColor{this, fraColors, L"optColor", OptionPlaces(), nullptr};
-    PictureBox picSample0{this, fraColors, L"picSample", SamplePlace(0), 0, &frmAssign::DrawSample};
-    PictureBox picSample1{this, fraColors, L"picSample", SamplePlace(1), 1, &frmAssign::DrawSample};
-    PictureBox picSample2{this, fraColors, L"picSample", SamplePlace(2), 2, &frmAssign::DrawSample};
-    PictureBox picSample3{this, fraColors, L"picSample", SamplePlace(3), 3, &frmAssign::DrawSample};
-    PictureBox picSample4{this, fraColors, L"picSample", SamplePlace(4), 4, &frmAssign::DrawSample};
+    PictureBox picSample0{
+        this, fraColors, L"picSample", SamplePlace(0), 0, &frmAssign::DrawSample, &frmAssign::picSample_Click};
+    PictureBox picSample1{
+        this, fraColors, L"picSample", SamplePlace(1), 1, &frmAssign::DrawSample, &frmAssign::picSample_Click};
+    PictureBox picSample2{
+        this, fraColors, L"picSample", SamplePlace(2), 2, &frmAssign::DrawSample, &frmAssign::picSample_Click};
+    PictureBox picSample3{
+        this, fraColors, L"picSample", SamplePlace(3), 3, &frmAssign::DrawSample, &frmAssign::picSample_Click};
+    PictureBox picSample4{
+        this, fraColors, L"picSample", SamplePlace(4), 4, &frmAssign::DrawSample, &frmAssign::picSample_Click};
 
     CommandButton cmdOK{this, L"cmdOK", {5040, 4980, 1215, 345}, &frmAssign::cmdOK_Click, Default};
     CommandButton cmdCancel{this, L"cmdCancel", {6405, 4980, 1215, 345}, &frmAssign::cmdCancel_Click, Cancel};
@@ -44,10 +49,12 @@ public:
 private:
     bool Form_Initialize() override;
     void Form_Load() override;
+    bool Form_KeyDown(const KeyPress& press) override { return mstAssign.TakesKey(press); }
     void SetCaptions();
     void SetButtonCaption(size_t index);
     void FillLists();
     void mstAssign_Click(int previousTab);
+    void picSample_Click(int scheme);
     void cmdOK_Click();
     void cmdCancel_Click();
     void ShowPage(int tab);

@@ -4,6 +4,7 @@
 #include "databases/Palette.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
+#include "quickswitch/PalettePlace.h"
 #include "quickswitch/frmAssign.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
@@ -63,14 +64,16 @@ void frmQuickSwitch::Refresh_Screen() try {
     QuickSwitchNames_ = stored ? Palette::Buttons(*stored) : std::vector<std::wstring>(ButtonCount);
     ShowColumns();
     for (int button = 1; button <= ButtonCount; ++button) {
-        Picture(button).Text(CaptionOf(button));
+        // "&" is a letter of a name, not the mark of an access key.
+        Picture(button).Text(Text::Replace(CaptionOf(button), L"&", L"&&"));
         toolTip_.Set(Handle(), Picture(button).Handle(), NameOf(button));
     }
     AttachTrackers();
     Scheme_ = 0; // also what is shown after an error
     if (stored) Scheme_ = Palette::Scheme(*stored);
-    InvalidateRect(Handle(), nullptr, TRUE);
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 } catch (...) {
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     ErrorReport("frmQuickSwitch: Sub Refresh_Screen");
 }
 
@@ -92,26 +95,18 @@ void frmQuickSwitch::RestorePosition() {
     const auto left = Text::Measure(UserStore::Get(Keys::Settings, Keys::QuickLeft));
     RECT place{};
     GetWindowRect(Handle(), &place);
-    OffsetRect(&place, left ? ToPixels(static_cast<int>(*left), Dpi()) - place.left : 0,
-               top ? ToPixels(static_cast<int>(*top), Dpi()) - place.top : 0);
-    if (!MonitorFromRect(&place, MONITOR_DEFAULTTONULL)) {
-        // That monitor is gone: onto the nearest one that is there.
-        MONITORINFO monitor{};
-        monitor.cbSize = sizeof monitor;
-        GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor);
-        const RECT& screen = monitor.rcWork;
-        const LONG rightmost = std::max(screen.left, screen.right - (place.right - place.left));
-        const LONG lowest = std::max(screen.top, screen.bottom - (place.bottom - place.top));
-        OffsetRect(&place, std::clamp(place.left, screen.left, rightmost) - place.left,
-                   std::clamp(place.top, screen.top, lowest) - place.top);
-    }
+    OffsetRect(&place, left ? ToPixels(static_cast<int>(*left), WindowDpi(nullptr)) - place.left : 0,
+               top ? ToPixels(static_cast<int>(*top), WindowDpi(nullptr)) - place.top : 0);
+    place = PalettePlace::WithinReach(place, StripWidth(), PalettePlace::Screens());
     SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmQuickSwitch::Save_Position() const try {
-    const Twips position = Position();
-    UserStore::Set(Keys::Settings, Keys::QuickLeft, Text::FromNumber(position.Left));
-    UserStore::Set(Keys::Settings, Keys::QuickTop, Text::FromNumber(position.Top));
+    // At the system's resolution, whatever monitor it is on: the stored place has to mean one pixel again.
+    RECT place{};
+    GetWindowRect(Handle(), &place);
+    UserStore::Set(Keys::Settings, Keys::QuickLeft, Text::FromNumber(ToTwips(place.left, WindowDpi(nullptr))));
+    UserStore::Set(Keys::Settings, Keys::QuickTop, Text::FromNumber(ToTwips(place.top, WindowDpi(nullptr))));
 } catch (...) {
     ErrorReport("frmQuickSwitch: Sub Save_Position");
 }

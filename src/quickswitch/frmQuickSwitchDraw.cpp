@@ -2,6 +2,7 @@
 
 #include "quickswitch/frmQuickSwitch.h"
 
+#include "i18n/MoreText.h"
 #include "quickswitch/Drawing.h"
 #include "support/ErrorReport.h"
 #include "ui/Contrast.h"
@@ -98,6 +99,8 @@ void frmQuickSwitch::Form_Activate() {
 
 void frmQuickSwitch::Form_Deactivate() {
     StripColor_ = COLOR_INACTIVECAPTION;
+    // Nothing tells a box that the keyboard has taken its user elsewhere.
+    for (int button = 1; button <= ButtonCount; ++button) Picture(button).EndHover();
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
@@ -107,6 +110,7 @@ void frmQuickSwitch::Form_Resize() {
     const int edge = MulDiv(1, Dpi(), NormalDpi);
     const int side = MulDiv(kControlBox, Dpi(), NormalDpi);
     ControlBoxRect_ = {client.right - edge - side, edge, client.right - edge, edge + side};
+    toolTip_.SetPart(Handle(), ControlBoxRect_, Translated(MoreText::PaletteMenu));
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
@@ -157,8 +161,8 @@ bool frmQuickSwitch::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT&) {
 }
 
 bool frmQuickSwitch::KeyDown(int button, int key) {
-    if (key >= '1' && key <= '8') {
-        const int pressed = key - '0';
+    const int pressed = key >= VK_NUMPAD1 && key <= VK_NUMPAD8 ? key - VK_NUMPAD0 : key - '0';
+    if (pressed >= 1 && pressed <= ButtonCount) {
         if (IsWindowVisible(Picture(pressed).Handle())) Picture(pressed).Press();
         return true;
     }

@@ -1,6 +1,7 @@
 #include "ui/Form.h"
 
 #include "support/Error.h"
+#include "support/ErrorReport.h"
 #include "ui/Timer.h"
 
 #include <algorithm>
@@ -201,6 +202,15 @@ void Form::Show() {
 
 void Form::Hide() { ShowWindow(window_, SW_HIDE); }
 
+void Form::ToFront() {
+    if (!Visible() || SetForegroundWindow(window_)) return;
+    // Windows lets only the program in use give that up: so we share its input for a moment.
+    const DWORD other = GetWindowThreadProcessId(GetForegroundWindow(), nullptr);
+    if (!AttachThreadInput(GetCurrentThreadId(), other, TRUE)) return;
+    SetForegroundWindow(window_);
+    AttachThreadInput(GetCurrentThreadId(), other, FALSE);
+}
+
 void Form::FocusFirst() {
     if (GetFocus() == window_ || !IsChild(window_, GetFocus())) ::SetFocus(GetNextDlgTabItem(window_, nullptr, FALSE));
 }
@@ -208,9 +218,17 @@ void Form::FocusFirst() {
 void Form::Unload() {
     if (unloaded_ || unloading_) return;
     unloading_ = true;
-    Form_Unload();
+    try {
+        Form_Unload();
+    } catch (...) {
+        ErrorReport(std::wstring(Name()) + L": Sub Form_Unload");
+    }
     unloading_ = false;
     unloaded_ = true;
+    // A menu that is still open would go on with its command.
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    if (GetGUIThreadInfo(GetCurrentThreadId(), &thread) && thread.hwndMenuOwner == window_) EndMenu();
     // The owner first: otherwise Windows activates some other program's window when this one goes.
     if (modal_ && owner_) EnableWindow(owner_, TRUE);
     Hide();

@@ -45,6 +45,8 @@ public:
     void Load();
     void Show();
     void Hide();
+    /// Makes it the window in use, also while another program's is: after a long call that program may have taken over.
+    void ToFront();
     bool Visible() const { return window_ && IsWindowVisible(window_); }
     /// Loads and shows the form and turns a message loop of its own until it is unloaded. The active window of this
     /// program is its owner and stays disabled meanwhile.

@@ -86,7 +86,7 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         if (lastFocus_) ::SetFocus(lastFocus_);
         return 0;
     case WM_CLOSE:
-        if (!Busy::Now()) Form_CloseBox();
+        if (!Busy::Now() && !unloaded_) Form_CloseBox();
         return 0;
     case kDpiChanged: OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
     case WM_GETMINMAXINFO:
@@ -106,6 +106,7 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT Form::DispatchCommand(WPARAM wParam, LPARAM lParam) {
+    if (unloaded_) return 0;
     auto* window = reinterpret_cast<HWND>(lParam);
     if (Control* control = ControlOf(window)) {
         control->OnCommand(HIWORD(wParam));

@@ -70,16 +70,32 @@ LRESULT ListBox::OnDragList(const DRAGLISTINFO& drag) {
     switch (drag.uNotification) {
     case DL_BEGINDRAG: dragged_ = LineAt(drag.ptCursor, false); return dragged_ >= 0;
     case DL_DRAGGING: {
-        const int target = LineAt(drag.ptCursor, true);
+        const int target = DropLine(drag.ptCursor);
         DrawInsert(form, Handle(), target);
         return target >= 0 ? DL_MOVECURSOR : DL_STOPCURSOR;
     }
     case DL_DROPPED: {
-        const int target = LineAt(drag.ptCursor, true);
-        DrawInsert(form, Handle(), -1);
+        const int target = DropLine(drag.ptCursor);
+        ClearMark();
         if (target >= 0 && target != dragged_) RaiseCall(L"Drop", [this, target] { drop_(dragged_, target); });
         return 0;
     }
-    default: DrawInsert(form, Handle(), -1); return 0;
+    default: ClearMark(); return 0;
     }
+}
+
+/// Below the lines it is the last one.
+int ListBox::DropLine(POINT position) const {
+    if (const int line = LineAt(position, true); line >= 0) return line;
+    RECT last{}, box{};
+    SendMessageW(Handle(), LB_GETITEMRECT, static_cast<WPARAM>(ListCount() - 1), reinterpret_cast<LPARAM>(&last));
+    GetClientRect(Handle(), &box);
+    ScreenToClient(Handle(), &position);
+    return PtInRect(&box, position) && position.y >= last.bottom ? ListCount() - 1 : -1;
+}
+
+/// The mark is drawn on the form, which knows nothing of it.
+void ListBox::ClearMark() const {
+    DrawInsert(Owner().Handle(), Handle(), -1);
+    InvalidateRect(Owner().Handle(), nullptr, TRUE);
 }

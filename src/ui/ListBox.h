@@ -46,6 +46,8 @@ private:
     void OnContextMenu(POINT position) override;
     LRESULT OnDragList(const DRAGLISTINFO& drag) override;
     int LineAt(POINT position, bool scrolls) const;
+    int DropLine(POINT position) const;
+    void ClearMark() const;
 
     Action click_;
     Action dblClick_;

@@ -26,8 +26,10 @@ void ListView::AddColumn(const std::wstring& title, int width) {
     SendMessageW(Handle(), LVM_INSERTCOLUMNW, static_cast<WPARAM>(column.iSubItem), reinterpret_cast<LPARAM>(&column));
 }
 
+HWND ListView::Header() const { return reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0)); }
+
 int ListView::ColumnCount() const {
-    auto* header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+    HWND header = Header();
     return header ? static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
 }
 
@@ -235,9 +237,7 @@ bool ListView::IsCut(int row, int column) const {
 
 LRESULT ListView::OnNotify(NMHDR& header) {
     switch (header.code) {
-    case NM_DBLCLK:
-        if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0) Raise(L"DblClick", dblClick_);
-        return 0;
+    case NM_DBLCLK: Raise(L"DblClick", dblClick_); return 0;
     case LVN_COLUMNCLICK: {
         const int column = reinterpret_cast<const NMLISTVIEW&>(header).iSubItem;
         if (columnClick_) RaiseCall(L"ColumnClick", [this, column] { columnClick_(column); });
@@ -299,6 +299,8 @@ void ListView::OnContextMenu(POINT position) {
             SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(selected), reinterpret_cast<LPARAM>(&item));
         position = {item.left, item.bottom};
         ClientToScreen(Handle(), &position);
+    } else if (RECT titles{}; GetWindowRect(Header(), &titles) && PtInRect(&titles, position)) {
+        return; // that is no click on a row
     }
     menuPosition_ = position;
     Raise(L"MouseDown", rightClick_);

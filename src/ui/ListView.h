@@ -12,7 +12,7 @@
 /// Handlers of a list view; those not named stay empty.
 template <class F>
 struct ListViewEvents {
-    void (F::*DblClick)() = nullptr;
+    void (F::*DblClick)() = nullptr; ///< on a row or beside the rows
     void (F::*ColumnClick)(int column) = nullptr;
     void (F::*RightClick)() = nullptr;         ///< right button, Menu key or Shift+F10
     std::wstring (F::*Tip)(int row) = nullptr; ///< what to show while the pointer rests on a row, "" for nothing
@@ -91,6 +91,7 @@ private:
     void OnDpiChanged(int dpi) override;
     void OnTip(NMTTDISPINFOW& tip);
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
+    HWND Header() const;
     int ItemOf(int row) const;
     int RowOf(int item) const;
     void Empty();

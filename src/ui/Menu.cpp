@@ -52,7 +52,7 @@ void MenuItem::Enabled(bool enabled) {
 }
 
 void MenuItem::Click() const {
-    if (!click_ || Busy::Now()) return;
+    if (!click_ || Busy::Now() || form_->Unloaded()) return;
     try {
         click_();
     } catch (...) {

@@ -31,7 +31,11 @@ void PictureBox::OnDraw(const DRAWITEMSTRUCT& draw) {
 
 void PictureBox::OnCommand(WORD notification) {
     // The second click of a double click is not another one.
-    if (notification == BN_CLICKED) Press();
+    if (notification != BN_CLICKED) return;
+    if (click_)
+        RaiseCall(L"Click", [this] { click_(number_); });
+    else
+        Press();
 }
 
 LRESULT CALLBACK PictureBox::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -48,9 +52,7 @@ LRESULT PictureBox::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MOUSEMOVE: OnMouseMove(); break;
     case WM_CAPTURECHANGED:
-    case WM_MOUSELEAVE:
-        if (std::exchange(isHot_, false)) Tell(L"Mouse", &Listener::Left);
-        break;
+    case WM_MOUSELEAVE: EndHover(); break;
     case WM_GETDLGCODE: {
         const LRESULT code = CallWindowProcW(original_, Handle(), message, wParam, lParam);
         const auto* key = reinterpret_cast<const MSG*>(lParam);
@@ -81,7 +83,11 @@ void PictureBox::OnMouseMove() {
         TrackMouseEvent(&track);
         isHot_ = true;
         Tell(L"Mouse", &Listener::Entered);
-    } else if (!isInside && std::exchange(isHot_, false)) {
-        Tell(L"Mouse", &Listener::Left);
+    } else if (!isInside) {
+        EndHover();
     }
+}
+
+void PictureBox::EndHover() {
+    if (std::exchange(isHot_, false)) Tell(L"Mouse", &Listener::Left);
 }

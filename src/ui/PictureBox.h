@@ -24,8 +24,12 @@ public:
     PictureBox(F* form, const wchar_t* name, const Twips& place, Draw<F> draw)
         : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW}, nullptr, 0, {form, draw}) {}
     template <class F>
-    PictureBox(F* form, Frame& container, const wchar_t* name, const Twips& place, int number, Draw<F> draw)
-        : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW}, &container, number, {form, draw}) {}
+    PictureBox(F* form, Frame& container, const wchar_t* name, const Twips& place, int number, Draw<F> draw,
+               void (F::*click)(int number) = nullptr)
+        : PictureBox(form, name, place, {L"Static", SS_OWNERDRAW | (click ? SS_NOTIFY : 0UL)}, &container, number,
+                     {form, draw}) {
+        click_ = {form, click};
+    }
     /// A picture to press. `keyDown` gets virtual key codes that move between pictures; true when it used one.
     template <class F>
     PictureBox(F* form, const wchar_t* name, const Twips& place, int number, Draw<F> draw,
@@ -38,6 +42,8 @@ public:
     /// One listener at a time; null for none.
     void Listen(Listener* listener) { listener_ = listener; }
     void Refresh();
+    /// Takes the pointer for gone, until it moves over the box again.
+    void EndHover();
     /// Does what a click does.
     void Press() const { Tell(L"Click", &Listener::Clicked); }
 
@@ -57,6 +63,7 @@ private:
     int number_;
     Drawing draw_;
     Handler<bool, int, int> keyDown_;
+    Handler<void, int> click_;
     Listener* listener_ = nullptr;
     WNDPROC original_ = nullptr;
     bool isHot_ = false;

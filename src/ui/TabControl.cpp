@@ -21,6 +21,13 @@ void TabControl::Tab(int tab) {
     RaiseCall(L"Click", [this, previous] { click_(previous); });
 }
 
+bool TabControl::TakesKey(const KeyPress& press) {
+    if (press.Key != VK_TAB || !press.Ctrl || press.Alt) return false;
+    const int count = static_cast<int>(SendMessageW(Handle(), TCM_GETITEMCOUNT, 0, 0));
+    Tab((tab_ + (press.Shift ? count - 1 : 1)) % count);
+    return true;
+}
+
 LRESULT TabControl::OnNotify(NMHDR& header) {
     if (header.code == TCN_SELCHANGE) {
         const int previous = std::exchange(tab_, static_cast<int>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0)));

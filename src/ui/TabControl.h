@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Control.h"
+#include "ui/Keys.h"
 
 #include <string>
 
@@ -17,6 +18,8 @@ public:
     int Tab() const { return tab_; }
     /// Selects a tab and runs the handler as a click does; the tab that is selected already runs nothing.
     void Tab(int tab);
+    /// Goes to the next tab by Ctrl+Tab, to the one before by Ctrl+Shift+Tab; true when the key was one of these.
+    bool TakesKey(const KeyPress& press);
 
 private:
     TabControl(Form* form, const wchar_t* name, const Twips& place, const Handler<void, int>& click);
