@@ -25,16 +25,16 @@ std::wstring ShownName(const std::wstring& path, const std::wstring& actFolder) 
 frmMain::ActPlaces frmMain::AskPlaces() {
     const ProgramState& program = Program();
     ActPlaces places;
-    const auto ask = [&](std::wstring& answer, auto question) {
-        try {
-            answer = question();
+    constexpr long kOpenDatabase = -1;
+    const std::pair<long, std::wstring*> questions[] = {{DefaultLocation::Layouts, &places.Layouts},
+                                                        {DefaultLocation::Macros, &places.Macros},
+                                                        {kOpenDatabase, &places.OpenDatabase}};
+    for (const auto& [kind, answer] : questions) try {
+            *answer = kind == kOpenDatabase ? program.Application.GetOpenDBName()
+                                            : program.Preferences.GetDefaultLocation(kind);
         } catch (const Error& error) {
             if (!places.Failure) places.Failure = error;
         }
-    };
-    ask(places.Layouts, [&] { return program.Preferences.GetDefaultLocation(DefaultLocation::Layouts); });
-    ask(places.Macros, [&] { return program.Preferences.GetDefaultLocation(DefaultLocation::Macros); });
-    ask(places.OpenDatabase, [&] { return program.Application.GetOpenDBName(); });
     return places;
 }
 

@@ -2,6 +2,7 @@
 
 #include "databases/DatabaseList.h"
 #include "databases/Keys.h"
+#include "support/Error.h"
 #include "support/Text.h"
 
 #include <algorithm>

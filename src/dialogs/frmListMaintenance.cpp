@@ -16,9 +16,9 @@ frmListMaintenance::frmListMaintenance(MainWindow& mainWindow)
     : Form({L"frmListMaintenance", 5610, 4200}), mainWindow_(mainWindow) {}
 
 bool frmListMaintenance::Form_Initialize() {
-    if (auto list = EditedList::Load()) list_ = std::move(*list);
+    list_ = EditedList::Load();
     if (!list_) SettingsNotice::CannotRead();
-    return list_.has_value();
+    return static_cast<bool>(list_);
 }
 
 void frmListMaintenance::Form_Load() try {

@@ -7,7 +7,6 @@
 #include "ui/Label.h"
 #include "ui/ListBox.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -69,6 +68,6 @@ private:
     void ShowList(const std::wstring& selected);
 
     MainWindow& mainWindow_;
-    std::optional<EditedList> list_; ///< none when the settings file could not be read
-    bool isLeft_ = false;            ///< by Close: what could be saved then has been saved
+    Read<EditedList> list_{Unreadable()}; ///< none when the settings file could not be read
+    bool isLeft_ = false;                 ///< by Close: what could be saved then has been saved
 };

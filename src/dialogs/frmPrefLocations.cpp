@@ -20,9 +20,9 @@ frmPrefLocations::frmPrefLocations(std::wstring currentName, std::wstring typedN
       typedName_(std::move(typedName)) {}
 
 bool frmPrefLocations::Form_Initialize() {
-    if (auto locations = OwnLocations::Load(currentName_)) locations_ = std::move(*locations);
+    locations_ = OwnLocations::Load(currentName_);
     if (!locations_) SettingsNotice::CannotRead();
-    return locations_.has_value();
+    return static_cast<bool>(locations_);
 }
 
 void frmPrefLocations::Form_Load() try {

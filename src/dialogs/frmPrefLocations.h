@@ -5,7 +5,6 @@
 #include "ui/Form.h"
 #include "ui/ListView.h"
 
-#include <optional>
 #include <string>
 
 /// Edits the twelve preference locations of one database. They are loaded and cleared under the current friendly name
@@ -34,5 +33,5 @@ private:
 
     std::wstring currentName_;
     std::wstring typedName_;
-    std::optional<OwnLocations> locations_; ///< none when the settings file could not be read
+    Read<OwnLocations> locations_{Unreadable()}; ///< none when the settings file could not be read
 };

@@ -49,9 +49,9 @@ bool frmProperties::Form_Initialize() {
     ProgramState& program = Program();
     if (isNew_) program.FriendlyName.clear();
     OldName_ = program.FriendlyName;
-    if (auto database = EditedDatabase::Load(OldName_, model_)) database_ = std::move(*database);
+    database_ = EditedDatabase::Load(OldName_, model_);
     if (!database_) SettingsNotice::CannotRead();
-    return database_.has_value();
+    return static_cast<bool>(database_);
 }
 
 void frmProperties::Form_Load() try {

@@ -12,7 +12,6 @@
 #include "ui/TextBox.h"
 
 #include <array>
-#include <optional>
 #include <string>
 
 /// Edits one database: its name and files, where its preference locations come from, and its log-on. Works on the
@@ -94,8 +93,8 @@ private:
 
     MainWindow* mainWindow_;
     std::wstring OldName_;
-    std::wstring model_;                     ///< of a new database: the one whose values it begins with
-    std::optional<EditedDatabase> database_; ///< none when the settings file could not be read
+    std::wstring model_;                          ///< of a new database: the one whose values it begins with
+    Read<EditedDatabase> database_{Unreadable()}; ///< none when the settings file could not be read
     bool isNew_ = false;
     bool cancelled_ = true;
     bool SkipTabCheck_ = false;

@@ -72,9 +72,9 @@ void frmAssign::DrawPosition(int, HDC canvas, const RECT& area, bool) {
 }
 
 bool frmAssign::Form_Initialize() {
-    if (auto settings = Palette::Edited::Load()) settings_ = std::move(*settings);
+    settings_ = Palette::Edited::Load();
     if (!settings_) SettingsNotice::CannotRead();
-    return settings_.has_value();
+    return static_cast<bool>(settings_);
 }
 
 void frmAssign::Form_Load() try {

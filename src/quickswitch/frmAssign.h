@@ -12,7 +12,6 @@
 #include "ui/TabControl.h"
 
 #include <array>
-#include <optional>
 
 /// The palette's settings: which database each button opens, the colour scheme, and whether it comes up at the start.
 class frmAssign : public Form {
@@ -65,5 +64,5 @@ private:
     void DrawSample(int scheme, HDC canvas, const RECT& area, bool isFocused);
     void DrawPosition(int number, HDC canvas, const RECT& area, bool isFocused);
 
-    std::optional<Palette::Edited> settings_; ///< none when the settings file could not be read
+    Read<Palette::Edited> settings_{Unreadable()}; ///< none when the settings file could not be read
 };

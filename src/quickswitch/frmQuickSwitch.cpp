@@ -68,6 +68,7 @@ void frmQuickSwitch::Refresh_Screen() try {
         Picture(button).Text(Text::Replace(CaptionOf(button), L"&", L"&&"));
         toolTip_.Set(Handle(), Picture(button).Handle(), NameOf(button));
     }
+    TipControlBox();
     AttachTrackers();
     Scheme_ = 0; // also what is shown after an error
     if (stored) Scheme_ = Palette::Scheme(*stored);

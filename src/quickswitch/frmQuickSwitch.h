@@ -52,6 +52,7 @@ private:
     void Form_MouseDown(POINT position);
     void Refresh_Screen();
     void ShowColumns();
+    void TipControlBox();
     void AttachTrackers();
     void RestorePosition();
     void Save_Position() const;

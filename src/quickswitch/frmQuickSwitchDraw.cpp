@@ -110,9 +110,11 @@ void frmQuickSwitch::Form_Resize() {
     const int edge = MulDiv(1, Dpi(), NormalDpi);
     const int side = MulDiv(kControlBox, Dpi(), NormalDpi);
     ControlBoxRect_ = {client.right - edge - side, edge, client.right - edge, edge + side};
-    toolTip_.SetPart(Handle(), ControlBoxRect_, Translated(MoreText::PaletteMenu));
+    if (Visible()) TipControlBox();
     InvalidateRect(Handle(), nullptr, TRUE);
 }
+
+void frmQuickSwitch::TipControlBox() { toolTip_.SetPart(Handle(), ControlBoxRect_, Translated(MoreText::PaletteMenu)); }
 
 void frmQuickSwitch::Form_Paint() try {
     const PaintCanvas canvas(Handle());

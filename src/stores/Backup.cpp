@@ -135,11 +135,11 @@ std::optional<std::wstring> LastGood(const std::wstring& settingsFile) {
 Restored Restore(const std::wstring& settingsFile) {
     const auto good = LastGood(settingsFile);
     bool isSound = false;
-    const bool isDone = good && SafeFile::Change(settingsFile, [&](const std::wstring& copy) -> DWORD {
+    const bool isDone = good && SafeFile::Change(settingsFile, [&](const std::wstring& copy, bool) -> DWORD {
                             const Contents present = SafeFile::Read(copy);
                             isSound = FileHealth::Inspect(present) == FileHealth::State::Sound;
                             if (isSound) return ERROR_SUCCESS;
-                            if (!present.IsRead() && !present.IsMissing()) return present.Error;
+                            if (!present.IsRead()) return present.Error;
                             const bool isKept = present.Bytes.empty() || Keep(copy, settingsFile, false);
                             return isKept && Copy(*good, copy) ? ERROR_SUCCESS : ERROR_WRITE_FAULT;
                         });

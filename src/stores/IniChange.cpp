@@ -7,6 +7,7 @@
 #include "stores/IniLib.h"
 #include "stores/PlatformIni.h"
 #include "stores/SafeFile.h"
+#include "support/Error.h"
 #include "win32/AnsiText.h"
 
 #include <algorithm>
@@ -28,8 +29,8 @@ std::string Quoted(std::string value) {
 /// The copy as one reading; what it is a copy of does not matter to it.
 Read<IniLib::Reading> ReadCopy(const std::wstring& copy) {
     SafeFile::Contents contents = SafeFile::Read(copy);
-    if (!contents.IsRead() && !contents.IsMissing()) return Unreadable();
-    return IniLib::Reading({copy, !contents.IsMissing()}, std::move(contents.Bytes));
+    if (!contents.IsRead()) return Unreadable();
+    return IniLib::Reading({copy, true}, std::move(contents.Bytes));
 }
 
 } // namespace
@@ -58,8 +59,8 @@ void Change::DeleteKey(std::wstring_view section, std::wstring_view key) { Add(s
 
 void Change::DeleteSection(std::wstring_view section) { Add(section, {}, {}); }
 
-DWORD Change::Make(const std::wstring& copy) const try {
-    if (const DWORD refusal = Refusal(copy)) return refusal;
+DWORD Change::Make(const std::wstring& copy, bool isNew) const try {
+    if (const DWORD refusal = Refusal(copy, isNew)) return refusal;
     Change composed(*this);
     if (!builds_.empty()) {
         const Read<Reading> stored = ReadCopy(copy);
@@ -74,11 +75,11 @@ DWORD Change::Make(const std::wstring& copy) const try {
     return ERROR_READ_FAULT; // a value that nobody can read now
 }
 
-DWORD Change::Refusal(const std::wstring& copy) const {
-    const FileHealth::State state = FileHealth::Inspect(copy);
+DWORD Change::Refusal(const std::wstring& copy, bool isNew) const {
+    const FileHealth::State state = isNew ? FileHealth::State::Missing : FileHealth::Inspect(copy);
     // Another program may be writing it in place: worth another try.
     if (FileHealth::IsOutage(fileName_, state)) return ERROR_SHARING_VIOLATION;
-    const bool hasCome = origin_ && !origin_->IsThere && state != FileHealth::State::Missing;
+    const bool hasCome = origin_ && !origin_->IsThere && !isNew;
     return hasCome ? ERROR_CANCELLED : ERROR_SUCCESS;
 }
 
@@ -99,8 +100,8 @@ bool Change::Commit() const {
     if (steps_.empty() && builds_.empty()) return true;
     if (hasBackup_) Backup::KeepOnce(fileName_);
     FileHealth::State made = FileHealth::State::Missing;
-    const bool isMade = SafeFile::Change(fileName_, [&](const std::wstring& copy) {
-        const DWORD error = Make(copy);
+    const bool isMade = SafeFile::Change(fileName_, [&](const std::wstring& copy, bool isNew) {
+        const DWORD error = Make(copy, isNew);
         made = FileHealth::Inspect(copy);
         return error;
     });

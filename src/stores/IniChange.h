@@ -47,8 +47,8 @@ private:
     };
     void Add(std::wstring_view section, std::optional<std::string> key, std::optional<std::string> value);
     /// These give an error code.
-    unsigned long Make(const std::wstring& copy) const;
-    unsigned long Refusal(const std::wstring& copy) const;
+    unsigned long Make(const std::wstring& copy, bool isNew) const;
+    unsigned long Refusal(const std::wstring& copy, bool isNew) const;
     static unsigned long MakeStep(const Step& step, const std::wstring& copy);
 
     std::optional<Origin> origin_;

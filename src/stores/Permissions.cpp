@@ -47,7 +47,9 @@ namespace Permissions {
 bool CarryOver(const std::wstring& original, const std::wstring& copy) {
     Bytes wanted = Descriptor(original);
     Bytes present = Descriptor(copy);
-    if (wanted.empty() || OwnEntries(wanted) == OwnEntries(present)) return true;
+    if (wanted.empty()) return true;
+    if (present.empty()) return false;
+    if (OwnEntries(wanted) == OwnEntries(present)) return true;
     // Inherited entries stay known as such: a later change of the folder's reaches the file.
     constexpr SECURITY_DESCRIPTOR_CONTROL kInherits = SE_DACL_AUTO_INHERITED | SE_DACL_AUTO_INHERIT_REQ;
     if (ControlOf(wanted) & SE_DACL_AUTO_INHERITED) SetSecurityDescriptorControl(wanted.data(), kInherits, kInherits);

@@ -40,7 +40,8 @@ std::wstring FullPath(const std::wstring& fileName) {
 std::optional<std::string> AnsiName(const std::wstring& path) {
     const auto carried = [](const std::wstring& name) -> std::optional<std::string> {
         std::string bytes = ToAnsi(name);
-        if (name.empty() || ToWide(bytes) != name) return std::nullopt;
+        // Of a longer name Wine's calls take the beginning, and say that all went well.
+        if (name.empty() || bytes.size() >= MAX_PATH || ToWide(bytes) != name) return std::nullopt;
         return bytes;
     };
     if (auto name = carried(path)) return name;

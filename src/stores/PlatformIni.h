@@ -11,8 +11,8 @@ namespace PlatformIni {
 /// The path that the platform means by a file's name: one without a folder lies in the folder of Windows.
 std::wstring FullPath(const std::wstring& fileName);
 
-/// A name of the file that the ANSI code page can carry, with the short name of a folder where it lacks characters of
-/// the long one; nothing where there is none.
+/// A name of the file that the ANSI code page can carry and that is not too long for the calls, with the short name of
+/// a folder where the long one will not do; nothing where there is none.
 std::optional<std::string> AnsiName(const std::wstring& path);
 
 /// The value of a key, up to 32767 bytes; nothing when the key is missing.

@@ -4,6 +4,7 @@
 #include "stores/IniLib.h"
 #include "stores/IniText.h"
 #include "stores/PlatformIni.h"
+#include "support/Error.h"
 #include "support/Text.h"
 #include "win32/AnsiText.h"
 
@@ -17,6 +18,10 @@ bool IsMarked(const std::string& bytes) {
 }
 
 } // namespace
+
+void ThrowUnreadable() {
+    throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(ERROR_READ_FAULT)));
+}
 
 namespace IniLib {
 
@@ -61,8 +66,7 @@ std::optional<std::wstring> Reading::AskPlatform(std::wstring_view section, std:
 
 void Reading::RequireUnchanged() const {
     const SafeFile::Contents now = SafeFile::Read(origin_.Path);
-    if (!now.IsRead() || now.Bytes != bytes_)
-        throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(ERROR_READ_FAULT)));
+    if (!now.IsRead() || now.Bytes != bytes_) ThrowUnreadable();
 }
 
 Read<Reading> ReadFile(const std::wstring& fileName, unsigned long patience) {

@@ -20,9 +20,9 @@ struct Contents {
 
 Contents Read(const std::wstring& path);
 
-/// Changes the file of the given path, which is a copy, or is not there when the original is not. An error code; after
-/// one that may pass it is called again, with a fresh copy. ERROR_CANCELLED gives up.
-using Edit = std::function<DWORD(const std::wstring& copy)>;
+/// Changes the file of the given path, which is a copy, or an empty one when the original is not there yet (`isNew`).
+/// An error code; after one that may pass it is called again, with a fresh copy. ERROR_CANCELLED gives up.
+using Edit = std::function<DWORD(const std::wstring& copy, bool isNew)>;
 
 /// Lets `edit` change a copy of the file and puts the copy in its place in one step, while a lock file keeps other
 /// writers out. Readers see the file as it was or as it is then, and a writer that dies on the way leaves it as it was.

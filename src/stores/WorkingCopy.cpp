@@ -18,6 +18,11 @@ std::wstring TemporaryName() {
     return name.data();
 }
 
+FileHandle Create(const std::wstring& path) {
+    return FileHandle(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
 void FlushToDisk(const std::wstring& path) {
     const FileHandle file(
         CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
@@ -60,7 +65,7 @@ void WorkingCopy::Remove() const {
 DWORD WorkingCopy::Change(const SafeFile::Edit& edit) {
     return Persist(Patience(Patience::ForOthers), [&]() -> DWORD {
         const DWORD error = CopyAfresh();
-        return error == ERROR_SUCCESS ? edit(path_) : error;
+        return error == ERROR_SUCCESS ? edit(path_, isNew_) : error;
     });
 }
 
@@ -78,7 +83,8 @@ DWORD WorkingCopy::CopyAfresh() {
     const SafeFile::Contents original = SafeFile::Read(original_);
     isNew_ = original.IsMissing();
     isMisplaced_ = original.IsRead() && error != ERROR_DISK_FULL;
-    if (isNew_) return ERROR_SUCCESS;
+    // Made here: Wine takes what it remembers of an earlier file of that name for one that is still to be made.
+    if (isNew_) return ErrorUnless(static_cast<bool>(Create(path_)));
     return original.IsRead() ? error : original.Error;
 }
 
@@ -87,8 +93,8 @@ DWORD WorkingCopy::PutInPlace() const {
     if (!isNew_ && attributes == INVALID_FILE_ATTRIBUTES) return GetLastError();
     const SafeFile::Contents before = SafeFile::Read(original_);
     const SafeFile::Contents after = SafeFile::Read(path_);
-    if (isNew_ && after.IsMissing()) return ERROR_SUCCESS;
     if (!after.IsRead()) return after.Error;
+    if (isNew_ && after.Bytes.empty()) return ERROR_SUCCESS;
     if (before.IsRead() && before.Bytes == after.Bytes) return ERROR_SUCCESS;
     const Patience patience(Patience::ForOthers);
     const bool mayReplace = isBeside_ && (isNew_ || !HasSecondName(original_));

@@ -84,6 +84,12 @@ struct Gdi {
     static Handle None() { return nullptr; }
     static void Close(Handle handle) { DeleteObject(handle); }
 };
+template <class T>
+struct Object {
+    using Handle = T*;
+    static Handle None() { return nullptr; }
+    static void Close(Handle object) { delete object; }
+};
 
 } // namespace owners
 
@@ -96,3 +102,7 @@ using IconHandle = Owner<owners::Icon>;
 using ImageListHandle = Owner<owners::Images>;
 using FontHandle = Owner<owners::Gdi<HFONT>>;
 using BrushHandle = Owner<owners::Gdi<HBRUSH>>;
+
+/// An object made with new. The library's own owner comes with a lock that not every compiler has for Windows XP.
+template <class T>
+using Owned = Owner<owners::Object<T>>;

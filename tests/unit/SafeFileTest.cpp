@@ -228,7 +228,7 @@ TEST_CASE_FIXTURE(Desk,
 TEST_CASE_FIXTURE(Desk, "A try that fails on the way is made again from the original, not from what it had changed") {
     file.Bytes(kBefore);
     int tries = 0;
-    CHECK(SafeFile::Change(file.Path(), [&](const std::wstring& copy) -> DWORD {
+    CHECK(SafeFile::Change(file.Path(), [&](const std::wstring& copy, bool) -> DWORD {
         CHECK(SafeFile::Read(copy).Bytes == kBefore);
         REQUIRE(WritePrivateProfileStringA("General", "Sort", "A;B;New", ToAnsi(copy).c_str()));
         return ++tries < 3 ? ERROR_SHARING_VIOLATION : ERROR_SUCCESS;
@@ -320,7 +320,8 @@ TEST_CASE_FIXTURE(Desk, "A damaged file is restored from the newest copy that is
         CHECK(Backup::Restore(file.Path()) == Backup::Restored::Done);
         CHECK(file.Bytes() == kBefore);
         CHECK_FALSE(FileHealth::IsDamaged(file.Path()));
-        if (!damaged.empty()) CHECK(SafeFile::Read(Backups()[1].wstring()).Bytes == damaged);
+        const auto isKept = [&](const fs::path& copy) { return SafeFile::Read(copy.wstring()).Bytes == damaged; };
+        if (!damaged.empty()) CHECK(std::ranges::any_of(Backups(), isKept));
         CHECK(IsAlone());
     }
     file.Bytes("[General]\r\nSort=mended\r\n");
