@@ -94,7 +94,10 @@ public:
     ActPreferences Preferences(Where at = Where::current()) const {
         return ActPreferences(Dispatch(object_.Get({L"Preferences", at}).Object(at)));
     }
-    void openDB(std::wstring_view path, Where at = Where::current()) const { object_.Call({L"openDB", at}, path); }
+    void openDB(std::wstring_view path, Where at = Where::current()) const {
+        Dispatch::WaitLonger();
+        object_.Call({L"openDB", at}, path);
+    }
     void RunMacro(std::wstring_view path, Where at = Where::current()) const { object_.Call({L"RunMacro", at}, path); }
     /// Full path of the open database, "" when none is open.
     std::wstring GetOpenDBName(Where at = Where::current()) const {

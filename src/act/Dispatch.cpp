@@ -1,14 +1,15 @@
 #include "act/Dispatch.h"
 
 #include "support/Busy.h"
+#include "support/BusyWait.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace {
 
-constexpr DWORD kBusyRetryMilliseconds = 200;
-constexpr DWORD kBusyLimitMilliseconds = 600000; // opening a database may take minutes
+constexpr DWORD kMinute = 60'000;
+DWORD patience = kMinute; // milliseconds
 
 std::wstring TakeText(BSTR& text) {
     std::wstring copy = text ? std::wstring(text, SysStringLen(text)) : std::wstring();
@@ -28,6 +29,7 @@ void WaitPumping(DWORD milliseconds) {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 return;
             }
+            if (BusyWait::Now && BusyWait::Now->Translate(message)) continue;
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
@@ -35,7 +37,25 @@ void WaitPumping(DWORD milliseconds) {
     }
 }
 
+/// Makes a call, again and again while a busy ACT! refuses it and nobody has had enough. Its last answer.
+template <class Call>
+HRESULT Persist(Call call) {
+    constexpr DWORD kPause = 200;
+    HRESULT code = call();
+    if (!IsBusy(code)) return code;
+    const DWORD start = GetTickCount();
+    for (DWORD waited = 0; IsBusy(code) && waited < patience; waited = GetTickCount() - start) {
+        if (BusyWait::Now && BusyWait::Now->IsCancelled(waited)) break;
+        WaitPumping(kPause);
+        code = call();
+    }
+    if (BusyWait::Now) BusyWait::Now->Over();
+    return code;
+}
+
 } // namespace
+
+void Dispatch::WaitLonger() { patience = 10 * kMinute; }
 
 Error AutomationError(HRESULT code, EXCEPINFO& exception, Where at) {
     if (code != DISP_E_EXCEPTION) return {ErrorNumber(code), SystemDescription(code), at};
@@ -56,8 +76,10 @@ Dispatch Dispatch::Create(const wchar_t* progId, Where at) {
     ComPtr<IDispatch> object;
     HRESULT code = CLSIDFromProgID(progId, &classId);
     if (SUCCEEDED(code))
-        code = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch,
-                                object.ReceiveVoid());
+        code = Persist([&] {
+            return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch,
+                                    object.ReceiveVoid());
+        });
     if (FAILED(code)) throw Error(BasicError::CannotCreateObject, SystemDescription(code), at);
     return Dispatch(std::move(object));
 }
@@ -68,7 +90,9 @@ DISPID Dispatch::IdentifierOf(const Member& member) const {
     if (known != known_.end() && known->Name) return known->Identifier;
     DISPID identifier = DISPID_UNKNOWN;
     wchar_t* names = name.data();
-    ThrowIfFailed(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &identifier), member.At);
+    ThrowIfFailed(
+        Persist([&] { return object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &identifier); }),
+        member.At);
     if (known != known_.end()) *known = {member.Name, identifier};
     return identifier;
 }
@@ -86,16 +110,10 @@ void Dispatch::Invoke(const Member& member, WORD flags, std::span<const Variant>
         parameters.cNamedArgs = 1;
     }
     EXCEPINFO exception{};
-    const auto call = [&] {
+    const HRESULT code = Persist([&] {
         UINT badArgument = 0;
         return object_->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
                                result ? result->Receive() : nullptr, &exception, &badArgument);
-    };
-    HRESULT code = call();
-    // Where the message filter has not dealt with it already: a busy ACT! is asked again.
-    for (DWORD waited = 0; IsBusy(code) && waited < kBusyLimitMilliseconds; waited += kBusyRetryMilliseconds) {
-        WaitPumping(kBusyRetryMilliseconds);
-        code = call();
-    }
+    });
     if (FAILED(code)) throw AutomationError(code, exception, member.At);
 }

@@ -27,6 +27,10 @@ public:
     /// Creates the object of a ProgID, in process or out of process.
     static Dispatch Create(const wchar_t* progId, Where at = Where::current());
 
+    /// From now on a call that is refused is repeated for ten minutes, not for one: opening a database may take as
+    /// long. A call that has been accepted is always waited for.
+    static void WaitLonger();
+
     explicit operator bool() const { return static_cast<bool>(object_); }
     IDispatch* Get() const { return object_.Get(); }
     void Release() { *this = {}; }

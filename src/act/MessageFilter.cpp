@@ -9,12 +9,8 @@ public:
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) override {
         return SERVERCALL_ISHANDLED;
     }
-    DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK, DWORD, DWORD rejectType) override {
-        // 100 and more: call again after so many milliseconds; the largest number: give up.
-        constexpr DWORD kRetryMilliseconds = 200;
-        constexpr auto kGiveUp = static_cast<DWORD>(-1);
-        return rejectType == SERVERCALL_RETRYLATER || rejectType == SERVERCALL_REJECTED ? kRetryMilliseconds : kGiveUp;
-    }
+    /// The call comes back as refused, without a box of the system's: it is repeated where its limit is known.
+    DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK, DWORD, DWORD) override { return static_cast<DWORD>(-1); }
     DWORD STDMETHODCALLTYPE MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
 
 private:

@@ -2,8 +2,8 @@
 
 #include "win32/ComPtr.h"
 
-/// While it lives, a busy ACT! is called again until it answers, and the system's "server busy" box never shows:
-/// opening a database may take minutes. One per user-interface thread, after OleInitialize.
+/// While it lives, the system's "server busy" box never shows: a call that a busy ACT! refuses comes back, and Dispatch
+/// repeats it. One per user-interface thread, after OleInitialize.
 class MessageFilter {
 public:
     MessageFilter();

@@ -1,5 +1,6 @@
 #include "act/MessageFilter.h"
 #include "app/frmMain.h"
+#include "app/frmWaiting.h"
 #include "i18n/modLangues.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
@@ -47,6 +48,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     SetErrorMode(SEM_FAILCRITICALERRORS);
     InitCommonControlsEx(&kControls);
     SetSupportSentence(&SupportSentence);
+    frmWaiting::Serve();
     const int exitCode = Run();
     // Not only before a change: the last change of all is in no copy otherwise.
     Backup::KeepAtEnd(IniLib::SettingsFile());

@@ -27,6 +27,7 @@ enum class MoreText {
     NotSaved,
     OrderNotSaved,
     PaletteMenu,
+    WaitingForAct,
 };
 
 /// A text in the current language.

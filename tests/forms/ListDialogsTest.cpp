@@ -15,6 +15,8 @@
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
+#include <algorithm>
+
 namespace {
 
 std::wstring Sort() { return IniLib::GetKeyValue(L"General", L"Sort"); }
@@ -29,13 +31,15 @@ bool IsEnabled(HWND dialog, const wchar_t* name) { return IsWindowEnabled(FindCo
 
 LRESULT Selected(HWND dialog) { return SendMessageW(FindControl(dialog, L"lstDB"), LB_GETCURSEL, 0, 0); }
 
-/// Drags a line to the place of another as the common controls tell of it.
+/// Drags a line to the place of another, or below the lines, as the common controls tell of it.
 void Drag(HWND dialog, int from, int to) {
     HWND list = FindControl(dialog, L"lstDB");
     const UINT message = RegisterWindowMessageW(DRAGLISTMSGSTRING);
     const auto notify = [&](UINT notification, int line) {
         RECT place{};
-        SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(&place));
+        const int last = static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)) - 1;
+        SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(std::min(line, last)), reinterpret_cast<LPARAM>(&place));
+        if (line > last) OffsetRect(&place, 0, 3 * (place.bottom - place.top));
         DRAGLISTINFO drag{notification, list, {place.left + 5, (place.top + place.bottom) / 2}};
         ClientToScreen(list, &drag.ptCursor);
         return SendMessageW(dialog, message, static_cast<WPARAM>(GetDlgCtrlID(list)), reinterpret_cast<LPARAM>(&drag));
@@ -178,7 +182,8 @@ TEST_CASE("Keys and dragging do what the buttons do") {
         CHECK(Selected(dialog) == 1);
         TranslateKey(FindControl(dialog, L"lstDB"), VK_UP, VK_MENU);
         CHECK(Selected(dialog) == 0);
-        Drag(dialog, 0, 2);
+        Drag(dialog, 0, 1);
+        Drag(dialog, 1, 99);
         CHECK(Selected(dialog) == 2);
         TranslateKey(FindControl(dialog, L"lstDB"), VK_DELETE, 0);
         CHECK(Sort() == L"B;C");

@@ -100,11 +100,14 @@ TEST_CASE("A row whose file is missing is faded and says so; a tip holds the who
     CHECK_FALSE(IsFaded(window, 0));
     CHECK(TipAt(window, 1).starts_with(L"The database file is not there:\r\nC:\\Gone\\Service.dbf"));
     CHECK(TipAt(window, 0).find(L"Contact Layout: C:\\Act\\Layout\\Sales.cly") != std::wstring::npos);
-    // A file that comes back is noticed with the next filling of the list.
+    // The marks stay when the list is narrowed or filled again, and a file that comes back is noticed then.
     window.ListView1.Fade(0, true);
+    window.ListView1.ShowOnly([](int row) { return row == 1; });
+    CHECK(IsFaded(window, 0)); // the only one shown
     DialogScript script;
     script.Then([](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); });
     window.mnuManageList.Click();
+    CHECK(IsFaded(window, 1));
     PumpUntil([&] { return IsFaded(window, 1) && !IsFaded(window, 0); });
     End(window);
 }

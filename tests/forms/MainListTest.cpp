@@ -62,13 +62,46 @@ TEST_CASE("Rows show bare names for files in ACT!'s own folders and mark the ope
     End(window);
 }
 
-TEST_CASE("With no database open in ACT! no row is red, not even one without a path") {
+TEST_CASE("Where ACT! does not answer, all rows are there with full paths and none in red, and one report") {
+    for (const wchar_t* member : {L"GetDefaultLocation", L"GetOpenDBName"}) {
+        ActDesk desk;
+        desk.Act.Texts[L"GetOpenDBName"] = L"C:\\Data\\Sales.dbf";
+        desk.AddDatabase(L"Nothing", {});
+        desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Data\\Sales.dbf"}, {L"CLY", L"C:\\Act\\Layout\\s.cly"}});
+        UserStore::Set(L"Display", L"Selected", L"1");
+        desk.Act.Failures[member] = {.Plain = E_FAIL};
+        DialogScript script;
+        script.Answer(IDOK);
+        frmMain window;
+        window.Load();
+        const bool knowsFolders = member[3] == L'O';
+        CHECK(window.ListView1.RowCount() == 2);
+        CHECK(window.ListView1.Selected() == 1);
+        CHECK(window.ListView1.Cell(1, 1) == (knowsFolders ? L"s.cly" : L"C:\\Act\\Layout\\s.cly"));
+        CHECK((window.ListView1.RowColor(1) == CLR_DEFAULT) == knowsFolders);
+        CHECK(window.ListView1.RowColor(0) == CLR_DEFAULT);
+        CHECK(script.All()[0].Text.find(L"in frmMain: Sub Form_Load - Line # ") != std::wstring::npos);
+        End(window);
+    }
+}
+
+TEST_CASE("A double-click beside the rows is one for none, and a right click on the titles is none on a row") {
     ActDesk desk;
-    desk.AddDatabase(L"Nothing", {});
+    desk.AddDatabase(L"Sales", {});
     frmMain window;
     window.Load();
-    CHECK(window.ListView1.RowColor(0) == CLR_DEFAULT);
-    CHECK(Program().OpenDatabaseNames.empty());
+    HWND list = window.ListView1.Handle();
+    RECT titles{};
+    GetWindowRect(reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)), &titles);
+    SendMessageW(window.Handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list),
+                 MAKELPARAM(titles.left + 5, titles.top + 5)); // would wait for its menu
+    NMITEMACTIVATE click{};
+    click.hdr = {list, 0, NM_DBLCLK};
+    click.iItem = -1;
+    DialogScript script;
+    script.Answer(IDOK);
+    SendMessageW(window.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&click));
+    CHECK(script.All()[0].Text == L"No database selected!");
     End(window);
 }
 

@@ -1,11 +1,14 @@
 // Start-up and shut-down of the main window.
 
+#include "app/frmWaiting.h"
 #include "i18n/modLangues.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
+#include "support/BusyWait.h"
 #include "support/DialogScript.h"
+#include "support/MsgBox.h"
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
@@ -230,10 +233,64 @@ TEST_CASE("Settings of version 200 are wiped but for the settings file's place; 
     End(window);
 }
 
+TEST_CASE("Told to close while dialogs are open, the window leaves them one after another, with the moves made") {
+    bool isSessionOver = false;
+    SUBCASE("by its user") {}
+    SUBCASE("by the end of the session") { isSessionOver = true; }
+    ActDesk desk;
+    for (const wchar_t* name : {L"A", L"B"}) desk.AddDatabase(name, {});
+    frmMain window;
+    window.Load();
+    DialogScript script;
+    script.Then([](HWND list) {
+        TranslateKey(FindControl(list, L"lstDB"), VK_DOWN, VK_MENU);
+        Click(FindControl(list, L"cmdAdd"));
+    });
+    script.Then([&](HWND) {
+        if (isSessionOver)
+            SendMessageW(window.Handle(), WM_ENDSESSION, TRUE, 0);
+        else
+            PostMessageW(window.Handle(), WM_CLOSE, 0, 0);
+    });
+    window.mnuManageList.Click();
+    if (isSessionOver)
+        End(window);
+    else
+        RunToEnd(window);
+    CHECK(IniLib::GetKeyValue(L"General", L"Sort") == L"B;A");
+    SilenceMessages(false);
+}
+
+TEST_CASE("While nothing is to be seen and ACT! refuses a call for ten seconds, a small window can end the waiting") {
+    ActDesk desk;
+    desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Sales.dbf"}});
+    frmWaiting::Serve();
+    frmMain window;
+    window.Load();
+    desk.Act.Fault = [](const std::wstring& member, VARIANT*) -> std::optional<HRESULT> {
+        if (member == L"DefaultContactLayout") return RPC_E_SERVERCALL_RETRYLATER;
+        return std::nullopt;
+    };
+    DialogScript script;
+    script.Then([](HWND waiting) {
+        CHECK(WindowText(FindControl(waiting, L"lblWaiting")).starts_with(L"Kelmorra is waiting for ACT!"));
+        Click(FindControl(waiting, L"cmdCancel"));
+    });
+    script.Answer(IDOK);
+    const DWORD start = GetTickCount();
+    window.Open_DB(L"Sales", 0, false);
+    CHECK(GetTickCount() - start >= 10'000);
+    CHECK(script.All()[1].Text.find(L"in frmMain: Sub cmdOpen_Click - Line # ") != std::wstring::npos);
+    CHECK(window.Visible());
+    End(window);
+    BusyWait::Now = nullptr;
+}
+
 TEST_CASE("When ACT!'s user closes it, the program answers yes and follows, whatever is on screen") {
     ActDesk desk;
     frmMain window;
-    SUBCASE("with nothing but the window") {
+    SUBCASE("with nothing but the window, and an answer that fails") {
+        desk.Act.Failures[L"AnswerUserWantsToClose"] = {.Plain = E_FAIL};
         window.Load();
         desk.Act.UserWantsToClose();
         RunToEnd(window);

@@ -1,6 +1,7 @@
 // The palette, its settings dialog, and the start of ACT! from it.
 
 #include "program/Program.h"
+#include "quickswitch/PalettePlace.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
 #include "stores/IniLib.h"
@@ -9,7 +10,6 @@
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"
-#include "ui/Contrast.h"
 
 namespace {
 
@@ -151,15 +151,24 @@ TEST_CASE("Keys move the focus and press buttons") {
         CHECK(FocusIn(window) == FindControl(window, L"pic4"));
         SendMessageW(FocusIn(window), WM_KEYDOWN, VK_RIGHT, 1); // no further column
         CHECK(FocusIn(window) == FindControl(window, L"pic4"));
-        SendMessageW(FocusIn(window), WM_KEYDOWN, '2', 1);
+        SendMessageW(FocusIn(window), WM_KEYDOWN, VK_NUMPAD2, 1);
     });
     CHECK(main.Opened == L"B/0/hidden;");
 }
 
-TEST_CASE("Red stays red where it can be read on the window's colour") {
-    CHECK(Contrast::Ratio(RGB(255, 0, 0), RGB(255, 255, 255)) == doctest::Approx(4.0).epsilon(0.01));
-    CHECK(Contrast::Readable(RGB(255, 0, 0), RGB(255, 255, 255), RGB(1, 2, 3)) == RGB(1, 2, 3));
-    CHECK(Contrast::Readable(RGB(255, 0, 0), RGB(0, 0, 0), RGB(1, 2, 3)) == RGB(255, 0, 0));
+TEST_CASE("A place from which the control box cannot be reached is moved onto the nearest screen") {
+    const std::vector<RECT> screens{{0, 0, 1000, 700}, {1000, -300, 3000, 1200}};
+    const std::pair<RECT, POINT> rows[] = {
+        {{10, 20, 310, 180}, {10, 20}},       {{900, 500, 1200, 660}, {900, 500}}, // its box is on the second one
+        {{-200, 650, 100, 810}, {-200, 650}}, {{-400, 20, -100, 180}, {0, 20}},      {{2950, 0, 3250, 160}, {2700, 0}},
+        {{200, -30, 500, 130}, {200, 0}},     {{600, 5000, 900, 5160}, {1000, 1040}}};
+    for (const auto& [place, corner] : rows) {
+        CAPTURE(place.left);
+        const RECT moved = PalettePlace::WithinReach(place, 12, screens);
+        CHECK(moved.left == corner.x);
+        CHECK(moved.top == corner.y);
+        CHECK(moved.right - moved.left == 300);
+    }
 }
 
 TEST_CASE("A scheme that is none is reported, and the palette still comes up") {
@@ -193,8 +202,9 @@ TEST_CASE("The settings offer every database, drop a vanished name, and write al
         CHECK(dialog.cboDB[0].SelectedText().empty());
         CHECK(dialog.cboDB[1].SelectedText() == L"Service");
         dialog.cboDB[7].Select(L"Sales");
-        dialog.optColor[0].Value(false);
-        dialog.optColor[3].Value(true);
+        HWND sample = FindControl(window, L"picSample", 3);
+        SendMessageW(GetParent(sample), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sample), STN_CLICKED),
+                     reinterpret_cast<LPARAM>(sample));
         dialog.chkStartup.Value(true);
         Click(FindControl(window, L"cmdOK"));
     });
