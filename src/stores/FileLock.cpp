@@ -25,6 +25,8 @@ FileLock::FileLock(const std::wstring& file) {
         if (lock_) return ERROR_SUCCESS;
         if (IsOnItsWayOut()) return ERROR_SHARING_VIOLATION;
         const DWORD code = GetLastError();
+        // The folder is away, unless its name has left no room for the lock's: nothing may be written unlocked then.
+        if (Patience::IsOutage(code) && path.size() < MAX_PATH) return ERROR_SHARING_VIOLATION;
         return code == ERROR_ACCESS_DENIED ? ERROR_NOACCESS : code; // no right: nothing to wait for
     });
     refused_ = error == ERROR_SHARING_VIOLATION;

@@ -11,7 +11,7 @@ public:
     /// Waits for other writers up to 240 milliseconds.
     explicit FileLock(const std::wstring& file);
 
-    /// Another writer does not finish.
+    /// Another writer does not finish, or the folder is away.
     bool IsRefused() const { return refused_; }
     /// False also where no file can be made beside the other one, so that nobody can lock it.
     bool IsTaken() const { return static_cast<bool>(lock_); }

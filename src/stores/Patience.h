@@ -16,6 +16,20 @@ public:
     /// True for the errors of a call that others get in the way of, which pass.
     static bool Helps(DWORD error) { return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION; }
 
+    /// True for the errors of a file whose folder or share is away.
+    static bool IsOutage(DWORD error) {
+        switch (error) {
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_PATH_NOT_FOUND:
+        case ERROR_NOT_READY:
+        case ERROR_BAD_NETPATH:
+        case ERROR_BAD_NET_NAME:
+        case ERROR_NETNAME_DELETED:
+        case ERROR_NETWORK_UNREACHABLE: return true;
+        default: return false;
+        }
+    }
+
 private:
     DWORD start_;
     DWORD milliseconds_;

@@ -82,7 +82,7 @@ DWORD WorkingCopy::CopyAfresh() {
     const DWORD error = GetLastError();
     const SafeFile::Contents original = SafeFile::Read(original_);
     isNew_ = original.IsMissing();
-    isMisplaced_ = original.IsRead() && error != ERROR_DISK_FULL;
+    isMisplaced_ = original.IsRead() && error != ERROR_DISK_FULL && !Patience::IsOutage(error);
     // Made here: Wine takes what it remembers of an earlier file of that name for one that is still to be made.
     if (isNew_) return ErrorUnless(static_cast<bool>(Create(path_)));
     return original.IsRead() ? error : original.Error;
@@ -98,14 +98,17 @@ DWORD WorkingCopy::PutInPlace() const {
     if (before.IsRead() && before.Bytes == after.Bytes) return ERROR_SUCCESS;
     const Patience patience(Patience::ForOthers);
     const bool mayReplace = isBeside_ && (isNew_ || !HasSecondName(original_));
-    if (mayReplace && Replace(attributes, patience) == ERROR_SUCCESS) return ERROR_SUCCESS;
+    const DWORD error = mayReplace ? Replace(attributes, patience) : ERROR_ACCESS_DENIED;
+    // A share that goes away at this moment is no reason to do without the one step.
+    if (error == ERROR_SUCCESS || Patience::IsOutage(error)) return error;
     return Overwrite(after.Bytes, patience);
 }
 
 DWORD WorkingCopy::Replace(DWORD attributes, const Patience& patience) const {
     FlushToDisk(path_);
     if (!isNew_) {
-        if (!Permissions::CarryOver(original_, path_)) return ERROR_ACCESS_DENIED;
+        if (!Permissions::CarryOver(original_, path_))
+            return SafeFile::Read(path_).IsRead() ? ERROR_ACCESS_DENIED : ERROR_PATH_NOT_FOUND;
         SetFileAttributesW(path_.c_str(), attributes);
     }
     // One that has come back meanwhile is not replaced: nobody has read it.
