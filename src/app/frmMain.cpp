@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <ranges>
 
 namespace {
 
@@ -266,9 +265,10 @@ void frmMain::Form_CloseBox() {
 void frmMain::EndSession() {
     SilenceMessages(true);
     EndMenu();
-    for (const std::vector<Form*> forms = Form::Loaded(); Form * form : forms | std::views::reverse)
-        if (form != this && !form->Unloaded()) {
-            Program().QuickSwitchHandled = true; // the palette brings no window back
+    Program().QuickSwitchHandled = true; // the palette brings no window back
+    std::vector<Form*> forms = Form::Loaded();
+    for (; !forms.empty(); forms.pop_back()) // the last one opened first
+        if (Form* const form = forms.back(); form != this && !form->Unloaded()) {
             form->CloseAsByUser();
             form->Unload();
         }
