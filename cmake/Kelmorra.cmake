@@ -19,7 +19,15 @@ add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fno-rtti> $<$<COMPILE_LANGUAGE:CX
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type>)
 # Paths in diagnostics start at the project folder.
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
-add_link_options(-static -s -Wl,--gc-sections -Wl,--no-insert-timestamp)
+if(KELMORRA_CHECKED)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+  add_compile_options(
+    $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined> $<$<COMPILE_LANGUAGE:CXX>:-fsanitize-undefined-trap-on-error>
+    $<$<COMPILE_LANGUAGE:CXX>:-g1>)
+else()
+  add_link_options(-s)
+endif()
+add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 
 # kelmorra_library(NAME SOURCES ... LINKS ...): a folder of src as one static library.
 function(kelmorra_library name)

@@ -135,8 +135,8 @@ void frmMain::LayOut(int width, int height) {
     Frame1.Move({120, 2715 + growth, width - 1980, 1290});
     cmdOpen.Move({width - 1375, 120, 1135, 345});
     cmdCancel.Move({width - 1375, 570, 1135, 345});
-    lblMore.Move({width - 2375, 4140 + growth, 555, 255});
-    lblLink.Move({width - 1775, 4140 + growth, 1640, 255});
+    lblMore.Move({width - 2375, 4140 + growth, 600, 255});
+    lblLink.Move({width - 1775, 4140 + growth, 1655, 255});
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 

@@ -57,7 +57,7 @@ public:
     ControlArray<OptionButton, 2> optLocations{this, fraLocations, L"optLocations", OptionPlaces, nullptr};
     ComboBox cboDB{this, fraLocations, L"cboDB", {420, 480, 3600, 315}, &frmProperties::cboDB_Click};
     CommandButton cmdEditLocations{
-        this, fraLocations, L"cmdEditLocations", {420, 1380, 2400, 345}, &frmProperties::cmdEditLocations_Click};
+        this, fraLocations, L"cmdEditLocations", {420, 1380, 2700, 345}, &frmProperties::cmdEditLocations_Click};
 
     Frame fraLogon{this, L"fraLogon", {180, 510, 6540, 3390}, Frame::Kind::Page};
     Label lblUsername{this, fraLogon, L"lblUsername", {150, 150, 5400, 225}};

@@ -19,14 +19,14 @@ frmAssign::frmAssign() : Form({L"frmAssign", 7830, 5880}) {}
 
 std::array<Twips, frmAssign::ButtonCount> frmAssign::LabelPlaces() {
     std::array<Twips, ButtonCount> places;
-    for (size_t row = 0; row < places.size(); ++row) places[row] = {150, 375 + static_cast<int>(row) * kRow, 1080, 225};
+    for (size_t row = 0; row < places.size(); ++row) places[row] = {150, 375 + static_cast<int>(row) * kRow, 1320, 225};
     return places;
 }
 
 std::array<Twips, frmAssign::ButtonCount> frmAssign::ListPlaces() {
     std::array<Twips, ButtonCount> places;
     for (size_t row = 0; row < places.size(); ++row)
-        places[row] = {1260, 330 + static_cast<int>(row) * kRow, 3060, 315};
+        places[row] = {1500, 330 + static_cast<int>(row) * kRow, 2820, 315};
     return places;
 }
 

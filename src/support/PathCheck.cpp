@@ -2,8 +2,6 @@
 
 #include "win32/Owner.h"
 
-#include <atomic>
-#include <memory>
 #include <utility>
 
 namespace {
@@ -15,17 +13,18 @@ struct Job {
     std::vector<std::wstring> Paths;
 };
 
-std::atomic<bool> isRunning;
+LONG isRunning = 0; // of one thread or the other: Interlocked calls alone touch it
 
 DWORD WINAPI Look(void* parameter) {
     {
-        const std::unique_ptr<Job> job(static_cast<Job*>(parameter));
-        for (size_t index = 0; index < job->Paths.size(); ++index) {
-            const bool isMissing = GetFileAttributesW(job->Paths[index].c_str()) == INVALID_FILE_ATTRIBUTES;
-            PostMessageW(job->Window, job->Message, index * 2 + (isMissing ? 1 : 0), job->Number);
+        const Owned<Job> owner(static_cast<Job*>(parameter));
+        const Job& job = *owner.Get();
+        for (size_t index = 0; index < job.Paths.size(); ++index) {
+            const bool isMissing = GetFileAttributesW(job.Paths[index].c_str()) == INVALID_FILE_ATTRIBUTES;
+            PostMessageW(job.Window, job.Message, index * 2 + (isMissing ? 1 : 0), job.Number);
         }
-        isRunning = false;
-        PostMessageW(job->Window, job->Message, PathCheck::Done, job->Number);
+        InterlockedExchange(&isRunning, 0);
+        PostMessageW(job.Window, job.Message, PathCheck::Done, job.Number);
     }
     return 0;
 }
@@ -33,13 +32,13 @@ DWORD WINAPI Look(void* parameter) {
 } // namespace
 
 long PathCheck::Start(HWND window, std::vector<std::wstring> paths) {
-    if (isRunning.exchange(true)) return 0;
-    auto job = std::make_unique<Job>(Job{window, message_, ++number_, std::move(paths)});
-    const KernelHandle thread(CreateThread(nullptr, 0, &Look, job.get(), 0, nullptr));
+    if (InterlockedExchange(&isRunning, 1) != 0) return 0;
+    Owned<Job> job(new Job{window, message_, ++number_, std::move(paths)});
+    const KernelHandle thread(CreateThread(nullptr, 0, &Look, job.Get(), 0, nullptr));
     if (!thread) {
-        isRunning = false;
+        InterlockedExchange(&isRunning, 0);
         return 0;
     }
-    static_cast<void>(job.release()); // the thread's
+    static_cast<void>(job.Release()); // the thread's
     return number_;
 }

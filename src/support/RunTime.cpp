@@ -24,7 +24,9 @@ namespace {
 // NOLINTBEGIN
 namespace std {
 
-// All of the library's file that has them: one that is missing here would bring that file, and each of them twice.
+// All of the library's file that has them, in GCC 12 as in GCC 14. Another version's file may have one more: a program
+// that needs it does not link, as the file comes with it and brings all the others a second time. It is to be added
+// here.
 void __throw_bad_exception() { InvalidCall(); }
 void __throw_bad_alloc() { throw bad_alloc(); }
 void __throw_bad_array_new_length() { throw bad_alloc(); }

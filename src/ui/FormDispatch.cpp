@@ -51,6 +51,8 @@ LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_COMMAND: return DispatchCommand(wParam, lParam);
     case WM_NOTIFY: {
+        // Key notifications are packed, so they may lie at odd places. Nobody listens to them.
+        if (static_cast<ULONG_PTR>(lParam) % alignof(NMHDR) != 0) return 0;
         auto& header = *reinterpret_cast<NMHDR*>(lParam);
         // A tool tip asks in its control's name.
         const bool isTip = header.code == TTN_GETDISPINFOW;

@@ -3,10 +3,10 @@
 #include "common/Faults.h"
 #include "common/Journal.h"
 #include "support/Text.h"
+#include "win32/Owner.h"
 
 #include <algorithm>
 #include <cwchar>
-#include <memory>
 
 namespace {
 
@@ -113,7 +113,7 @@ STDMETHODIMP_(ULONG) Automation::AddRef() { return ++references_; }
 
 STDMETHODIMP_(ULONG) Automation::Release() {
     const ULONG left = --references_;
-    if (left == 0) const std::unique_ptr<Automation> last(this);
+    if (left == 0) const Owned<Automation> last(this);
     return left;
 }
 

@@ -41,7 +41,7 @@ constexpr Member kMembers[] = {
 } // namespace
 
 ActEvent::ActEvent() : Automation(L"EVENT", kMembers) {
-    if (!RegistrationHasFailed()) hook_ = std::make_unique<Hook>(*this);
+    if (!RegistrationHasFailed()) hook_.emplace(*this);
 }
 
 STDMETHODIMP ActEvent::QueryInterface(REFIID iid, void** object) {

@@ -4,7 +4,7 @@
 #include "event/ConnectionPoint.h"
 #include "event/Hook.h"
 
-#include <memory>
+#include <optional>
 
 /// The event component: answers also when no ACT! runs, and tells its sinks when the user wants to close ACT!.
 class ActEvent final : public Automation,
@@ -57,5 +57,5 @@ private:
 
     ConnectionPoint point_{*this};
     ComPtr<IOleClientSite> site_;
-    std::unique_ptr<Hook> hook_;
+    std::optional<Hook> hook_;
 };

@@ -2,8 +2,8 @@
 
 #include "common/Journal.h"
 #include "common/Protocol.h"
+#include "win32/Owner.h"
 
-#include <memory>
 #include <string>
 
 namespace {
@@ -24,7 +24,7 @@ public:
     STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
     STDMETHODIMP_(ULONG) Release() override {
         const ULONG left = --references_;
-        if (left == 0) const std::unique_ptr<Enumeration> last(this);
+        if (left == 0) const Owned<Enumeration> last(this);
         return left;
     }
     STDMETHODIMP Next(ULONG count, IConnectionPoint** points, ULONG* fetched) override {

@@ -7,12 +7,25 @@
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/BusyWait.h"
+#include "support/Detour.h"
 #include "support/DialogScript.h"
 #include "support/MsgBox.h"
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
+extern decltype(&CreateFileW) importedCreateFile __asm__("__imp__CreateFileW@28");
+
 namespace {
+
+decltype(&CreateFileW) const realCreateFile = importedCreateFile;
+
+/// Opens what is there, as in a folder that the user may only read. Root may write in any.
+HANDLE WINAPI CreateNone(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security, DWORD way,
+                         DWORD flags, HANDLE model) {
+    if (way == OPEN_EXISTING) return realCreateFile(path, access, share, security, way, flags, model);
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+}
 
 /// Starts, answers one message box and waits for the end. Returns what the box showed.
 DialogScript::Seen RefusedStart() {
@@ -67,37 +80,29 @@ TEST_CASE("ACT! failing before the list is due ends the program with one report"
     }
 }
 
-TEST_CASE("From the settings file on, a failure is reported once and leaves a usable window") {
-    ActDesk desk;
-    desk.AddDatabase(L"Sales", {});
-    UserStore::Set(L"Settings", L"IniLocation", L"C:\\No such folder\\Kelmorra.ini");
-    DialogScript script;
-    script.Answer(IDOK);
-    frmMain window;
-    window.Load();
-    REQUIRE(script.All().size() == 1);
-    CHECK(script.All()[0].Text.starts_with(L"Error 75: '"));
-    CHECK(script.All()[0].Text.find(L"in frmMain: Sub Form_Load - Line # ") != std::wstring::npos);
-    CHECK(window.Visible());
-    CHECK(window.ListView1.ColumnCount() == 5);
-    CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");
-    End(window);
-}
-
-TEST_CASE("Where no settings file may be made the user is shown the way to another place, and the window comes up") {
-    ActDesk desk;
-    UserStore::Set(L"Settings", L"IniLocation", L"Z:\\sys\\Kelmorra.ini"); // a folder where nobody may
-    DialogScript script;
-    script.Answer(IDOK);
-    frmMain window;
-    window.Load();
-    CHECK(window.Visible());
-    REQUIRE(script.All().size() == 1);
-    CHECK(script.All()[0].Text == L"The list of databases cannot be kept in\r\nZ:\\sys\\Kelmorra.ini\r\nbecause it "
-                                  L"cannot be written there. Please "
-                                  L"make an empty file Kelmorra.ini in a folder of your own and choose it under "
-                                  L"Options > Settings File Location.");
-    End(window);
+TEST_CASE("From the settings file on, a failure is told once and leaves a usable window") {
+    for (const bool isDenied : {false, true}) {
+        CAPTURE(isDenied);
+        ActDesk desk;
+        DeleteFileW(desk.SettingsFile().c_str());
+        if (!isDenied) UserStore::Set(L"Settings", L"IniLocation", L"C:\\No such folder\\Kelmorra.ini");
+        const Detour denial(importedCreateFile, isDenied ? CreateNone : realCreateFile);
+        DialogScript script;
+        script.Answer(IDOK);
+        frmMain window;
+        window.Load();
+        REQUIRE(script.All().size() == 1);
+        const std::wstring told = script.All()[0].Text;
+        const std::wstring hint = L"The list of databases cannot be kept in\r\n" + desk.SettingsFile() +
+                                  L"\r\nbecause it cannot be written there. Please make an empty file Kelmorra.ini in "
+                                  L"a folder of your own and choose it under Options > Settings File Location.";
+        CHECK((isDenied ? told == hint : told.starts_with(L"Error 75: '")));
+        CHECK((told.find(L"in frmMain: Sub Form_Load - Line # ") == std::wstring::npos) == isDenied);
+        CHECK(window.Visible());
+        CHECK(window.ListView1.ColumnCount() == 5);
+        CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");
+        End(window);
+    }
 }
 
 namespace {

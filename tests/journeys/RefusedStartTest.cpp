@@ -42,15 +42,6 @@ std::wstring German(size_t index) { return FromUtf8(LangTextTable.at(index - 1).
 
 } // namespace
 
-TEST_CASE_FIXTURE(Journey, "without a running ACT! the program asks for it and changes nothing") {
-    Furnish(*this);
-    const Stores before = Read(*this);
-    const JourneyWindow::Box box = RefusedStart(*this);
-    CHECK(box.Title == L"Kelmorra");
-    CHECK(box.Text == L"Please run ACT! before running Kelmorra");
-    CHECK(Read(*this) == before);
-}
-
 TEST_CASE_FIXTURE(Journey, "an event component that is not registered with ACT! is told of in the user's language") {
     Furnish(*this);
     Act(L"Presets", L"RegistrationFailed", L"1");

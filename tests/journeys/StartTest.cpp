@@ -1,12 +1,8 @@
-// What a start does to the stores: the upgrade, and a settings file that is made.
+// What a start does to the stores: the upgrade.
 
 #include "support/Journey.h"
 
-namespace {
-
 using JourneyStores::User;
-
-} // namespace
 
 TEST_CASE_FIXTURE(Journey, "only settings of an earlier version are upgraded") {
     struct Case {
@@ -25,12 +21,4 @@ TEST_CASE_FIXTURE(Journey, "only settings of an earlier version are upgraded") {
         CHECK(User(L"Settings", L"Version") == L"320");
         Close();
     }
-}
-
-TEST_CASE_FIXTURE(Journey, "a missing settings file is made, holding a single blank") {
-    const std::wstring path = File(L"Customers.dbf");
-    JourneyStores::FileBytes(path, "dBASE");
-    StartAct(path);
-    StartToMainWindow();
-    CHECK(JourneyStores::FileBytes(SettingsFile()) == " \r\n");
 }

@@ -62,18 +62,6 @@ TEST_CASE_FIXTURE(Journey, "size, columns and selection are there again at the n
     CHECK(list.Selected() == 1);
 }
 
-TEST_CASE_FIXTURE(Journey, "closed while minimised, the window keeps the size it had before") {
-    StartActWithTwo(*this);
-    HWND window = StartToMainWindow();
-    Resize(window, 750, 450);
-    PostMessageW(window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
-    REQUIRE(Within([&] { return IsIconic(window) != FALSE; }));
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    CHECK(Program().ExitCode() == 0u);
-    CHECK(User(L"Settings", L"Width") == std::to_wstring(750 * kTwipsPerPixel));
-    CHECK(User(L"Settings", L"Height") == std::to_wstring(450 * kTwipsPerPixel));
-}
-
 TEST_CASE_FIXTURE(Journey, "a tip comes when the mouse rests on a row, not when the window comes up below it") {
     StartActWithTwo(*this);
     HWND window = StartToMainWindow();

@@ -139,7 +139,7 @@ std::wstring Journey::ListRealDatabase(const std::wstring& name) {
 
 void Journey::StartAct(const std::wstring& database) {
     Act(L"Presets", L"OpenDatabase", database);
-    act_ = std::make_unique<Process>(group_, ActFile(L"ActStandIn.exe"));
+    act_.emplace(group_, ActFile(L"ActStandIn.exe"));
     // Its window answers once its message loop turns, and that is after it has begun to serve.
     REQUIRE(Within([this] {
         HWND window = JourneyWindow::Find(act_->Id(), kStandInClass);
@@ -152,7 +152,7 @@ bool Journey::AdoptAct() {
     HWND window = nullptr;
     if (!Within([&] { return (window = FindWindowW(kStandInClass, nullptr)) != nullptr && IsWindowVisible(window); }))
         return false;
-    act_ = std::make_unique<Process>(window);
+    act_.emplace(window);
     return true;
 }
 

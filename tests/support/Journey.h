@@ -6,7 +6,6 @@
 #include "support/Wide.h"
 
 #include <list>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -94,6 +93,6 @@ private:
     std::wstring folder_;
     ProcessGroup group_;
     std::list<Process> programs_;
-    std::unique_ptr<Process> act_;
+    std::optional<Process> act_;
     bool isUnregistered_ = false;
 };

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// The controls of a form whose caption is wider than they are, each with both widths in pixels; "" when all fit.
+/// The controls of a form that are no wider than their caption with room to spare, each with both widths in pixels.
 std::wstring CutCaptions(HWND form);
 
 /// The controls of a form that reach over its edge, by caption; "" when none does.

@@ -2,7 +2,6 @@
 
 #include <shlwapi.h>
 
-/// The slot of the import table that calls of RegCreateKeyExA go through.
 extern decltype(&RegCreateKeyExA) importedCreateKey __asm__("__imp__RegCreateKeyExA@36");
 
 namespace {
@@ -16,13 +15,6 @@ LSTATUS WINAPI DenyingCreateKey(HKEY root, LPCSTR path, DWORD reserved, LPSTR cl
     return realCreateKey(root, path, reserved, className, options, access, security, key, disposition);
 }
 
-void ReplaceImport(decltype(&RegCreateKeyExA) function) {
-    DWORD protection = 0;
-    VirtualProtect(&importedCreateKey, sizeof importedCreateKey, PAGE_READWRITE, &protection);
-    importedCreateKey = function;
-    VirtualProtect(&importedCreateKey, sizeof importedCreateKey, protection, &protection);
-}
-
 } // namespace
 
 ScratchRegistry::ScratchRegistry() : path_(L"Software\\KelmorraTests\\" + std::to_wstring(GetCurrentProcessId())) {
@@ -32,7 +24,6 @@ ScratchRegistry::ScratchRegistry() : path_(L"Software\\KelmorraTests\\" + std::t
 }
 
 ScratchRegistry::~ScratchRegistry() {
-    ReplaceImport(realCreateKey);
     RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
     RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
     SHDeleteKeyW(HKEY_CURRENT_USER, path_.c_str());
@@ -45,7 +36,7 @@ void ScratchRegistry::RefuseKeysBelow(HKEY root) {
 
 void ScratchRegistry::DenyKeysBelow(HKEY root) {
     deniedRoot = root;
-    ReplaceImport(DenyingCreateKey);
+    denial_.emplace(importedCreateKey, DenyingCreateKey);
 }
 
 void ScratchRegistry::LocalData(const std::wstring& folder) {

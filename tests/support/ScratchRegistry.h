@@ -1,7 +1,9 @@
 #pragma once
 
+#include "support/Detour.h"
 #include "win32/Owner.h"
 
+#include <optional>
 #include <string>
 
 /// While one lives, HKEY_CURRENT_USER and HKEY_CLASSES_ROOT of this process are empty scratch keys of their own.
@@ -26,4 +28,5 @@ private:
     void Override(HKEY root, const wchar_t* name, DWORD options);
 
     std::wstring path_;
+    std::optional<Detour<decltype(&RegCreateKeyExA)>> denial_;
 };

@@ -47,19 +47,14 @@ TEST_CASE("Rows that are known to the letter") {
         const wchar_t* texts[3];
     };
     const Row rows[] = {
-        {1, {L"&OK", L"&OK", L"&OK"}},
-        {2, {L"&Cancel", L"&Annuler", L"&Abbrechen"}},
         {7,
          {L"An instance of this program is already running !", L"Une copie de ce programme est déjà en marche !",
           L"Dieses Programm ist bereits gestartet !"}},
         {24, {L"software.htm", L"logiciels.htm", L"software.htm"}},
         {63, {L"kelmorra_online", L"kelmorra_enligne", L"kelmorra_online_de"}},
-        {64, {L"Pick your language", L"Choisissez votre langue", L"Wählen Sie Ihre Sprache"}},
         {79,
          {L"This database is already open!", L"Cette base de données est déjà ouverte!",
           L"Die Datenbank ist bereits geöffnet !"}},
-        {82,
-         {L"No database selected!", L"Aucune base de données n'a été sélectionnée!", L"Keine Datenbank ausgewählt!"}},
         {126,
          {L"Please make sure a database is open or ACT! completely closed before running Kelmorra!",
           L"Veuillez ouvrir une base de données ou fermer ACT! complètement avant de lancer Kelmorra!",
