@@ -6,8 +6,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 # The oldest Windows served is XP. Newer functions are looked up at run time.
 add_compile_definitions(UNICODE _UNICODE WINVER=0x0501 _WIN32_WINNT=0x0501 _WIN32_IE=0x0600)
+# No section for each function: with one come tables of its own for exceptions, more than what the linker could leave out.
 add_compile_options(
-  $<$<COMPILE_LANGUAGE:CXX>:-Oz> $<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>
+  $<$<COMPILE_LANGUAGE:CXX>:-Oz> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>
   $<$<COMPILE_LANGUAGE:CXX>:-Wall> $<$<COMPILE_LANGUAGE:CXX>:-Wextra> $<$<COMPILE_LANGUAGE:CXX>:-Wpedantic>
   $<$<COMPILE_LANGUAGE:CXX>:-Wconversion> $<$<COMPILE_LANGUAGE:CXX>:-Wshadow> $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast> $<$<COMPILE_LANGUAGE:CXX>:-Wimplicit-fallthrough>
