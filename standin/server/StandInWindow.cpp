@@ -3,6 +3,7 @@
 #include "common/Automation.h"
 #include "common/Protocol.h"
 #include "server/ClassObjects.h"
+#include "server/EmailAccount.h"
 #include "server/FactsList.h"
 #include "server/LogOn.h"
 #include "server/Session.h"
@@ -215,6 +216,7 @@ void StandInWindow::RequestClose() {
 void StandInWindow::UserCloses() {
     if (notice_.IsOpen()) return;
     LogOn::Cancel();
+    EmailAccount::Cancel();
     Follow(notice_.Ask(window_));
 }
 
