@@ -104,8 +104,9 @@ void StandInWindow::Run() {
 
 void StandInWindow::HandOver(HWND running, const std::wstring& database) {
     constexpr UINT kPatience = 5000;
+    const size_t size = (database.size() + 1) * sizeof(wchar_t);
     COPYDATASTRUCT data{};
-    data.cbData = static_cast<DWORD>((database.size() + 1) * sizeof(wchar_t));
+    data.cbData = static_cast<DWORD>(size);
     data.lpData = const_cast<wchar_t*>(database.c_str());
     if (!database.empty())
         SendMessageTimeoutW(running, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_ABORTIFHUNG, kPatience,
