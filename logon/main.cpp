@@ -1,9 +1,9 @@
 // The log-on helper: fills in ACT!'s log-on dialog with the values that the launcher has put ready, and ends.
 
 #include "LogonDialog.h"
+#include "Turn.h"
 #include "stores/Cipher.h"
 #include "support/Application.h"
-#include "win32/Owner.h"
 
 #include <algorithm>
 #include <array>
@@ -15,34 +15,14 @@ constexpr wchar_t kLogon[] = L"Logon";
 constexpr DWORD kPollMilliseconds = 100;
 constexpr int kLongestWaitSeconds = 60;
 
-/// One helper waits at a time. A new one sends the older away, for whose database is no longer being opened.
-class Turn {
-public:
-    Turn() {
-        constexpr DWORD kLeaveMilliseconds = 15'000; // an ACT! that hangs may hold the older one up
-        if (WaitForSingleObject(waiting_.Get(), 0) == WAIT_TIMEOUT) {
-            SetEvent(newer_.Get());
-            WaitForSingleObject(waiting_.Get(), kLeaveMilliseconds);
-        }
-        ResetEvent(newer_.Get());
-    }
-
-    /// Waits for a moment; true when a newer helper has started.
-    bool IsOver() const { return WaitForSingleObject(newer_.Get(), kPollMilliseconds) != WAIT_TIMEOUT; }
-
-private:
-    KernelHandle newer_{CreateEventW(nullptr, TRUE, FALSE, L"Local\\Kelmorra.Logon.Newer")};
-    KernelHandle waiting_{CreateMutexW(nullptr, FALSE, L"Local\\Kelmorra.Logon.Waiting")};
-};
-
-LogonDialog WaitForDialog(const Turn& turn) {
-    const LogonDialogTraits traits;
+LogonDialog WaitForDialog(const LogonDialogTraits& traits, const Turn& turn) {
     const int seconds = StoredText(LogonDialogTraits::Section, L"Seconds", L"60").Number();
     const auto wait = static_cast<DWORD>(std::clamp(seconds, 0, kLongestWaitSeconds)) * 1000;
     const DWORD start = GetTickCount();
-    do {
+    for (DWORD pause = 0; !turn.IsOver(pause); pause = kPollMilliseconds) {
         if (const LogonDialog dialog = LogonDialog::Find(traits); dialog.Window) return dialog;
-    } while (!turn.IsOver() && GetTickCount() - start < wait);
+        if (GetTickCount() - start >= wait) break;
+    }
     return {};
 }
 
@@ -71,6 +51,7 @@ bool LogOn(const LogonDialog& dialog) {
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
     const Turn turn;
     if (StoredText(kLogon, L"Username").IsEmpty()) return 1;
-    const LogonDialog dialog = WaitForDialog(turn);
+    const LogonDialogTraits traits;
+    const LogonDialog dialog = WaitForDialog(traits, turn);
     return dialog.Window && LogOn(dialog) ? 0 : 1;
 }

@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 
+#include "act/LogonHelper.h"
 #include "databases/ActSettings.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
@@ -48,7 +49,6 @@ bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidde
     preferences.DefaultGroupLayout(OrRecorded(record.GroupLayout, L"OriginalGL"));
     ActSettings::WriteLocations(name);
     LogonValues::CopyToLogon(name);
-    OpenWithShell(Application::FileInFolder(L"logon.exe"));
     if (!OpenDatabase(record.Path)) return false;
     ShowView(viewCode);
     RunOpeningMacro(record.OpeningMacro);
@@ -58,6 +58,7 @@ bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidde
 
 bool frmMain::OpenDatabase(const std::wstring& path) {
     try {
+        const LogonHelper helper;
         Program().Application.openDB(path);
         return true;
     } catch (const Error& error) {

@@ -1,5 +1,6 @@
 #include "app/modStartACT.h"
 
+#include "act/LogonHelper.h"
 #include "databases/ActSettings.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/modLangues.h"
@@ -76,7 +77,7 @@ void StartACT_mode(MainWindow& mainWindow, const clsToolbarIcon& toolbarIcon) tr
     }
     OpenWithShell(act);
     WriteLogonValues(name);
-    OpenWithShell(Application::FileInFolder(L"logon.exe"));
+    LogonHelper::Start();
 } catch (...) {
     ErrorReport("modStartACT: Sub StartACT_mode");
 }

@@ -10,7 +10,8 @@ using JourneyStores::User;
 
 constexpr wchar_t kRight[] = L"\u0160\u00c4\u00b2\u00c3\u00b7\u00c4"; // "Exeter" as the launcher stores it
 constexpr wchar_t kWrong[] = L"\u0160\u00c4";                         // "Ex"
-constexpr int kUserId = 201, kPasswordId = 202, kMessageId = 203;     // of the stand-in's dialog
+constexpr wchar_t kNotAccessible[] = L"This database is not accessible. Please choose another database.";
+constexpr int kUserId = 201, kPasswordId = 202, kMessageId = 203; // of the stand-in's dialog
 
 /// A session with the helper beside the program, and a database of which ACT! asks for its user.
 class LogonJourney : public Journey {
@@ -31,12 +32,28 @@ public:
 
     Process StartHelper() const { return {Group(), ProgramFile(L"logon.exe")}; }
 
-    /// Every attempt to log on that the stand-in has seen.
+    /// Every attempt to log on that the stand-in has seen, and every end of its other dialog.
     std::wstring Attempts() const {
         std::wstring attempts;
         for (const Call& call : Log())
-            if (call.Member == L"LogOn") attempts += call.Arguments + L' ' + call.Result + L';';
+            if (call.Member == L"LogOn" || call.Member == L"EmailAccount")
+                attempts += call.Arguments + L' ' + call.Result + L';';
         return attempts;
+    }
+
+    /// ACT!'s dialog that is not for logging on; the running test ends when it does not come.
+    static HWND OtherDialog() {
+        HWND dialog = nullptr;
+        REQUIRE(Within([&] { return IsWindowVisible(dialog = FindWindowW(L"#32770", L"E-mail account")) != FALSE; }));
+        return dialog;
+    }
+
+    /// Waits until no helper is left, but only ACT! and so many programs, and cancels the other dialog.
+    void LeaveOther(DWORD programs) const {
+        HWND dialog = OtherDialog();
+        CHECK(Within([&] { return Group().Alive() == programs + 1; }));
+        PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+        REQUIRE(Within([&] { return !IsWindow(dialog); }));
     }
 
     static bool IsOpen(const wchar_t* database) {
@@ -110,12 +127,41 @@ TEST_CASE_FIXTURE(LogonJourney, "the program opens a database, and ACT! ends log
     CHECK(IsOpen(L"Customers.dbf"));
 }
 
+TEST_CASE_FIXTURE(LogonJourney, "what ACT! shows when the open is over, in whatever way, is none of the helper's") {
+    Act(L"EmailAccount", L"AfterOpen", L"500");
+    Store(L"Archive", L"1", kRight);
+    User(L"Display", L"Selected", L"0");
+    StartAct(File(L"Archive.dbf"));
+    std::filesystem::rename(File(L"Archive.dbf"), File(L"Away.dbf"));
+    HWND window = StartToMainWindow();
+    JourneyWindow::Click(window, L"cmdOpen");
+    CHECK(AnswerBox().Text == kNotAccessible);
+    LeaveOther(1);
+    std::filesystem::rename(File(L"Away.dbf"), File(L"Archive.dbf"));
+    JourneyWindow::Click(window, L"cmdOpen");
+    LeaveOther(0);
+    {
+        // A helper that comes late: it waits for its turn while the open is made.
+        const KernelHandle turn(CreateMutexW(nullptr, TRUE, L"Local\\Kelmorra.Logon.Waiting"));
+        JourneyWindow::Click(StartToMainWindow(), L"cmdOpen");
+        CHECK(Program().ExitCode() == 0u);
+        ReleaseMutex(turn.Get());
+        LeaveOther(0);
+    }
+    Act(L"Faults", L"openDB", L"hang 1500");
+    JourneyWindow::Click(StartToMainWindow(), L"cmdOpen");
+    REQUIRE(Within([this] { return Count(L"STANDIN", L"Hang") == 1; }));
+    Program().Terminate();
+    LeaveOther(0);
+    CHECK(Attempts() == L" cancelled; cancelled; cancelled; cancelled;");
+}
+
 TEST_CASE_FIXTURE(LogonJourney, "a wrong password is tried once; after three refusals the open fails") {
     OpenCustomers(kWrong);
     REQUIRE(Within([this] { return Attempts() == L"Pat Doe wrong;"; }));
     CHECK(JourneyWindow::Text(GetDlgItem(Dialog(), kMessageId)) == L"The user name or the password is wrong.");
     for (int attempt = 0; attempt < 2; ++attempt) PostMessageW(Dialog(), WM_COMMAND, IDOK, 0);
-    CHECK(AnswerBox().Text == L"This database is not accessible. Please choose another database.");
+    CHECK(AnswerBox().Text == kNotAccessible);
     CHECK(Attempts() == L"Pat Doe wrong;Pat Doe wrong;Pat Doe wrong;");
     CHECK(IsOpen(L"Archive.dbf"));
 }
