@@ -26,22 +26,25 @@ LogonDialog WaitForDialog(const LogonDialogTraits& traits, const Turn& turn) {
     return {};
 }
 
-bool FillInPassword(const LogonDialog& dialog) {
-    StoredText password(kLogon, L"Password");
+bool FillInPassword(const LogonDialog& dialog, StoredText& password) {
     std::array<wchar_t, std::size(Application::Title) - 1> key{};
     std::copy_n(Application::Title, key.size(), key.begin());
     Cipher::Shift(password.Characters(), key, -1);
     return LogonDialog::Fill(dialog.Password, password.Get());
 }
 
-bool LogOn(const LogonDialog& dialog) {
+/// Without a password to use nothing is confirmed: an attempt with an empty one would count as one.
+bool LogOn(const LogonDialog& dialog, const LogonDialogTraits& traits, const Turn& turn) {
+    StoredText password(kLogon, L"Password");
+    const bool confirms = !password.IsEmpty() && std::wcscmp(StoredText(kLogon, L"UsePassword").Get(), L"1") == 0;
     if (!LogonDialog::Fill(dialog.User, StoredText(kLogon, L"Username").Get())) return false;
-    if (std::wcscmp(StoredText(kLogon, L"UsePassword").Get(), L"1") != 0) {
+    if (confirms && !FillInPassword(dialog, password)) return false;
+    // Meanwhile ACT! may have closed the dialog and shown another one.
+    if (turn.IsOver(0) || LogonDialog::At(dialog.Window, traits) != dialog) return false;
+    if (confirms)
+        dialog.Confirm();
+    else
         dialog.AskForPassword();
-        return true;
-    }
-    if (!FillInPassword(dialog)) return false;
-    dialog.Confirm();
     return true;
 }
 
@@ -53,5 +56,5 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
     if (StoredText(kLogon, L"Username").IsEmpty()) return 1;
     const LogonDialogTraits traits;
     const LogonDialog dialog = WaitForDialog(traits, turn);
-    return dialog.Window && LogOn(dialog) ? 0 : 1;
+    return dialog.Window && LogOn(dialog, traits, turn) ? 0 : 1;
 }
