@@ -1,61 +1,64 @@
 #include "ActProgram.h"
 
+#include "ProgramPath.h"
 #include "win32/Owner.h"
 
 #include <tlhelp32.h>
 
-#include <array>
-#include <cwchar>
-
 namespace {
 
-using Command = std::array<wchar_t, 1024>;
-
-/// The text of a key under HKEY_CLASSES_ROOT, "" when there is none.
-Command ClassText(const wchar_t* key) {
-    Command text{};
-    auto size = static_cast<LONG>(sizeof text - sizeof(wchar_t));
-    if (RegQueryValueW(HKEY_CLASSES_ROOT, key, text.data(), &size) != ERROR_SUCCESS) text = {};
-    return text;
+/// Default value of a key under HKEY_CLASSES_ROOT, its environment variables replaced; "" when there is none.
+PathText ClassText(const wchar_t* key) {
+    RegistryKey opened;
+    PathText text{}, replaced{};
+    DWORD type = REG_NONE;
+    DWORD size = sizeof text - sizeof(wchar_t);
+    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, key, 0, KEY_QUERY_VALUE, opened.Receive()) != ERROR_SUCCESS ||
+        RegQueryValueExW(opened.Get(), nullptr, nullptr, &type, reinterpret_cast<BYTE*>(text.data()), &size) !=
+            ERROR_SUCCESS)
+        return {};
+    if (type == REG_SZ) return text;
+    const bool isReplaced = type == REG_EXPAND_SZ &&
+                            ExpandEnvironmentStringsW(text.data(), replaced.data(), replaced.size()) <= replaced.size();
+    return isReplaced ? replaced : PathText{};
 }
 
-/// The command that opens .dbf files. FindExecutable would do the same with more, but needs a file to look at.
-Command OpeningCommand() {
-    constexpr wchar_t kCommand[] = L"\\shell\\open\\command";
-    Command type = ClassText(L".dbf");
-    const size_t length = std::wcslen(type.data());
-    if (length == 0 || length + std::size(kCommand) > type.size()) return {};
-    std::wmemcpy(type.data() + length, kCommand, std::size(kCommand));
-    return ClassText(type.data());
+/// The same of a key whose name holds another key's text: `name` with %.900s in its place, as wsprintf writes no more
+/// than fits.
+PathText ClassText(const wchar_t* name, const PathText& part) {
+    PathText key{};
+    wsprintfW(key.data(), name, part.data());
+    return part[0] ? ClassText(key.data()) : PathText{};
 }
 
-/// True when a command or path names a file, in whatever folder.
-bool Names(const wchar_t* command, const wchar_t* file) {
-    const size_t length = std::wcslen(file);
-    for (const wchar_t* place = command; *place; ++place) {
-        const bool begins = place == command || place[-1] == L'\\' || place[-1] == L'"';
-        if (!begins || _wcsnicmp(place, file, length) != 0) continue;
-        const wchar_t next = place[length];
-        if (next == L'\0' || next == L'"' || next == L' ') return true;
-    }
-    return false;
+/// Full path of the program of a window's process, "" when that may not be known.
+PathText ImageOf(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    FileHandle modules;
+    do {
+        modules.Reset(CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, process));
+    } while (!modules && GetLastError() == ERROR_BAD_LENGTH); // the process is just loading one
+    MODULEENTRY32W program{};
+    program.dwSize = sizeof program;
+    PathText path{};
+    if (Module32FirstW(modules.Get(), &program))
+        lstrcpynW(path.data(), program.szExePath, static_cast<int>(path.size()));
+    return path;
 }
 
-PROCESSENTRY32W ProcessOf(HWND window) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window, &id);
-    const FileHandle processes(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
-    PROCESSENTRY32W entry{};
-    entry.dwSize = sizeof entry;
-    for (BOOL is = Process32FirstW(processes.Get(), &entry); is; is = Process32NextW(processes.Get(), &entry))
-        if (entry.th32ProcessID == id) return entry;
-    return {};
+bool IsAct(const wchar_t* image) {
+    const PathText server = ClassText(L"CLSID\\%.900s\\LocalServer32", ClassText(L"ACTOLE.APPOBJECT\\CLSID"));
+    if (Names(ProgramOf(server.data()).data(), image)) return true;
+    const PathText opener = ClassText(L"%.900s\\shell\\open\\command", ClassText(L".dbf"));
+    return Names(ProgramOf(opener.data()).data(), image);
 }
 
 } // namespace
 
 bool IsOfProgram(HWND window, const wchar_t* program) {
-    const PROCESSENTRY32W process = ProcessOf(window);
-    if (!process.szExeFile[0]) return false;
-    return Names(*program ? program : OpeningCommand().data(), process.szExeFile);
+    const PathText image = ImageOf(window);
+    if (!image[0]) return false;
+    if (!*program) return IsAct(image.data());
+    return Names(HasFolder(program) ? ProgramOf(program).data() : program, image.data());
 }

@@ -8,9 +8,10 @@
 namespace {
 
 struct TextBoxes {
-    HWND last = nullptr;
-    HWND user = nullptr; ///< the one before the password's
+    const LogonDialogTraits& traits;
+    HWND user = nullptr; ///< the last one that shows its text; null when it stands behind the password's
     HWND password = nullptr;
+    int users = 0;
     int passwords = 0;
 };
 
@@ -31,41 +32,43 @@ bool HasTitle(HWND window, const wchar_t* beginning) {
     return _wcsnicmp(title.data(), beginning, std::wcslen(beginning)) == 0;
 }
 
-BOOL CALLBACK NoteTextBox(HWND control, LPARAM boxes) {
-    if (!HasClass(control, L"Edit") || !IsWindowVisible(control)) return TRUE;
-    TextBoxes& noted =
-        *reinterpret_cast<TextBoxes*>(boxes); // NOLINT(performance-no-int-to-ptr): handed to EnumChildWindows
+bool IsNamed(HWND control, const StoredText& id) { return id.Number() != 0 && GetDlgCtrlID(control) == id.Number(); }
+
+/// A list with a text box in it counts once.
+bool IsTextBox(HWND control, const LogonDialogTraits& traits) {
+    return IsNamed(control, traits.UserId) || IsNamed(control, traits.PasswordId) ||
+           (HasClass(control, L"Edit") && !IsNamed(GetParent(control), traits.UserId));
+}
+
+BOOL CALLBACK NoteTextBox(HWND control, LPARAM parameter) {
+    TextBoxes& boxes =
+        *reinterpret_cast<TextBoxes*>(parameter); // NOLINT(performance-no-int-to-ptr): handed to EnumChildWindows
+    if (!IsWindowVisible(control) || !IsTextBox(control, boxes.traits)) return TRUE;
     if (GetWindowLongPtrW(control, GWL_STYLE) & ES_PASSWORD) {
-        noted.user = noted.last;
-        noted.password = control;
-        ++noted.passwords;
+        boxes.password = control;
+        ++boxes.passwords;
+    } else {
+        boxes.user = boxes.password ? nullptr : control;
+        ++boxes.users;
     }
-    noted.last = control;
     return TRUE;
 }
 
-HWND ById(HWND dialog, const StoredText& id) { return GetDlgItem(dialog, id.Number()); }
+bool Fits(HWND control, const StoredText& id) { return control && (id.Number() == 0 || IsNamed(control, id)); }
 
-/// Only one box hides what it holds: a dialog that changes a password has two or three.
 LogonDialog Parts(HWND window, const LogonDialogTraits& traits) {
-    TextBoxes boxes;
+    TextBoxes boxes{traits};
     EnumChildWindows(window, NoteTextBox, reinterpret_cast<LPARAM>(&boxes));
-    if (boxes.passwords != 1) boxes = {};
-    return {window, traits.UserId.Number() ? ById(window, traits.UserId) : boxes.user,
-            traits.PasswordId.Number() ? ById(window, traits.PasswordId) : boxes.password,
-            ById(window, traits.ButtonId)};
+    HWND button = GetDlgItem(window, traits.ButtonId.Number());
+    const bool fit = boxes.users == 1 && boxes.passwords == 1 && Fits(boxes.user, traits.UserId) &&
+                     Fits(boxes.password, traits.PasswordId) && IsWindowVisible(button) && IsWindowEnabled(button);
+    return fit ? LogonDialog{window, boxes.user, boxes.password, button} : LogonDialog{};
 }
 
 BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
     Search& search = *reinterpret_cast<Search*>(parameter); // NOLINT(performance-no-int-to-ptr): handed to EnumWindows
-    const LogonDialogTraits& traits = search.traits;
-    if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !HasClass(window, traits.Class.Get()) ||
-        !HasTitle(window, traits.Title.Get()))
-        return TRUE;
-    const LogonDialog parts = Parts(window, traits);
-    if (!parts.User || !parts.Password || !parts.Button || !IsOfProgram(window, traits.Program.Get())) return TRUE;
-    search.found = parts;
-    return FALSE;
+    search.found = LogonDialog::At(window, search.traits);
+    return !search.found.Window;
 }
 
 } // namespace
@@ -74,6 +77,14 @@ LogonDialog LogonDialog::Find(const LogonDialogTraits& traits) {
     Search search{traits, {}};
     EnumWindows(LookAt, reinterpret_cast<LPARAM>(&search));
     return search.found;
+}
+
+LogonDialog LogonDialog::At(HWND window, const LogonDialogTraits& traits) {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !HasClass(window, traits.Class.Get()) ||
+        !HasTitle(window, traits.Title.Get()))
+        return {};
+    const LogonDialog parts = Parts(window, traits);
+    return parts.Window && IsOfProgram(window, traits.Program.Get()) ? parts : LogonDialog{};
 }
 
 bool LogonDialog::Fill(HWND box, const wchar_t* text) {

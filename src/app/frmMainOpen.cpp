@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 
+#include "act/LogonHelper.h"
 #include "databases/ActSettings.h"
 #include "databases/Logon.h"
 #include "i18n/modLangues.h"
@@ -58,7 +59,6 @@ bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidde
     preferences.DefaultGroupLayout(OrRecorded(record.GroupLayout, Keys::OriginalGL));
     ActSettings::WriteLocations(UsedFolders(*stored, name));
     LogonHandOver::CopyToLogon(name);
-    OpenWithShell(Application::FileInFolder(L"logon.exe"));
     if (!OpenDatabase(record.Path)) return false;
     ShowView(viewCode);
     RunOpeningMacro(record.OpeningMacro);
@@ -68,6 +68,7 @@ bool frmMain::OpenInAct(const std::wstring& name, short viewCode, bool mainHidde
 
 bool frmMain::OpenDatabase(const std::wstring& path) {
     try {
+        const LogonHelper helper;
         Program().Application.openDB(path);
         return true;
     } catch (const Error& error) {

@@ -1,5 +1,6 @@
 #include "app/modStartACT.h"
 
+#include "act/LogonHelper.h"
 #include "databases/ActSettings.h"
 #include "databases/DatabaseList.h"
 #include "databases/Logon.h"
@@ -81,7 +82,7 @@ void StartACT_mode(MainWindow& mainWindow, const clsToolbarIcon& toolbarIcon) tr
     }
     OpenWithShell(act);
     WriteLogonValues(name);
-    OpenWithShell(Application::FileInFolder(L"logon.exe"));
+    LogonHelper::Start();
 } catch (...) {
     ErrorReport("modStartACT: Sub StartACT_mode");
 }

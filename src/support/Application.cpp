@@ -30,7 +30,7 @@ std::wstring ProgramName() {
     return name;
 }
 
-std::wstring FileInFolder(const std::wstring& fileName) { return Text::JoinPath(Folder(), fileName); }
+std::wstring FileInFolder(std::wstring_view fileName) { return Text::JoinPath(Folder(), fileName); }
 
 std::wstring Version() { return KELMORRA_VERSION; }
 

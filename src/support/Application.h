@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 /// What the program is called and where it lies.
 namespace Application {
@@ -15,7 +16,7 @@ std::wstring Folder();
 std::wstring ProgramName();
 
 /// `Folder()` and a file name joined by exactly one "\".
-std::wstring FileInFolder(const std::wstring& fileName);
+std::wstring FileInFolder(std::wstring_view fileName);
 
 /// The program's version with its points: "3.2.0".
 std::wstring Version();

@@ -60,7 +60,7 @@ void FillIn(EXCEPINFO& exception, const Failure& failure) {
 }
 
 size_t ParameterCount(const Member& member) {
-    const auto end = std::ranges::find(member.Parameters, static_cast<VARTYPE>(VT_EMPTY));
+    const auto* const end = std::ranges::find(member.Parameters, static_cast<VARTYPE>(VT_EMPTY));
     return static_cast<size_t>(end - member.Parameters.begin());
 }
 
@@ -129,7 +129,7 @@ STDMETHODIMP Automation::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
 
 DISPID Automation::IdOf(const wchar_t* name) const {
     for (size_t index = 0; index < members_.size(); ++index)
-        if (Text::EqualNoCase(members_[index].Name, name)) return static_cast<DISPID>(index + 1);
+        if (Text::EqualNoCase(members_[index].Name, name)) return static_cast<DISPID>(index) + 1;
     return DISPID_UNKNOWN;
 }
 

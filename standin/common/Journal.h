@@ -23,6 +23,6 @@ void Write(Entry entry);
 void Note(const std::wstring& member, const std::wstring& arguments = {}, const std::wstring& result = {});
 
 /// Names a function that is told of every line.
-void SetListener(void (*listener)(const Entry& entry));
+void SetListener(void (*function)(const Entry& entry));
 
 } // namespace Journal

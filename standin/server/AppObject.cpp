@@ -1,3 +1,4 @@
+#include "server/EmailAccount.h"
 #include "server/Objects.h"
 #include "server/Session.h"
 
@@ -16,6 +17,7 @@ Variant Views(Automation&, const Arguments&) { return Variant::Object(MakeViews(
 Variant Preferences(Automation&, const Arguments&) { return Variant::Object(MakePreferences()); }
 
 Variant OpenDB(Automation&, const Arguments& arguments) {
+    const EmailAccount::AtOpen email;
     Session::OpenDatabase(arguments[0].AsText());
     return {};
 }

@@ -43,8 +43,10 @@ void CreateKeys() {
 
 void RecordLastDatabase(const std::wstring& path) {
     const RegistryKey key = OpenKey(kDatabase, KEY_SET_VALUE);
-    const DWORD size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
-    if (key) RegSetValueExW(key.Get(), L"Last DB Name", 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size);
+    const size_t size = (path.size() + 1) * sizeof(wchar_t);
+    if (key)
+        RegSetValueExW(key.Get(), L"Last DB Name", 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()),
+                       static_cast<DWORD>(size));
 }
 
 LastUsed ReadLastUsed() {

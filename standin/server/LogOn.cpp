@@ -29,6 +29,7 @@ void Show(HWND dialog, Question& question) {
     open = dialog;
     SetWindowLongPtrW(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(&question));
     SetWindowTextW(dialog, (L"Log on to " + Text::AfterLast(question.database, L'\\')).c_str());
+    Journal::Note(L"LogOnDialog", question.database);
 }
 
 void Refuse(HWND dialog, Question& question) {

@@ -4,6 +4,7 @@
 #include "common/Protocol.h"
 #include "win32/Owner.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -65,11 +66,11 @@ std::wstring Read(HKEY root, const std::wstring& key, const wchar_t* name) {
 
 bool Write(HKEY root, const Entry& entry) {
     RegistryKey key;
-    const DWORD size = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
+    const size_t size = (entry.value.size() + 1) * sizeof(wchar_t);
     return RegCreateKeyExW(root, (kClasses + entry.key).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(),
                            nullptr) == ERROR_SUCCESS &&
            RegSetValueExW(key.Get(), entry.name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(entry.value.c_str()),
-                          size) == ERROR_SUCCESS;
+                          static_cast<DWORD>(size)) == ERROR_SUCCESS;
 }
 
 bool Associate(HKEY root) {
@@ -115,12 +116,13 @@ bool RegisterUnder(HKEY root) {
 }
 
 void UnregisterUnder(HKEY root) {
-    const std::vector<Entry> entries = Entries();
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-        DeleteValue(root, entry->key, entry->name.c_str());
-        DeleteIfEmpty(root, entry->key);
+    std::vector<Entry> entries = Entries();
+    std::ranges::reverse(entries);
+    for (const Entry& entry : entries) {
+        DeleteValue(root, entry.key, entry.name.c_str());
+        DeleteIfEmpty(root, entry.key);
     }
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) DeleteIfEmpty(root, entry->key);
+    for (const Entry& entry : entries) DeleteIfEmpty(root, entry.key);
     Dissociate(root);
 }
 

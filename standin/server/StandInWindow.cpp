@@ -3,6 +3,7 @@
 #include "common/Automation.h"
 #include "common/Protocol.h"
 #include "server/ClassObjects.h"
+#include "server/EmailAccount.h"
 #include "server/FactsList.h"
 #include "server/LogOn.h"
 #include "server/Session.h"
@@ -103,8 +104,9 @@ void StandInWindow::Run() {
 
 void StandInWindow::HandOver(HWND running, const std::wstring& database) {
     constexpr UINT kPatience = 5000;
+    const size_t size = (database.size() + 1) * sizeof(wchar_t);
     COPYDATASTRUCT data{};
-    data.cbData = static_cast<DWORD>((database.size() + 1) * sizeof(wchar_t));
+    data.cbData = static_cast<DWORD>(size);
     data.lpData = const_cast<wchar_t*>(database.c_str());
     if (!database.empty())
         SendMessageTimeoutW(running, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_ABORTIFHUNG, kPatience,
@@ -215,6 +217,7 @@ void StandInWindow::RequestClose() {
 void StandInWindow::UserCloses() {
     if (notice_.IsOpen()) return;
     LogOn::Cancel();
+    EmailAccount::Cancel();
     Follow(notice_.Ask(window_));
 }
 

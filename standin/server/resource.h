@@ -9,3 +9,7 @@
 #define IDC_USER 201
 #define IDC_PASSWORD 202
 #define IDC_MESSAGE 203
+
+#define IDD_EMAIL 3
+#define IDC_SERVER_LABEL 204
+#define IDC_SERVER 205

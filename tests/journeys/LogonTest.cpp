@@ -10,7 +10,8 @@ using JourneyStores::User;
 
 constexpr wchar_t kRight[] = L"\u0160\u00c4\u00b2\u00c3\u00b7\u00c4"; // "Exeter" as the launcher stores it
 constexpr wchar_t kWrong[] = L"\u0160\u00c4";                         // "Ex"
-constexpr int kUserId = 201, kPasswordId = 202, kMessageId = 203;     // of the stand-in's dialog
+constexpr wchar_t kNotAccessible[] = L"This database is not accessible. Please choose another database.";
+constexpr int kUserId = 201, kPasswordId = 202, kMessageId = 203; // of the stand-in's dialog
 
 /// A session with the helper beside the program, and a database of which ACT! asks for its user.
 class LogonJourney : public Journey {
@@ -31,12 +32,28 @@ public:
 
     Process StartHelper() const { return {Group(), ProgramFile(L"logon.exe")}; }
 
-    /// Every attempt to log on that the stand-in has seen.
+    /// Every attempt to log on that the stand-in has seen, and every end of its other dialog.
     std::wstring Attempts() const {
         std::wstring attempts;
         for (const Call& call : Log())
-            if (call.Member == L"LogOn") attempts += call.Arguments + L' ' + call.Result + L';';
+            if (call.Member == L"LogOn" || call.Member == L"EmailAccount")
+                attempts += call.Arguments + L' ' + call.Result + L';';
         return attempts;
+    }
+
+    /// ACT!'s dialog that is not for logging on; the running test ends when it does not come.
+    static HWND OtherDialog() {
+        HWND dialog = nullptr;
+        REQUIRE(Within([&] { return IsWindowVisible(dialog = FindWindowW(L"#32770", L"E-mail account")) != FALSE; }));
+        return dialog;
+    }
+
+    /// Waits until no helper is left, but only ACT! and so many programs, and cancels the other dialog.
+    void LeaveOther(DWORD programs) const {
+        HWND dialog = OtherDialog();
+        CHECK(Within([&] { return Group().Alive() == programs + 1; }));
+        PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+        REQUIRE(Within([&] { return !IsWindow(dialog); }));
     }
 
     static bool IsOpen(const wchar_t* database) {
@@ -57,15 +74,23 @@ public:
     }
 };
 
-/// A dialog of the test's own process with a user box, password boxes and OK.
+/// A dialog of the test's own process: a letter for each part, with ids from 1. b is OK, d the same disabled, c one
+/// that is disabled when a text changes; t a text box, h a hidden one, p a password box.
 class LookAlike {
 public:
-    explicit LookAlike(int passwordBoxes) : window_(Make(L"#32770", WS_POPUP | WS_VISIBLE, 0, nullptr)) {
+    explicit LookAlike(const std::string& parts) : window_(Make(L"#32770", WS_POPUP | WS_VISIBLE, 0, nullptr)) {
         SetWindowTextW(window_, L"Log on to something");
-        user_ = Make(L"EDIT", WS_CHILD | WS_VISIBLE, 0, window_);
-        for (int box = 0; box < passwordBoxes; ++box)
-            password_ = Make(L"EDIT", WS_CHILD | WS_VISIBLE | ES_PASSWORD, 0, window_);
-        Make(L"BUTTON", WS_CHILD | WS_VISIBLE, IDOK, window_);
+        for (int id = 1; const char part : parts) {
+            const DWORD style = WS_CHILD | (part == 'h' ? 0 : WS_VISIBLE) | (part == 'd' ? WS_DISABLED : 0) |
+                                (part == 'p' ? ES_PASSWORD : 0);
+            const wchar_t* const kind = part == 'l' ? L"COMBOBOX" : L"EDIT";
+            HWND control = Make(id == IDOK ? L"BUTTON" : kind, style | (part == 'l' ? CBS_DROPDOWN : 0), id, window_);
+            if (part == 't' || part == 'l') user_ = control;
+            if (part == 'p') password_ = control;
+            ++id;
+        }
+        if (parts.front() == 'c')
+            SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&DisableWhenChanged));
     }
     ~LookAlike() { DestroyWindow(window_); }
     LookAlike(const LookAlike&) = delete;
@@ -91,6 +116,10 @@ public:
     }
 
 private:
+    static LRESULT CALLBACK DisableWhenChanged(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_COMMAND && HIWORD(wParam) == EN_CHANGE) EnableWindow(GetDlgItem(window, IDOK), FALSE);
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
     static HWND Make(const wchar_t* windowClass, DWORD style, int id, HWND parent) {
         return CreateWindowExW(0, windowClass, L"", style, 0, 0, 200, 100, parent,
                                reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
@@ -103,11 +132,45 @@ private:
 
 } // namespace
 
-TEST_CASE_FIXTURE(LogonJourney, "the program opens a database, and ACT! ends logged on as its user") {
+TEST_CASE_FIXTURE(LogonJourney,
+                  "the program opens a database past another dialog, and ACT! ends logged on as its user") {
+    Act(L"EmailAccount", L"DuringOpen", L"1");
     OpenCustomers(kRight);
+    HWND other = OtherDialog();
+    CHECK_FALSE(Within([this] { return Group().Alive() < 3; }, 500)); // the helper looks at it, and goes on
+    PostMessageW(other, WM_COMMAND, IDCANCEL, 0);
     CHECK(Program().ExitCode() == 0u);
-    CHECK(Attempts() == L"Pat Doe right;");
+    CHECK(Attempts() == L" cancelled;Pat Doe right;");
     CHECK(IsOpen(L"Customers.dbf"));
+}
+
+TEST_CASE_FIXTURE(LogonJourney, "what ACT! shows when the open is over, in whatever way, is none of the helper's") {
+    Act(L"EmailAccount", L"AfterOpen", L"500");
+    Store(L"Archive", L"1", kRight);
+    User(L"Display", L"Selected", L"0");
+    StartAct(File(L"Archive.dbf"));
+    std::filesystem::rename(File(L"Archive.dbf"), File(L"Away.dbf"));
+    HWND window = StartToMainWindow();
+    JourneyWindow::Click(window, L"cmdOpen");
+    CHECK(AnswerBox().Text == kNotAccessible);
+    LeaveOther(1);
+    std::filesystem::rename(File(L"Away.dbf"), File(L"Archive.dbf"));
+    JourneyWindow::Click(window, L"cmdOpen");
+    LeaveOther(0);
+    {
+        // A helper that comes late: it waits for its turn while the open is made.
+        const KernelHandle turn(CreateMutexW(nullptr, TRUE, L"Local\\Kelmorra.Logon.Waiting"));
+        JourneyWindow::Click(StartToMainWindow(), L"cmdOpen");
+        CHECK(Program().ExitCode() == 0u);
+        ReleaseMutex(turn.Get());
+        LeaveOther(0);
+    }
+    Act(L"Faults", L"openDB", L"hang 1500");
+    JourneyWindow::Click(StartToMainWindow(), L"cmdOpen");
+    REQUIRE(Within([this] { return Count(L"STANDIN", L"Hang") == 1; }));
+    Program().Terminate();
+    LeaveOther(0);
+    CHECK(Attempts() == L" cancelled; cancelled; cancelled; cancelled;");
 }
 
 TEST_CASE_FIXTURE(LogonJourney, "a wrong password is tried once; after three refusals the open fails") {
@@ -115,7 +178,7 @@ TEST_CASE_FIXTURE(LogonJourney, "a wrong password is tried once; after three ref
     REQUIRE(Within([this] { return Attempts() == L"Pat Doe wrong;"; }));
     CHECK(JourneyWindow::Text(GetDlgItem(Dialog(), kMessageId)) == L"The user name or the password is wrong.");
     for (int attempt = 0; attempt < 2; ++attempt) PostMessageW(Dialog(), WM_COMMAND, IDOK, 0);
-    CHECK(AnswerBox().Text == L"This database is not accessible. Please choose another database.");
+    CHECK(AnswerBox().Text == kNotAccessible);
     CHECK(Attempts() == L"Pat Doe wrong;Pat Doe wrong;Pat Doe wrong;");
     CHECK(IsOpen(L"Archive.dbf"));
 }
@@ -124,8 +187,9 @@ TEST_CASE_FIXTURE(LogonJourney, "without a password to use, the dialog is left t
     constexpr wchar_t kDatabaseKey[] = L"Software\\Symantec\\ACT!\\Database";
     JourneyStores::Write(kDatabaseKey, L"Use Last DB", L"1");
     JourneyStores::Write(kDatabaseKey, L"Last DB Name", File(L"Customers.dbf"));
-    Store(L"Logon", L"0", kRight);
+    Store(L"Logon", L"1", L"");
     StartAct(L"");
+    const HiddenClass association(L".dbf"); // ACT! is known by its automation object, too
     CHECK(StartHelper().ExitCode() == 0u);
     HWND password = GetDlgItem(Dialog(), kPasswordId);
     CHECK(JourneyWindow::Text(GetDlgItem(Dialog(), kUserId)) == L"Pat Doe");
@@ -139,27 +203,38 @@ TEST_CASE_FIXTURE(LogonJourney, "without a password to use, the dialog is left t
 
 TEST_CASE_FIXTURE(LogonJourney, "only the one dialog of the one program is filled in") {
     struct Case {
-        const wchar_t* program;
-        const wchar_t* title;
-        int passwordBoxes;
-        const wchar_t* outcome;
+        std::wstring key, value;
+        std::string parts;
+        std::wstring outcome;
     };
+    constexpr const wchar_t *kAll = L"Pat Doe,Exeter,1", *kNothing = L",,0";
+    std::array<wchar_t, MAX_PATH> program{};
+    GetModuleFileNameW(nullptr, program.data(), MAX_PATH);
+    const std::wstring inOtherFolder = File(L"journey_tests.exe");
+    JourneyStores::FileBytes(inOtherFolder, "MZ");
     const Case cases[] = {
-        {L"", L"", 1, L",,0"},
-        {L"journey_tests.exe", L"", 1, L"Pat Doe,Exeter,1"},
-        {L"journey_tests.exe", L"log on to", 1, L"Pat Doe,Exeter,1"},
-        {L"journey_tests.exe", L"Sign in", 1, L",,0"},
-        {L"journey_tests.exe", L"", 2, L",,0"},
-        {L"tests.exe", L"", 1, L",,0"},
+        {L"Program", L"", "btp", kNothing},        {L"Program", L"tests.exe", "btp", kNothing},
+        {L"Program", program.data(), "btp", kAll}, {L"Program", inOtherFolder, "btp", kNothing},
+        {L"Title", L"log on to", "bthp", kAll},    {L"Title", L"Sign in", "btp", kNothing},
+        {L"Title", L"", "btpp", kNothing},         {L"Title", L"", "bttp", kNothing},
+        {L"Title", L"", "btpt", kNothing},         {L"Title", L"", "bpt", kNothing},
+        {L"Title", L"", "dtp", kNothing},          {L"Title", L"", "ctp", L"Pat Doe,Exeter,0"},
+        {L"UserId", L"3", "btp", kNothing},        {L"PasswordId", L"2", "btp", kNothing},
+        {L"PasswordId", L"3", "btp", kAll},        {L"UserId", L"2", "blp", kAll},
     };
     Store(L"Logon", L"1", kRight);
-    User(L"LogonDialog", L"Seconds", L"0");
     for (const Case& wanted : cases) {
-        CAPTURE(wanted.outcome);
-        User(L"LogonDialog", L"Program", wanted.program);
-        User(L"LogonDialog", L"Title", wanted.title);
-        CHECK(LookAlike(wanted.passwordBoxes).Meet(StartHelper()) == wanted.outcome);
+        CAPTURE(wanted.key);
+        CAPTURE(wanted.value);
+        CAPTURE(wanted.parts);
+        JourneyStores::DeleteTree(JourneyStores::UserRoot + std::wstring(L"\\LogonDialog"));
+        User(L"LogonDialog", L"Seconds", L"0");
+        User(L"LogonDialog", L"Program", L"journey_tests.exe");
+        User(L"LogonDialog", wanted.key, wanted.value);
+        CHECK(LookAlike(wanted.parts).Meet(StartHelper()) == wanted.outcome);
     }
+    User(L"Logon", L"UsePassword", L"0");
+    CHECK(LookAlike("btp").Meet(StartHelper()) == L"Pat Doe,,0");
 }
 
 TEST_CASE_FIXTURE(LogonJourney, "a helper waits until its time is over, a newer one starts or there is no user") {
