@@ -265,10 +265,9 @@ void frmMain::Form_CloseBox() {
 void frmMain::EndSession() {
     SilenceMessages(true);
     EndMenu();
-    Program().QuickSwitchHandled = true; // the palette brings no window back
-    std::vector<Form*> forms = Form::Loaded();
-    for (; !forms.empty(); forms.pop_back()) // the last one opened first
-        if (Form* const form = forms.back(); form != this && !form->Unloaded()) {
+    Program().QuickSwitchHandled = true;                     // the palette brings no window back
+    for (size_t index = Form::Loaded().size(); index-- > 0;) // the last one opened first
+        if (Form* const form = Form::Loaded()[index]; form != this && !form->Unloaded()) {
             form->CloseAsByUser();
             form->Unload();
         }
