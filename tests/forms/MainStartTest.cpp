@@ -2,6 +2,7 @@
 
 #include "app/frmWaiting.h"
 #include "i18n/modLangues.h"
+#include "program/Program.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
@@ -264,6 +265,29 @@ TEST_CASE("Told to close while dialogs are open, the window leaves them one afte
         RunToEnd(window);
     CHECK(IniLib::GetKeyValue(L"General", L"Sort") == L"B;A");
     SilenceMessages(false);
+}
+
+TEST_CASE("A restart goes on when ACT! is gone in the call that closes it, and when its notice comes in that call") {
+    for (const bool isGone : {true, false}) {
+        ActDesk desk;
+        frmMain window;
+        window.Load();
+        Program().RestartAct = true;
+        desk.Act.Fault = [&](const std::wstring& member, VARIANT*) -> std::optional<HRESULT> {
+            if (member != L"Command") return std::nullopt;
+            if (isGone) return HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE);
+            desk.Act.UserWantsToClose();
+            return S_OK;
+        };
+        const DialogScript script; // fails on any report
+        const DWORD start = GetTickCount();
+        window.Unload();
+        RunToEnd(window);
+        CHECK(GetTickCount() - start >= 1900); // the second tick
+        const std::wstring calls = desk.Act.CallsSince(0);
+        CHECK((calls.find(L"AnswerUserWantsToClose(VT_BOOL True)") == std::wstring::npos) == isGone);
+        CHECK(calls.ends_with(L"Close()\n"));
+    }
 }
 
 TEST_CASE("While nothing is to be seen and ACT! refuses a call for ten seconds, a small window can end the waiting") {
