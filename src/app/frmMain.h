@@ -52,7 +52,7 @@ public:
 
     Line Line1{this, L"Line1", {0, 0, 8475, 15}, COLOR_BTNSHADOW};
     Line Line2{this, L"Line2", {0, 15, 8475, 15}, COLOR_BTNHIGHLIGHT};
-    Label lblFind{this, L"lblFind", {120, 165, 900, 225}};
+    Label lblFind{this, L"lblFind", {120, 165, 945, 225}};
     TextBox txtFind{this, L"txtFind", {1080, 120, 5535, 315}, &frmMain::txtFind_Change};
     ListView ListView1{this,
                        L"ListView1",
