@@ -52,7 +52,7 @@ public:
 
     Line Line1{this, L"Line1", {0, 0, 8475, 15}, COLOR_BTNSHADOW};
     Line Line2{this, L"Line2", {0, 15, 8475, 15}, COLOR_BTNHIGHLIGHT};
-    Label lblFind{this, L"lblFind", {120, 165, 900, 225}};
+    Label lblFind{this, L"lblFind", {120, 165, 945, 225}};
     TextBox txtFind{this, L"txtFind", {1080, 120, 5535, 315}, &frmMain::txtFind_Change};
     ListView ListView1{this,
                        L"ListView1",
@@ -66,7 +66,7 @@ public:
     ControlArray<Label, ViewCount> lblView{this, Frame1, L"lblView", ViewLabelPlaces, &frmMain::lblView_Click};
     CommandButton cmdOpen{this, L"cmdOpen", {7100, 120, 1135, 345}, &frmMain::cmdOpen_Click, Default};
     CommandButton cmdCancel{this, L"cmdCancel", {7100, 570, 1135, 345}, &frmMain::cmdCancel_Click, Cancel};
-    Label lblMore{this, L"lblMore", {6100, 4140, 600, 255}, Label::Align::Right};
+    Label lblMore{this, L"lblMore", {6100, 4140, 600, 255}};
     LinkLabel lblLink{this, L"lblLink", {6700, 4140, 1655, 255}, &frmMain::lblLink_Click};
 
     Menu mnuFile{this, L"mnuFile"};

@@ -9,7 +9,7 @@
 #include "win32/AnsiText.h"
 #include "win32/Owner.h"
 
-frmAbout::frmAbout() : Form({L"frmAbout", 6030, 4200}) {}
+frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3960}) {}
 
 void frmAbout::Form_Load() try {
     Caption(LangText[4]);

@@ -16,7 +16,7 @@ bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(L"Settings", L"Insta
 } // namespace
 
 frmLanguage::frmLanguage()
-    : Form({L"frmLanguage", 3990, 1680, Border::Dialog, !IsFirstRun()}), isFirstRun_(IsFirstRun()) {}
+    : Form({L"frmLanguage", 4200, 1680, Border::Dialog, !IsFirstRun()}), isFirstRun_(IsFirstRun()) {}
 
 void frmLanguage::Form_Load() try {
     if (isFirstRun_) {

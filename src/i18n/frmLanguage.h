@@ -11,10 +11,10 @@ class frmLanguage : public Form {
 public:
     frmLanguage();
 
-    Label Label1{this, L"Label1", {120, 120, 3660, 255}};
-    ComboBox cmbLanguage{this, L"cmbLanguage", {120, 420, 2295, 315}};
-    CommandButton cmdOK{this, L"cmdOK", {2565, 405, 1215, 345}, &frmLanguage::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {2565, 825, 1215, 345}, &frmLanguage::cmdCancel_Click, Cancel};
+    Label Label1{this, L"Label1", {120, 120, 3870, 255}};
+    ComboBox cmbLanguage{this, L"cmbLanguage", {120, 420, 2505, 315}};
+    CommandButton cmdOK{this, L"cmdOK", {2775, 405, 1215, 345}, &frmLanguage::cmdOK_Click, Default};
+    CommandButton cmdCancel{this, L"cmdCancel", {2775, 825, 1215, 345}, &frmLanguage::cmdCancel_Click, Cancel};
 
 private:
     void Form_Load() override;

@@ -3,11 +3,9 @@
 #include <cstdlib>
 #include <utility>
 
-Label::Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index,
-             Align align)
-    : Control(form, name, place,
-              {L"Static", static_cast<DWORD>((align == Align::Left ? SS_LEFT : SS_RIGHT) | (click ? SS_NOTIFY : 0))},
-              container, index),
+Label::Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index)
+    : Control(form, name, place, {L"Static", static_cast<DWORD>(click ? SS_LEFT | SS_NOTIFY : SS_LEFT)}, container,
+              index),
       click_(click) {}
 
 void Label::OnCommand(WORD notification) {

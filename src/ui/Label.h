@@ -6,10 +6,7 @@
 /// A text that the user cannot edit. With a handler it can be clicked.
 class Label : public Control {
 public:
-    enum class Align { Left, Right };
-
-    Label(Form* form, const wchar_t* name, const Twips& place, Align align = Align::Left)
-        : Label(form, name, place, Action{}, nullptr, 0, align) {}
+    Label(Form* form, const wchar_t* name, const Twips& place) : Label(form, name, place, Action{}, nullptr) {}
     template <class F>
     Label(F* form, const wchar_t* name, const Twips& place, void (F::*click)())
         : Label(form, name, place, Bind(form, click), nullptr) {}
@@ -22,8 +19,7 @@ public:
         : Label(form, name, place, BindElement(form, click, index), &container, index) {}
 
 protected:
-    Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index = 0,
-          Align align = Align::Left);
+    Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index = 0);
 
 private:
     void OnCommand(WORD notification) override;
