@@ -1,6 +1,6 @@
 #include "stores/Permissions.h"
 
-#include "win32/Windows.h"
+#include "stores/Patience.h"
 
 #include <vector>
 
@@ -8,13 +8,14 @@ namespace {
 
 using Bytes = std::vector<BYTE>;
 
-/// The descriptor with a file's access list as the system hands it out; empty when it has none to give.
-Bytes Descriptor(const std::wstring& path) {
+/// Reads the descriptor with a file's access list as the system hands it out. An error code.
+DWORD Describe(const std::wstring& path, Bytes& descriptor) {
     DWORD size = 0;
     GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
-    Bytes descriptor(size);
-    if (!GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size)) return {};
-    return descriptor;
+    descriptor.resize(size);
+    const BOOL isRead =
+        GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size) && size > 0;
+    return isRead ? ERROR_SUCCESS : GetLastError();
 }
 
 SECURITY_DESCRIPTOR_CONTROL ControlOf(Bytes& descriptor) {
@@ -44,16 +45,16 @@ Bytes OwnEntries(Bytes& descriptor) {
 
 namespace Permissions {
 
-bool CarryOver(const std::wstring& original, const std::wstring& copy) {
-    Bytes wanted = Descriptor(original);
-    Bytes present = Descriptor(copy);
-    if (wanted.empty()) return true;
-    if (present.empty()) return false;
-    if (OwnEntries(wanted) == OwnEntries(present)) return true;
+DWORD CarryOver(const std::wstring& original, const std::wstring& copy) {
+    Bytes wanted, present;
+    // A file system without access lists has none to carry over.
+    for (const DWORD error : {Describe(original, wanted), Describe(copy, present)})
+        if (error != ERROR_SUCCESS) return Patience::IsOutage(error) ? error : ERROR_SUCCESS;
+    if (OwnEntries(wanted) == OwnEntries(present)) return ERROR_SUCCESS;
     // Inherited entries stay known as such: a later change of the folder's reaches the file.
     constexpr SECURITY_DESCRIPTOR_CONTROL kInherits = SE_DACL_AUTO_INHERITED | SE_DACL_AUTO_INHERIT_REQ;
     if (ControlOf(wanted) & SE_DACL_AUTO_INHERITED) SetSecurityDescriptorControl(wanted.data(), kInherits, kInherits);
-    return SetFileSecurityW(copy.c_str(), DACL_SECURITY_INFORMATION, wanted.data()) != FALSE;
+    return SetFileSecurityW(copy.c_str(), DACL_SECURITY_INFORMATION, wanted.data()) ? ERROR_SUCCESS : GetLastError();
 }
 
 } // namespace Permissions

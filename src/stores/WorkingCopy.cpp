@@ -107,8 +107,7 @@ DWORD WorkingCopy::PutInPlace() const {
 DWORD WorkingCopy::Replace(DWORD attributes, const Patience& patience) const {
     FlushToDisk(path_);
     if (!isNew_) {
-        if (!Permissions::CarryOver(original_, path_))
-            return SafeFile::Read(path_).IsRead() ? ERROR_ACCESS_DENIED : ERROR_PATH_NOT_FOUND;
+        if (const DWORD error = Permissions::CarryOver(original_, path_)) return error;
         SetFileAttributesW(path_.c_str(), attributes);
     }
     // One that has come back meanwhile is not replaced: nobody has read it.
