@@ -31,26 +31,6 @@ TEST_CASE_FIXTURE(Journey, "the program ends with ACT! and saves its window") {
     CHECK(JourneyStores::User(L"Settings", L"Width") == L"10500");
 }
 
-TEST_CASE_FIXTURE(Journey, "a message box does not keep the program from ending with ACT!") {
-    StartAct(ListRealDatabase(L"Customers"));
-    HWND window = StartToMainWindow();
-    JourneyWindow::Click(window, L"cmdOpen");
-    CHECK(Box(Program()).Text == L"No database selected!");
-    ActUserCloses();
-    CheckBothEnd(*this);
-}
-
-TEST_CASE_FIXTURE(Journey, "an open dialog is cancelled when ACT! closes") {
-    StartAct(ListRealDatabase(L"Customers"));
-    HWND window = StartToMainWindow();
-    JourneyWindow::ClickMenu(window, L"mnuLanguages");
-    HWND dialog = Window(Program(), L"frmLanguage");
-    SendMessageW(JourneyWindow::Control(dialog, L"cmbLanguage"), CB_SETCURSEL, 2, 0);
-    ActUserCloses();
-    CheckBothEnd(*this);
-    CHECK_FALSE(JourneyStores::User(L"Options", L"Language"));
-}
-
 TEST_CASE_FIXTURE(Journey, "ACT! can close before a language has been chosen") {
     JourneyStores::DeleteTree(JourneyStores::UserRoot);
     StartAct(ListRealDatabase(L"Customers"));

@@ -41,36 +41,6 @@ TEST_CASE("Rows stand at their index; every used one has a text in each language
     }
 }
 
-TEST_CASE("Rows that are known to the letter") {
-    struct Row {
-        int index;
-        const wchar_t* texts[3];
-    };
-    const Row rows[] = {
-        {7,
-         {L"An instance of this program is already running !", L"Une copie de ce programme est déjà en marche !",
-          L"Dieses Programm ist bereits gestartet !"}},
-        {24, {L"software.htm", L"logiciels.htm", L"software.htm"}},
-        {63, {L"kelmorra_online", L"kelmorra_enligne", L"kelmorra_online_de"}},
-        {79,
-         {L"This database is already open!", L"Cette base de données est déjà ouverte!",
-          L"Die Datenbank ist bereits geöffnet !"}},
-        {126,
-         {L"Please make sure a database is open or ACT! completely closed before running Kelmorra!",
-          L"Veuillez ouvrir une base de données ou fermer ACT! complètement avant de lancer Kelmorra!",
-          L"Please make sure a database is open before running Kelmorra!"}},
-        {145,
-         {L"Display QuickSwitch screen at Kelmorra startup", L"Afficher l'écran QuickSwitch au démarrage de Kelmorra",
-          L"Display QuickSwitch screen at Kelmorra startup"}},
-        {150, {L"Close and Launch Kelmorra", L"Fermer et lancer Kelmorra", L"Close and Launch Kelmorra"}},
-    };
-    for (const Row& row : rows)
-        for (size_t language = 0; language < 3; ++language)
-            CHECK(TextAt(row.index, kColumns[language]) == row.texts[language]);
-    for (const int index : {130, 146})
-        CHECK(TextAt(index, &LangTextRow::German) == TextAt(index, &LangTextRow::English));
-}
-
 TEST_CASE("Texts that others build upon keep their shape in every language") {
     for (const Column column : kColumns) {
         for (const int index : {8, 9, 149}) CHECK(TextAt(index, column).ends_with(L' '));
