@@ -59,30 +59,30 @@ void FillIn(EXCEPINFO& exception, const Failure& failure) {
     exception.bstrDescription = SysAllocString(failure.Description.c_str());
 }
 
-size_t ParameterCount(const Member& member) {
+size_t ParameterCount(const MemberRow& member) {
     const auto* const end = std::ranges::find(member.Parameters, static_cast<VARTYPE>(VT_EMPTY));
     return static_cast<size_t>(end - member.Parameters.begin());
 }
 
-Arguments Coerced(const Member& member, const DISPPARAMS& parameters) {
+Arguments Coerced(const MemberRow& member, const DISPPARAMS& parameters) {
     if (parameters.cNamedArgs != 0) throw Failure{.Code = DISP_E_NONAMEDARGS};
     if (parameters.cArgs != ParameterCount(member)) throw Failure{.Code = DISP_E_BADPARAMCOUNT};
     Arguments arguments;
     for (UINT index = 0; index < parameters.cArgs; ++index) {
         const UINT place = parameters.cArgs - 1 - index;
-        std::optional<Variant> value = Variant::Converted(parameters.rgvarg[place], member.Parameters[index]);
+        std::optional<Value> value = Value::Converted(parameters.rgvarg[place], member.Parameters[index]);
         if (!value) throw Failure{.Code = DISP_E_TYPEMISMATCH, .Argument = place};
         arguments.push_back(std::move(*value));
     }
     return arguments;
 }
 
-Variant PutValue(const DISPPARAMS& parameters) {
+Value PutValue(const DISPPARAMS& parameters) {
     if (parameters.cArgs != 1) throw Failure{.Code = DISP_E_BADPARAMCOUNT};
     if (parameters.cNamedArgs != 1 || parameters.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT)
         throw Failure{.Code = DISP_E_PARAMNOTFOUND};
     // All properties that can be written hold text.
-    std::optional<Variant> value = Variant::Converted(parameters.rgvarg[0], VT_BSTR);
+    std::optional<Value> value = Value::Converted(parameters.rgvarg[0], VT_BSTR);
     if (!value) throw Failure{.Code = DISP_E_TYPEMISMATCH};
     return std::move(*value);
 }
@@ -93,7 +93,7 @@ void Fail(WORD number, const std::wstring& description) {
     throw Failure{.Scode = MAKE_SCODE(SEVERITY_ERROR, FACILITY_CONTROL, number), .Description = description};
 }
 
-Automation::Automation(const wchar_t* name, std::span<const Member> members) : name_(name), members_(members) {
+Automation::Automation(const wchar_t* name, std::span<const MemberRow> members) : name_(name), members_(members) {
     ++objectCount;
 }
 
@@ -133,7 +133,7 @@ DISPID Automation::IdOf(const wchar_t* name) const {
     return DISPID_UNKNOWN;
 }
 
-const Member* Automation::MemberOf(DISPID id) const {
+const MemberRow* Automation::MemberOf(DISPID id) const {
     return id >= 1 && static_cast<size_t>(id) <= members_.size() ? &members_[static_cast<size_t>(id) - 1] : nullptr;
 }
 
@@ -146,7 +146,7 @@ STDMETHODIMP Automation::GetIDsOfNames(REFIID, OLECHAR** names, UINT count, LCID
     return DISP_E_UNKNOWNNAME;
 }
 
-Variant Automation::Perform(const Member* member, WORD flags, const DISPPARAMS& parameters) {
+Value Automation::Perform(const MemberRow* member, WORD flags, const DISPPARAMS& parameters) {
     if (!member || !(flags & member->Accepts)) throw Failure{.Code = DISP_E_MEMBERNOTFOUND};
     if (!(flags & DISPATCH_PROPERTYPUT)) return member->Handler(*this, Coerced(*member, parameters));
     member->Put(*this, PutValue(parameters));
@@ -157,7 +157,7 @@ STDMETHODIMP Automation::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*
                                 EXCEPINFO* exception, UINT* badArgument) {
     // A handler may let go of the object.
     const ComPtr<Automation> alive = ComPtr<Automation>::Share(this);
-    const Member* const member = MemberOf(id);
+    const MemberRow* const member = MemberOf(id);
     Journal::Entry entry{
         {}, name_, member ? member->Name : std::to_wstring(id), FlagText(flags), ArgumentText(*parameters), {}};
     try {
@@ -169,7 +169,7 @@ STDMETHODIMP Automation::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*
             Faults::Die();
         }
         Faults::Strike(fault, entry.Member);
-        Variant value = Perform(member, flags, *parameters);
+        Value value = Perform(member, flags, *parameters);
         entry.Result = L"-> " + Describe(value.Get());
         Journal::Write(entry);
         if (result) *result = value.Detach();

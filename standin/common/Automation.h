@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Variant.h"
+#include "common/Value.h"
 
 #include <array>
 #include <span>
@@ -20,17 +20,17 @@ struct Failure {
 [[noreturn]] void Fail(WORD number, const std::wstring& description);
 
 /// The arguments of a call in call order, coerced to the types that the member's row asks for.
-using Arguments = std::vector<Variant>;
+using Arguments = std::vector<Value>;
 
 class Automation;
 
 /// A row of an object's table. The number of a member (its DISPID) is its place in the table, counted from 1.
-struct Member {
+struct MemberRow {
     const wchar_t* Name;
     WORD Accepts;                      ///< DISPATCH_ flags; a call must come with one of them
     std::array<VARTYPE, 8> Parameters; ///< VT_EMPTY ends the list
-    Variant (*Handler)(Automation& object, const Arguments& arguments);
-    void (*Put)(Automation& object, const Variant& value);
+    Value (*Handler)(Automation& object, const Arguments& arguments);
+    void (*Put)(Automation& object, const Value& value);
 };
 
 inline constexpr WORD kMethod = DISPATCH_METHOD;
@@ -42,7 +42,7 @@ inline constexpr WORD kReadWrite = DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT;
 class Automation : public IDispatch {
 public:
     /// `name` is the journal's name for the object.
-    Automation(const wchar_t* name, std::span<const Member> members);
+    Automation(const wchar_t* name, std::span<const MemberRow> members);
     Automation(const Automation&) = delete;
     Automation& operator=(const Automation&) = delete;
     virtual ~Automation();
@@ -60,11 +60,11 @@ public:
     static long Count();
 
 private:
-    const Member* MemberOf(DISPID id) const;
+    const MemberRow* MemberOf(DISPID id) const;
     DISPID IdOf(const wchar_t* name) const;
-    Variant Perform(const Member* member, WORD flags, const DISPPARAMS& parameters);
+    Value Perform(const MemberRow* member, WORD flags, const DISPPARAMS& parameters);
 
     const wchar_t* name_;
-    std::span<const Member> members_;
+    std::span<const MemberRow> members_;
     ULONG references_ = 1;
 };

@@ -1,7 +1,7 @@
 #include "event/Library.h"
 
 #include "common/Protocol.h"
-#include "event/ActEvent.h"
+#include "event/EventComponent.h"
 
 #include <new>
 
@@ -25,7 +25,7 @@ public:
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
         *object = nullptr;
         if (outer) return CLASS_E_NOAGGREGATION;
-        const ComPtr<ActEvent> made(new (std::nothrow) ActEvent);
+        const ComPtr<EventComponent> made(new (std::nothrow) EventComponent);
         return made ? made->QueryInterface(iid, object) : E_OUTOFMEMORY;
     }
     STDMETHODIMP LockServer(BOOL lock) override {

@@ -6,37 +6,37 @@ namespace {
 
 constexpr long kCloseCommand = 150;
 
-Variant OpenFile(Automation&, const Arguments& arguments) {
+Value OpenFile(Automation&, const Arguments& arguments) {
     const std::wstring path = arguments[0].AsText();
     if (!path.empty()) Session::OpenDatabase(path);
     return {};
 }
 
-Variant Views(Automation&, const Arguments&) { return Variant::Object(MakeViews()); }
+Value Views(Automation&, const Arguments&) { return Value::Object(MakeViews()); }
 
-Variant Preferences(Automation&, const Arguments&) { return Variant::Object(MakePreferences()); }
+Value Preferences(Automation&, const Arguments&) { return Value::Object(MakePreferences()); }
 
-Variant OpenDB(Automation&, const Arguments& arguments) {
+Value OpenDB(Automation&, const Arguments& arguments) {
     const EmailAccount::AtOpen email;
     Session::OpenDatabase(arguments[0].AsText());
     return {};
 }
 
-Variant RunMacro(Automation&, const Arguments& arguments) {
+Value RunMacro(Automation&, const Arguments& arguments) {
     Session::RunMacro(arguments[0].AsText());
     return {};
 }
 
-Variant GetOpenDBName(Automation&, const Arguments&) { return Variant::Text(Session::Current().Database); }
+Value GetOpenDBName(Automation&, const Arguments&) { return Value::Text(Session::Current().Database); }
 
-Variant GetCurrentUserName(Automation&, const Arguments&) { return Variant::Text(Session::User()); }
+Value GetCurrentUserName(Automation&, const Arguments&) { return Value::Text(Session::User()); }
 
-Variant Command(Automation&, const Arguments& arguments) {
+Value Command(Automation&, const Arguments& arguments) {
     if (arguments[0].AsNumber() == kCloseCommand) Session::RequestClose();
     return {};
 }
 
-constexpr Member kMembers[] = {
+constexpr MemberRow kMembers[] = {
     {L"OpenFile", kMethod, {VT_BSTR}, OpenFile, nullptr},
     {L"Views", kProperty, {}, Views, nullptr},
     {L"Preferences", kProperty, {}, Preferences, nullptr},

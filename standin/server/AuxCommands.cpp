@@ -15,14 +15,14 @@ constexpr short kDone = 0;
 constexpr short kNoSuchCommand = 1;
 
 /// The number that [Results] orders for a member, else the given one.
-Variant Result(const wchar_t* member, short number) {
-    return Variant::Short(static_cast<short>(State::Number(kResults, member).value_or(number)));
+Value Result(const wchar_t* member, short number) {
+    return Value::Short(static_cast<short>(State::Number(kResults, member).value_or(number)));
 }
 
 /// The answer that [Results] orders for a member: a number as VT_I4, "True" or "False" as VT_BOOL; else the given one.
-Variant Answer(const wchar_t* member, bool exists) {
-    if (const std::optional<long> number = State::Number(kResults, member)) return Variant::Long(*number);
-    return Variant::Flag(State::Flag(kResults, member, exists));
+Value Answer(const wchar_t* member, bool exists) {
+    if (const std::optional<long> number = State::Number(kResults, member)) return Value::Long(*number);
+    return Value::Flag(State::Flag(kResults, member, exists));
 }
 
 /// A preset failure leaves everything as it is.
@@ -36,57 +36,57 @@ std::wstring PlaceKey(const Arguments& arguments) {
     return std::to_wstring(view) + L',' + arguments[1].AsText();
 }
 
-Variant Exists(Automation&, const Arguments& arguments) {
+Value Exists(Automation&, const Arguments& arguments) {
     return Answer(L"AuxCommandExists", Has(kCommands, arguments[0].AsText()));
 }
 
-Variant AddAuxCommand(Automation&, const Arguments& arguments) {
+Value AddAuxCommand(Automation&, const Arguments& arguments) {
     constexpr wchar_t kMember[] = L"AddAuxCommand";
     std::wstring described;
-    for (const Variant& argument : arguments) described += (described.empty() ? L"" : L", ") + Describe(argument.Get());
+    for (const Value& argument : arguments) described += (described.empty() ? L"" : L", ") + Describe(argument.Get());
     if (!IsOrderedToFail(kMember)) State::Store(kCommands, arguments[0].AsText(), described);
     return Result(kMember, kDone);
 }
 
-Variant ExistsInToolbar(Automation&, const Arguments& arguments) {
+Value ExistsInToolbar(Automation&, const Arguments& arguments) {
     return Answer(L"AuxCommandExistsInToolbar", Has(kToolbar, PlaceKey(arguments)));
 }
 
-Variant ExistsInToolsMenu(Automation&, const Arguments& arguments) {
+Value ExistsInToolsMenu(Automation&, const Arguments& arguments) {
     return Answer(L"AuxCommandExistsInToolsMenu", Has(kToolsMenu, PlaceKey(arguments)));
 }
 
-Variant AddTo(const wchar_t* member, const wchar_t* place, const Arguments& arguments) {
+Value AddTo(const wchar_t* member, const wchar_t* place, const Arguments& arguments) {
     const std::wstring key = PlaceKey(arguments);
     if (!Has(kCommands, arguments[1].AsText())) return Result(member, kNoSuchCommand);
     if (!IsOrderedToFail(member)) State::Store(place, key, L"1");
     return Result(member, kDone);
 }
 
-Variant RemoveFrom(const wchar_t* member, const wchar_t* place, const Arguments& arguments) {
+Value RemoveFrom(const wchar_t* member, const wchar_t* place, const Arguments& arguments) {
     const std::wstring key = PlaceKey(arguments);
     if (!Has(place, key)) return Result(member, kNoSuchCommand);
     if (!IsOrderedToFail(member)) State::Remove(place, key);
     return Result(member, kDone);
 }
 
-Variant AddToToolbar(Automation&, const Arguments& arguments) {
+Value AddToToolbar(Automation&, const Arguments& arguments) {
     return AddTo(L"AddAuxCommandToToolbar", kToolbar, arguments);
 }
 
-Variant RemoveFromToolbar(Automation&, const Arguments& arguments) {
+Value RemoveFromToolbar(Automation&, const Arguments& arguments) {
     return RemoveFrom(L"RemoveAuxCommandFromToolbar", kToolbar, arguments);
 }
 
-Variant AddToToolsMenu(Automation&, const Arguments& arguments) {
+Value AddToToolsMenu(Automation&, const Arguments& arguments) {
     return AddTo(L"AddAuxCommandToToolsMenu", kToolsMenu, arguments);
 }
 
-Variant RemoveFromToolsMenu(Automation&, const Arguments& arguments) {
+Value RemoveFromToolsMenu(Automation&, const Arguments& arguments) {
     return RemoveFrom(L"RemoveAuxCommandFromToolsMenu", kToolsMenu, arguments);
 }
 
-constexpr Member kMembers[] = {
+constexpr MemberRow kMembers[] = {
     {L"AuxCommandExists", kEither, {VT_BSTR}, Exists, nullptr},
     {L"AddAuxCommand",
      kMethod,

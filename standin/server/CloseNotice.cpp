@@ -27,13 +27,14 @@ bool TimeIsOver(DWORD since) {
 
 size_t CloseNotice::AttachedComponents() { return Components().size(); }
 
-CloseNotice::Outcome CloseNotice::Ask(HWND window) {
+CloseNotice::Outcome CloseNotice::Ask(HWND window, Urgency urgency) {
     open_ = true;
     since_ = GetTickCount();
     waitingFor_ = Components();
     Journal::Note(L"UserWantsToClose", std::to_wstring(waitingFor_.size()) + L" components");
     for (const HWND component : waitingFor_)
-        PostMessageW(component, Protocol::Question(), reinterpret_cast<WPARAM>(window), 0);
+        (urgency == Urgency::InCalls ? SendNotifyMessageW : PostMessageW)(component, Protocol::Question(),
+                                                                          reinterpret_cast<WPARAM>(window), 0);
     return Check();
 }
 

@@ -9,8 +9,11 @@ class CloseNotice {
 public:
     enum class Outcome { Waiting, MayClose, Refused };
 
-    /// Asks every component; they answer `window` with Protocol::Answer().
-    Outcome Ask(HWND window);
+    enum class Urgency { WhenIdle, InCalls };
+
+    /// Asks every component; they answer `window` with Protocol::Answer(). In a client that waits for a call of its own,
+    /// only a sent question arrives; neither kind waits for the client.
+    Outcome Ask(HWND window, Urgency urgency);
     /// Takes an answer.
     Outcome Take(HWND component, bool mayClose);
     /// To be called now and then while waiting: forgets components that are gone and refuses when the time is over

@@ -13,24 +13,24 @@ constexpr wchar_t kGroupLayout[] = L"DefaultGroupLayout";
 constexpr wchar_t kStartupMacro[] = L"StartupMacro";
 
 template <const wchar_t* Name>
-Variant GetText(Automation&, const Arguments&) {
-    return Variant::Text(Preferences::Text(Name));
+Value GetText(Automation&, const Arguments&) {
+    return Value::Text(Preferences::Text(Name));
 }
 
 template <const wchar_t* Name>
-void PutText(Automation&, const Variant& value) {
+void PutText(Automation&, const Value& value) {
     State::Store(kSection, Name, value.AsText());
 }
 
-Variant UseLastDBonStartup(Automation&, const Arguments&) {
-    return Variant::Flag(State::Flag(kSection, L"UseLastDBonStartup", Installation::ReadLastUsed().Use));
+Value UseLastDBonStartup(Automation&, const Arguments&) {
+    return Value::Flag(State::Flag(kSection, L"UseLastDBonStartup", Installation::ReadLastUsed().Use));
 }
 
-Variant GetDefaultLocation(Automation&, const Arguments& arguments) {
-    return Variant::Text(Preferences::Location(arguments[0].AsNumber()));
+Value GetDefaultLocation(Automation&, const Arguments& arguments) {
+    return Value::Text(Preferences::Location(arguments[0].AsNumber()));
 }
 
-constexpr Member kMembers[] = {
+constexpr MemberRow kMembers[] = {
     {kContactLayout, kReadWrite, {}, GetText<kContactLayout>, PutText<kContactLayout>},
     {kGroupLayout, kReadWrite, {}, GetText<kGroupLayout>, PutText<kGroupLayout>},
     {kStartupMacro, kReadWrite, {}, GetText<kStartupMacro>, PutText<kStartupMacro>},

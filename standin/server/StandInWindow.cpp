@@ -2,6 +2,7 @@
 
 #include "common/Automation.h"
 #include "common/Protocol.h"
+#include "common/State.h"
 #include "server/ClassObjects.h"
 #include "server/EmailAccount.h"
 #include "server/FactsList.h"
@@ -211,14 +212,22 @@ void StandInWindow::Received(const Journal::Entry& entry) {
 }
 
 void StandInWindow::RequestClose() {
-    if (shown) PostMessageW(shown->window_, kCloseNow, 0, 0);
+    if (!shown) return;
+    if (!State::Flag(L"Presets", L"CommandAsks")) {
+        PostMessageW(shown->window_, kCloseNow, 0, 0);
+        return;
+    }
+    // Inside the call: its client listens no longer than that.
+    shown->UserCloses(CloseNotice::Urgency::InCalls);
+    MSG message{};
+    while (shown->notice_.IsOpen() && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
 }
 
-void StandInWindow::UserCloses() {
+void StandInWindow::UserCloses(CloseNotice::Urgency urgency) {
     if (notice_.IsOpen()) return;
     LogOn::Cancel();
     EmailAccount::Cancel();
-    Follow(notice_.Ask(window_));
+    Follow(notice_.Ask(window_, urgency));
 }
 
 void StandInWindow::Follow(CloseNotice::Outcome outcome) {
@@ -245,7 +254,7 @@ void StandInWindow::OpenHandedOver(const COPYDATASTRUCT& data) {
 
 LRESULT StandInWindow::HandleCommand(int command) {
     switch (command) {
-    case IDM_EXIT: UserCloses(); break;
+    case IDM_EXIT: UserCloses(CloseNotice::Urgency::WhenIdle); break;
     case IDM_REFRESH: Refresh(); break;
     case IDM_CLEAR:
         unseen_.clear();
@@ -266,7 +275,7 @@ LRESULT StandInWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_SIZE: Arrange(); return 0;
     case WM_COMMAND: return HandleCommand(LOWORD(wParam));
-    case WM_CLOSE: UserCloses(); return 0;
+    case WM_CLOSE: UserCloses(CloseNotice::Urgency::WhenIdle); return 0;
     case WM_TIMER:
         if (wParam == kRefreshTimer)
             Refresh();

@@ -35,7 +35,7 @@ private:
     void Arrange();
     void Refresh();
     void AddCall(const Journal::Entry& entry);
-    void UserCloses();
+    void UserCloses(CloseNotice::Urgency urgency);
     void Follow(CloseNotice::Outcome outcome);
     void OpenHandedOver(const COPYDATASTRUCT& data);
     int Scaled(int pixels) const;

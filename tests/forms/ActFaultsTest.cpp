@@ -147,7 +147,7 @@ TEST_CASE("When ACT!'s user closes it during any call of the start or of an open
         Desk desk;
         std::wstring at;
         desk.Act.Fault = [&](const std::wstring& member, VARIANT*) -> std::optional<HRESULT> {
-            if (desk.Act.Calls.size() != number || !desk.Act.Listener) return std::nullopt;
+            if (desk.Act.Calls.size() != number || !desk.Act.IsListenedTo()) return std::nullopt;
             at = member;
             desk.Act.UserWantsToClose();
             // As COM does while it waits for an answer.

@@ -20,7 +20,7 @@
 namespace {
 
 void FillDesk(ActDesk& desk) {
-    desk.Act.Texts[L"GetOpenDBName"] = L"C:\\Data\\Service.dbf";
+    desk.Act.OpenDatabase = L"C:\\Data\\Service.dbf";
     desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Data\\Sales.dbf"},
                                 {L"CLY", L"C:\\Act\\Layout\\Telephone.cly"},
                                 {L"GLY", L"C:\\Act\\Layout\\Teams.gly"},

@@ -9,7 +9,7 @@
 namespace {
 
 void AddThree(ActDesk& desk) {
-    desk.Act.Texts[L"GetOpenDBName"] = desk.SettingsFile(); // a file that is there
+    desk.Act.OpenDatabase = desk.SettingsFile(); // a file that is there
     desk.AddDatabase(L"Sales", {{L"Path", desk.SettingsFile()}, {L"CLY", L"C:\\Act\\Layout\\Sales.cly"}});
     desk.AddDatabase(L"Service", {{L"Path", L"C:\\Gone\\Service.dbf"}, {L"CLY", L"x"}});
     desk.AddDatabase(L"Staff", {{L"Path", L"C:\\Gone\\Staff.dbf"}, {L"CLY", L"x"}});

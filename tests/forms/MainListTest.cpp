@@ -39,7 +39,7 @@ std::wstring FirstShown(const frmMain& window) {
 
 TEST_CASE("Rows show bare names for files in ACT!'s own folders and mark the open database in red") {
     ActDesk desk;
-    desk.Act.Texts[L"GetOpenDBName"] = L"c:\\data\\SALES.dbf";
+    desk.Act.OpenDatabase = L"c:\\data\\SALES.dbf";
     desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Data\\Sales.dbf"},
                                 {L"CLY", L"c:\\act\\layout\\Sales.cly"},
                                 {L"GLY", L"D:\\Other\\Sales.gly"},
@@ -65,7 +65,7 @@ TEST_CASE("Rows show bare names for files in ACT!'s own folders and mark the ope
 TEST_CASE("Where ACT! does not answer, all rows are there with full paths and none in red, and one report") {
     for (const wchar_t* member : {L"GetDefaultLocation", L"GetOpenDBName"}) {
         ActDesk desk;
-        desk.Act.Texts[L"GetOpenDBName"] = L"C:\\Data\\Sales.dbf";
+        desk.Act.OpenDatabase = L"C:\\Data\\Sales.dbf";
         desk.AddDatabase(L"Nothing", {});
         desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Data\\Sales.dbf"}, {L"CLY", L"C:\\Act\\Layout\\s.cly"}});
         UserStore::Set(L"Display", L"Selected", L"1");

@@ -50,10 +50,10 @@ TEST_CASE("A refused start tells why and leaves sizes, columns and selection as 
         {[](FakeAct& act) { act.InstanceCount = 0; }, L"Please run ACT! before running Kelmorra"},
         {[](FakeAct& act) {
              act.InstanceCount = 0;
-             act.RegistrationFailed = true;
+             act.State[{L"Presets", L"RegistrationFailed"}] = L"1";
          },
          L"Problem registering ACT! event.\r\nPlease run actreg.exe in your ACT! folder and try again."},
-        {[](FakeAct& act) { act.Texts[L"GetCurrentUserName"].clear(); },
+        {[](FakeAct& act) { act.User.clear(); },
          L"Please make sure a database is open or ACT! completely closed before running Kelmorra!"}};
     for (const Case& test : cases) {
         ActDesk desk;
@@ -265,29 +265,6 @@ TEST_CASE("Told to close while dialogs are open, the window leaves them one afte
         RunToEnd(window);
     CHECK(IniLib::GetKeyValue(L"General", L"Sort") == L"B;A");
     SilenceMessages(false);
-}
-
-TEST_CASE("A restart goes on when ACT! is gone in the call that closes it, and when its notice comes in that call") {
-    for (const bool isGone : {true, false}) {
-        ActDesk desk;
-        frmMain window;
-        window.Load();
-        Program().RestartAct = true;
-        desk.Act.Fault = [&](const std::wstring& member, VARIANT*) -> std::optional<HRESULT> {
-            if (member != L"Command") return std::nullopt;
-            if (isGone) return HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE);
-            desk.Act.UserWantsToClose();
-            return S_OK;
-        };
-        const DialogScript script; // fails on any report
-        const DWORD start = GetTickCount();
-        window.Unload();
-        RunToEnd(window);
-        CHECK(GetTickCount() - start >= 1900); // the second tick
-        const std::wstring calls = desk.Act.CallsSince(0);
-        CHECK((calls.find(L"AnswerUserWantsToClose(VT_BOOL True)") == std::wstring::npos) == isGone);
-        CHECK(calls.ends_with(L"Close()\n"));
-    }
 }
 
 TEST_CASE("While nothing is to be seen and ACT! refuses a call for ten seconds, a small window can end the waiting") {

@@ -155,6 +155,26 @@ TEST_CASE_FIXTURE(Journey, "Yes closes ACT!, opens its database again, and the p
     CHECK(Within([&] { return !IsWindow(launched); }));
 }
 
+TEST_CASE_FIXTURE(Journey, "a restart goes on when ACT! dies in the call that closes it, or tells of its end then") {
+    bool dies = false;
+    SUBCASE("dies") { dies = true; }
+    SUBCASE("tells") {}
+    HWND dialog = OpenDialog(*this);
+    Toggle(*this, dialog, L"chkScreen", 0);
+    if (dies)
+        Act(L"Faults", L"Command", L"die");
+    else
+        Act(L"Presets", L"CommandAsks", L"1");
+    JourneyWindow::Click(dialog, L"cmdOK");
+    JourneyWindow::Answer(Box(Program()), IDYES);
+    CHECK(ActHasEnded());
+    REQUIRE(AdoptAct());
+    CHECK(Program().ExitCode() == 0u); // and no report was in its way
+    CHECK(Count(L"APPOBJECT", L"Command") == 1);
+    CHECK(Count(L"EVENT", L"AnswerUserWantsToClose") == (dies ? 0 : 1));
+    CHECK(Within([&] { return Count(L"STANDIN", L"OpenDatabase") == 2; }));
+}
+
 TEST_CASE_FIXTURE(Journey, "a call that fails is reported with its handler, and dialog and program live on") {
     HWND dialog = OpenDialog(*this);
     Act(L"Faults", L"AddAuxCommandToToolbar", L"wCode 5 first 1");

@@ -8,28 +8,28 @@
 #include <string_view>
 
 /// Owner of a VARIANT.
-class Variant {
+class Value {
 public:
-    Variant() { VariantInit(&value_); }
-    Variant(Variant&& other) noexcept : value_(other.Detach()) {}
-    Variant& operator=(Variant&& other) noexcept {
+    Value() { VariantInit(&value_); }
+    Value(Value&& other) noexcept : value_(other.Detach()) {}
+    Value& operator=(Value&& other) noexcept {
         if (this != &other) {
             VariantClear(&value_);
             value_ = other.Detach();
         }
         return *this;
     }
-    Variant(const Variant&) = delete;
-    Variant& operator=(const Variant&) = delete;
-    ~Variant() { VariantClear(&value_); }
+    Value(const Value&) = delete;
+    Value& operator=(const Value&) = delete;
+    ~Value() { VariantClear(&value_); }
 
-    static Variant Text(std::wstring_view text);
-    static Variant Short(short number);
-    static Variant Long(long number);
-    static Variant Flag(bool flag);
-    static Variant Object(ComPtr<IDispatch> object);
+    static Value Text(std::wstring_view text);
+    static Value Short(short number);
+    static Value Long(long number);
+    static Value Flag(bool flag);
+    static Value Object(ComPtr<IDispatch> object);
     /// A copy without indirection, coerced to a type (VT_VARIANT: as it comes); nothing when that is not possible.
-    static std::optional<Variant> Converted(const VARIANT& source, VARTYPE type);
+    static std::optional<Value> Converted(const VARIANT& source, VARTYPE type);
 
     const VARIANT& Get() const { return value_; }
     std::wstring AsText() const;

@@ -7,13 +7,13 @@
 #include <optional>
 
 /// The event component: answers also when no ACT! runs, and tells its sinks when the user wants to close ACT!.
-class ActEvent final : public Automation,
+class EventComponent : public Automation,
                        public IConnectionPointContainer,
                        public IProvideClassInfo2,
                        public IOleObject,
                        public Hook::Listener {
 public:
-    ActEvent();
+    EventComponent();
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override { return Automation::AddRef(); }
@@ -49,12 +49,12 @@ public:
 
     /// Lets ACT! close, or not.
     void AnswerUserWantsToClose(bool mayClose);
+    bool HasSinks() const { return point_.HasSinks(); }
+    void UserWantsToClose() override;
     /// Lets go of ACT!: no event arrives any more.
     void Unhook() { hook_.reset(); }
 
 private:
-    void UserWantsToClose() override;
-
     ConnectionPoint point_{*this};
     ComPtr<IOleClientSite> site_;
     std::optional<Hook> hook_;

@@ -1,4 +1,4 @@
-#include "event/ActEvent.h"
+#include "event/EventComponent.h"
 
 #include "common/Journal.h"
 #include "common/Protocol.h"
@@ -10,28 +10,28 @@ constexpr DISPID kUserWantsToClose = 1;
 
 bool RegistrationHasFailed() { return State::Flag(L"Presets", L"RegistrationFailed"); }
 
-Variant InstanceCount(Automation&, const Arguments&) {
+Value InstanceCount(Automation&, const Arguments&) {
     long count = 0;
     for (HWND window = nullptr;;) {
         window = FindWindowExW(nullptr, window, Protocol::WindowClass, nullptr);
-        if (!window) return Variant::Long(count);
+        if (!window) return Value::Long(count);
         ++count;
     }
 }
 
-Variant RegistrationFailed(Automation&, const Arguments&) { return Variant::Flag(RegistrationHasFailed()); }
+Value RegistrationFailed(Automation&, const Arguments&) { return Value::Flag(RegistrationHasFailed()); }
 
-Variant Answer(Automation& object, const Arguments& arguments) {
-    static_cast<ActEvent&>(object).AnswerUserWantsToClose(arguments[0].AsFlag());
+Value Answer(Automation& object, const Arguments& arguments) {
+    static_cast<EventComponent&>(object).AnswerUserWantsToClose(arguments[0].AsFlag());
     return {};
 }
 
-Variant CloseComponent(Automation& object, const Arguments&) {
-    static_cast<ActEvent&>(object).Unhook();
+Value CloseComponent(Automation& object, const Arguments&) {
+    static_cast<EventComponent&>(object).Unhook();
     return {};
 }
 
-constexpr Member kMembers[] = {
+constexpr MemberRow kMembers[] = {
     {L"InstanceCount", kProperty, {}, InstanceCount, nullptr},
     {L"RegistrationFailed", kProperty, {}, RegistrationFailed, nullptr},
     {L"AnswerUserWantsToClose", kMethod, {VT_BOOL}, Answer, nullptr},
@@ -40,11 +40,11 @@ constexpr Member kMembers[] = {
 
 } // namespace
 
-ActEvent::ActEvent() : Automation(L"EVENT", kMembers) {
+EventComponent::EventComponent() : Automation(L"EVENT", kMembers) {
     if (!RegistrationHasFailed()) hook_.emplace(*this);
 }
 
-STDMETHODIMP ActEvent::QueryInterface(REFIID iid, void** object) {
+STDMETHODIMP EventComponent::QueryInterface(REFIID iid, void** object) {
     *object = nullptr;
     if (iid == IID_IConnectionPointContainer) *object = static_cast<IConnectionPointContainer*>(this);
     if (iid == IID_IOleObject) *object = static_cast<IOleObject*>(this);
@@ -55,54 +55,54 @@ STDMETHODIMP ActEvent::QueryInterface(REFIID iid, void** object) {
     return S_OK;
 }
 
-STDMETHODIMP ActEvent::EnumConnectionPoints(IEnumConnectionPoints** points) {
+STDMETHODIMP EventComponent::EnumConnectionPoints(IEnumConnectionPoints** points) {
     *points = MakeEnumeration(ComPtr<IConnectionPoint>::Share(&point_)).Detach();
     return S_OK;
 }
 
-STDMETHODIMP ActEvent::FindConnectionPoint(REFIID iid, IConnectionPoint** point) {
+STDMETHODIMP EventComponent::FindConnectionPoint(REFIID iid, IConnectionPoint** point) {
     *point = nullptr;
     if (iid != ClassIds::ActEvents) return CONNECT_E_NOCONNECTION;
     *point = ComPtr<IConnectionPoint>::Share(&point_).Detach();
     return S_OK;
 }
 
-STDMETHODIMP ActEvent::GetClassInfo(ITypeInfo** info) {
+STDMETHODIMP EventComponent::GetClassInfo(ITypeInfo** info) {
     *info = nullptr;
     return E_NOTIMPL;
 }
 
-STDMETHODIMP ActEvent::GetGUID(DWORD kind, GUID* guid) {
+STDMETHODIMP EventComponent::GetGUID(DWORD kind, GUID* guid) {
     *guid = ClassIds::ActEvents;
     return kind == GUIDKIND_DEFAULT_SOURCE_DISP_IID ? S_OK : E_INVALIDARG;
 }
 
-STDMETHODIMP ActEvent::SetClientSite(IOleClientSite* site) {
+STDMETHODIMP EventComponent::SetClientSite(IOleClientSite* site) {
     site_ = ComPtr<IOleClientSite>::Share(site);
     Journal::Write({{}, L"EVENT", L"SetClientSite", L"-", site ? L"site" : L"none", L"-> S_OK"});
     return S_OK;
 }
 
-STDMETHODIMP ActEvent::GetClientSite(IOleClientSite** site) {
+STDMETHODIMP EventComponent::GetClientSite(IOleClientSite** site) {
     *site = ComPtr<IOleClientSite>(site_).Detach();
     return S_OK;
 }
 
-STDMETHODIMP ActEvent::GetUserClassID(CLSID* classId) {
+STDMETHODIMP EventComponent::GetUserClassID(CLSID* classId) {
     *classId = ClassIds::ActEvent;
     return S_OK;
 }
 
-STDMETHODIMP ActEvent::GetMiscStatus(DWORD, DWORD* status) {
+STDMETHODIMP EventComponent::GetMiscStatus(DWORD, DWORD* status) {
     *status = OLEMISC_INVISIBLEATRUNTIME | OLEMISC_SETCLIENTSITEFIRST;
     return S_OK;
 }
 
-void ActEvent::AnswerUserWantsToClose(bool mayClose) {
+void EventComponent::AnswerUserWantsToClose(bool mayClose) {
     if (hook_) hook_->Answer(mayClose);
 }
 
-void ActEvent::UserWantsToClose() {
+void EventComponent::UserWantsToClose() {
     const ComPtr<Automation> alive = ComPtr<Automation>::Share(this);
     if (point_.HasSinks()) return point_.Fire(kUserWantsToClose, L"OnActUserWantsToClose");
     // Nobody can object through a component that no client listens to.

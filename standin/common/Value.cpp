@@ -1,4 +1,4 @@
-#include "common/Variant.h"
+#include "common/Value.h"
 
 #include "support/Error.h"
 
@@ -48,7 +48,7 @@ std::wstring Quoted(std::wstring_view text) {
 
 /// The value alone; "" for one that has no short text.
 std::wstring ValueText(const VARIANT& value) {
-    const std::optional<Variant> plain = Variant::Converted(value, VT_VARIANT);
+    const std::optional<Value> plain = Value::Converted(value, VT_VARIANT);
     if (!plain) return {};
     switch (plain->Get().vt) {
     case VT_BSTR: return Quoted(plain->AsText());
@@ -60,66 +60,66 @@ std::wstring ValueText(const VARIANT& value) {
     case VT_UNKNOWN: return {};
     default: break;
     }
-    const std::optional<Variant> text = Variant::Converted(plain->Get(), VT_BSTR);
+    const std::optional<Value> text = Value::Converted(plain->Get(), VT_BSTR);
     return text ? text->AsText() : std::wstring();
 }
 
 } // namespace
 
-Variant Variant::Text(std::wstring_view text) {
-    Variant made;
+Value Value::Text(std::wstring_view text) {
+    Value made;
     made.value_.vt = VT_BSTR;
     made.value_.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
     if (!made.value_.bstrVal) ThrowIfFailed(E_OUTOFMEMORY);
     return made;
 }
 
-Variant Variant::Short(short number) {
-    Variant made;
+Value Value::Short(short number) {
+    Value made;
     made.value_.vt = VT_I2;
     made.value_.iVal = number;
     return made;
 }
 
-Variant Variant::Long(long number) {
-    Variant made;
+Value Value::Long(long number) {
+    Value made;
     made.value_.vt = VT_I4;
     made.value_.lVal = number;
     return made;
 }
 
-Variant Variant::Flag(bool flag) {
-    Variant made;
+Value Value::Flag(bool flag) {
+    Value made;
     made.value_.vt = VT_BOOL;
     made.value_.boolVal = flag ? VARIANT_TRUE : VARIANT_FALSE;
     return made;
 }
 
-Variant Variant::Object(ComPtr<IDispatch> object) {
-    Variant made;
+Value Value::Object(ComPtr<IDispatch> object) {
+    Value made;
     made.value_.vt = VT_DISPATCH;
     made.value_.pdispVal = object.Detach();
     return made;
 }
 
-std::optional<Variant> Variant::Converted(const VARIANT& source, VARTYPE type) {
-    std::optional<Variant> made(std::in_place);
+std::optional<Value> Value::Converted(const VARIANT& source, VARTYPE type) {
+    std::optional<Value> made(std::in_place);
     if (FAILED(VariantCopyInd(&made->value_, const_cast<VARIANT*>(&source)))) return std::nullopt;
     if (type == VT_VARIANT || made->value_.vt == type) return made;
     if (FAILED(VariantChangeType(&made->value_, &made->value_, 0, type))) return std::nullopt;
     return made;
 }
 
-std::wstring Variant::AsText() const {
+std::wstring Value::AsText() const {
     if (value_.vt != VT_BSTR || !value_.bstrVal) return {};
     return {value_.bstrVal, SysStringLen(value_.bstrVal)};
 }
 
-long Variant::AsNumber() const { return value_.vt == VT_I2 ? value_.iVal : value_.vt == VT_I4 ? value_.lVal : 0; }
+long Value::AsNumber() const { return value_.vt == VT_I2 ? value_.iVal : value_.vt == VT_I4 ? value_.lVal : 0; }
 
-bool Variant::AsFlag() const { return value_.vt == VT_BOOL && value_.boolVal != VARIANT_FALSE; }
+bool Value::AsFlag() const { return value_.vt == VT_BOOL && value_.boolVal != VARIANT_FALSE; }
 
-VARIANT Variant::Detach() noexcept {
+VARIANT Value::Detach() noexcept {
     const VARIANT given = value_;
     VariantInit(&value_);
     return given;
