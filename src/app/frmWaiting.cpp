@@ -14,7 +14,7 @@ std::optional<frmWaiting> waiting;
 
 } // namespace
 
-frmWaiting::frmWaiting() : Form({L"frmWaiting", 4860, 1620}) {}
+frmWaiting::frmWaiting() : Form({L"frmWaiting", 7020, 1485}) {}
 
 void frmWaiting::Form_Load() {
     Caption(Application::Title);

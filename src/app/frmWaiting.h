@@ -10,8 +10,8 @@ class frmWaiting : public Form {
 public:
     frmWaiting();
 
-    Label lblWaiting{this, L"lblWaiting", {180, 180, 4500, 450}};
-    CommandButton cmdCancel{this, L"cmdCancel", {3465, 765, 1215, 345}, &frmWaiting::cmdCancel_Click, Cancel};
+    Label lblWaiting{this, L"lblWaiting", {180, 210, 6660, 225}};
+    CommandButton cmdCancel{this, L"cmdCancel", {5610, 630, 1215, 345}, &frmWaiting::cmdCancel_Click, Cancel};
 
     /// Lets calls into ACT! that are refused for long show it.
     static void Serve();

@@ -2,6 +2,7 @@
 // each.
 
 #include "support/Look.h"
+#include "app/frmWaiting.h"
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
@@ -16,6 +17,8 @@
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"
+
+#include <array>
 
 namespace {
 
@@ -70,15 +73,18 @@ void HoverOver(HWND box) {
     SendMessageW(box, WM_MOUSEMOVE, 0, MAKELPARAM(kInside, kInside));
 }
 
-COLORREF StripColor(HWND palette) {
+/// A colour at the left or right edge, half way down, as it stands on the screen.
+COLORREF ColorAtEdge(HWND window, bool isLeft) {
     RECT client{};
-    GetClientRect(palette, &client);
-    UpdateWindow(palette);
-    HDC canvas = GetDC(palette);
-    const COLORREF color = GetPixel(canvas, client.right - 3, client.bottom / 2);
-    ReleaseDC(palette, canvas);
+    GetClientRect(window, &client);
+    UpdateWindow(window);
+    HDC canvas = GetDC(window);
+    const COLORREF color = GetPixel(canvas, isLeft ? 3 : client.right - 3, client.bottom / 2);
+    ReleaseDC(window, canvas);
     return color;
 }
+
+COLORREF StripColor(HWND palette) { return ColorAtEdge(palette, false); }
 
 } // namespace
 
@@ -110,6 +116,11 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         window.mnuIntegrate.Click();
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"about"); });
         window.mnuAbout.Click();
+        script.Then([](HWND dialog) {
+            Inspect(dialog, L"waiting");
+            Form::Loaded().back()->Unload();
+        });
+        frmWaiting().ShowModal();
         End(window);
     }
     modLangues::Init_Language(short{0});
@@ -147,10 +158,23 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
                 CHECK(StripColor(palette) == GetSysColor(COLOR_ACTIVECAPTION));
                 TakePicture(palette, name);
                 SendMessageW(palette, WM_ACTIVATE, WA_INACTIVE, 0);
-                UpdateWindow(palette);
                 CHECK(StripColor(palette) == GetSysColor(COLOR_INACTIVECAPTION));
                 if (columns == 1) TakePicture(palette, name + L"-inactive");
+                // Another scheme shows at once on every button, also where no dialog has lain over it.
+                const std::array<HWND, 2> boxes{FindControl(palette, L"pic1"), FindControl(palette, L"pic2")};
+                const std::array before{ColorAtEdge(boxes[0], true), ColorAtEdge(boxes[1], true)};
+                static_cast<frmQuickSwitch*>(Form::Loaded().back())->mnuAssign.Click();
+                for (size_t box = 0; box < boxes.size(); ++box)
+                    CHECK(ColorAtEdge(boxes[box], true) != before[box]);
+                if (columns == 4) TakePicture(palette, name + L"-changed");
                 SendMessageW(palette, WM_COMMAND, IDCANCEL, 0);
+            });
+            script.Then([&](HWND settings) {
+                SetWindowPos(settings, nullptr, 0, 400, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+                HWND sample = FindControl(settings, L"picSample", (scheme + 1) % Artwork::SchemeCount);
+                SendMessageW(GetParent(sample), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sample), STN_CLICKED),
+                             reinterpret_cast<LPARAM>(sample));
+                Click(FindControl(settings, L"cmdOK"));
             });
             window.mnuQuickSwitch.Click();
             RunToEnd(window);
