@@ -1,5 +1,6 @@
 #include "app/LinkMenuItem.h"
 
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "support/Text.h"
 #include "support/Vendor.h"
@@ -27,7 +28,7 @@ private:
 };
 
 std::string LinkLine() {
-    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", Text::Replace(LangText[12], L"&", L""), L"\r\n"}));
+    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", Caption::Plain(LangText[Caption::VendorAddOns]), L"\r\n"}));
 }
 
 } // namespace

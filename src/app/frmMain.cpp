@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Module1.h"
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
@@ -27,8 +28,6 @@ constexpr unsigned kCloseRetryMilliseconds = 50;
 // The design size, which is the minimum too, in twips.
 constexpr int kDesignWidth = 8475;
 constexpr int kDesignHeight = 5190;
-
-std::wstring OpensDialog(const std::wstring& caption) { return caption + L"..."; }
 
 bool IsMessageBox(HWND window) {
     wchar_t className[16]{};
@@ -142,14 +141,14 @@ void frmMain::LayOut(int width, int height) {
 
 void frmMain::SetCaptions() {
     Caption(Application::Title);
-    cmdOpen.Text(LangText[62]);
-    cmdCancel.Text(LangText[2]);
-    lblMore.Text(LangText[3]);
+    cmdOpen.Text(LangText[Caption::Open]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
+    lblMore.Text(LangText[Caption::MoreAt]);
     lblLink.Text(Vendor::SiteName);
     lblFind.Text(Translated(MoreText::Find));
-    Frame1.Text(LangText[46]);
+    Frame1.Text(LangText[Caption::OpenIn]);
     for (std::size_t view = 0; view < ViewCount; ++view) {
-        const std::wstring& caption = LangText[47 + static_cast<int>(view)];
+        const std::wstring& caption = LangText[Caption::FirstView + static_cast<int>(view)];
         lblView[view].Text(caption);
         // Too narrow to be seen: for screen readers.
         optView[view].Text(caption);
@@ -159,23 +158,23 @@ void frmMain::SetCaptions() {
 }
 
 void frmMain::SetMenuCaptions() {
-    mnuFile.Caption(LangText[128]);
-    mnuFileOpen.Caption(LangText[62]);
-    mnuExit.Caption(LangText[129]);
-    mnuEdit.Caption(LangText[125]);
-    mnuEditProperties.Caption(OpensDialog(LangText[55]));
-    mnuManageList.Caption(OpensDialog(LangText[89]));
-    mnuOptions.Caption(LangText[59]);
-    mnuSettingsLocation.Caption(OpensDialog(LangText[122]));
-    mnuLanguages.Caption(OpensDialog(LangText[61]));
-    mnuIntegrate.Caption(OpensDialog(LangText[60]));
+    mnuFile.Caption(LangText[Caption::File]);
+    mnuFileOpen.Caption(LangText[Caption::Open]);
+    mnuExit.Caption(LangText[Caption::Exit]);
+    mnuEdit.Caption(LangText[Caption::Edit]);
+    mnuEditProperties.Caption(Caption::WithDots(LangText[Caption::DatabaseProperties]));
+    mnuManageList.Caption(Caption::WithDots(LangText[Caption::ManageList]));
+    mnuOptions.Caption(LangText[Caption::Options]);
+    mnuSettingsLocation.Caption(Caption::WithDots(LangText[Caption::SettingsFileLocation]));
+    mnuLanguages.Caption(Caption::WithDots(LangText[Caption::LanguagesItem]));
+    mnuIntegrate.Caption(Caption::WithDots(LangText[Caption::Integrate]));
     mnuQuickSwitch.Caption(L"QuickSwitch");
-    mnuHelp.Caption(LangText[56]);
-    mnuManual.Caption(LangText[130]);
-    mnuOnline.Caption(LangText[57]);
-    mnuAbout.Caption(OpensDialog(LangText[58]));
-    mnuOpen.Caption(LangText[62]);
-    mnuProperties.Caption(OpensDialog(LangText[55]));
+    mnuHelp.Caption(LangText[Caption::Help]);
+    mnuManual.Caption(LangText[Caption::UsersManual]);
+    mnuOnline.Caption(LangText[Caption::OnlineHelp]);
+    mnuAbout.Caption(Caption::WithDots(LangText[Caption::AboutItem]));
+    mnuOpen.Caption(LangText[Caption::Open]);
+    mnuProperties.Caption(Caption::WithDots(LangText[Caption::DatabaseProperties]));
     DrawMenuBar(Handle());
 }
 

@@ -3,10 +3,11 @@
 #include "app/frmMain.h"
 
 #include "dialogs/frmAbout.h"
+#include "dialogs/frmLanguage.h"
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmProperties.h"
-#include "i18n/frmLanguage.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "integration/frmIntegrateNew.h"
 #include "program/Program.h"
@@ -41,12 +42,12 @@ void frmMain::mnuManual_Click() {
     OpenWithShell(modFolderFileExists::FileExists(own) ? own : Application::FileInFolder(kManuals.front()));
 }
 
-void frmMain::mnuOnline_Click() { OpenWithShell(Vendor::Tutorials + LangText[63] + L".htm"); }
+void frmMain::mnuOnline_Click() { OpenWithShell(Vendor::Tutorials + LangText[Caption::OnlineHelpPage] + L".htm"); }
 
 void frmMain::mnuEditProperties_Click() {
     const std::wstring name = SelectedName();
     if (name.empty()) {
-        MsgBox(LangText[82]);
+        MsgBox(LangText[Caption::NoDatabaseSelected]);
         ListView1.SetFocus();
         return;
     }

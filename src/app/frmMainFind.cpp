@@ -3,6 +3,7 @@
 #include "app/frmMain.h"
 
 #include "databases/NameList.h"
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "stores/IniLib.h"
@@ -72,7 +73,7 @@ void frmMain::txtFind_Change() {
 void frmMain::CheckFiles() {
     if (!Visible()) return;
     RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // before anything takes time
-    ListView1.AccessibleName(LangText[90]);
+    ListView1.AccessibleName(LangText[Caption::DatabasesListed]);
     ListView1.TellNotes();
     checkNumber_ = pathCheck_.Start(Handle(), paths_);
     checkAgain_ = checkNumber_ == 0;

@@ -3,6 +3,7 @@
 #include "app/frmMain.h"
 
 #include "databases/DatabaseList.h"
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
@@ -12,7 +13,8 @@
 
 namespace {
 
-constexpr int kColumnTitleRows[] = {42, 43, 44, 45, 91};
+constexpr int kColumnTitleRows[] = {Caption::DatabaseColumn, Caption::ContactLayoutColumn, Caption::GroupLayoutColumn,
+                                    Caption::OpeningMacroColumn, Caption::DatabasePath};
 constexpr COLORREF kOpenInAct = RGB(255, 0, 0);
 
 /// A file in ACT!'s own folder of its kind goes by its bare name.

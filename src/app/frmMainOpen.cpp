@@ -5,6 +5,7 @@
 #include "act/LogonHelper.h"
 #include "databases/ActSettings.h"
 #include "databases/Logon.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
@@ -30,7 +31,7 @@ void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden)
     }
     if (name.empty()) {
         if (mainHidden) Show();
-        MsgBox(LangText[82]);
+        MsgBox(LangText[Caption::NoDatabaseSelected]);
         ListView1.SetFocus();
         return;
     }
@@ -74,9 +75,10 @@ bool frmMain::OpenDatabase(const std::wstring& path) {
     } catch (const Error& error) {
         if (!Program().ActIsClosing) Show();
         if (error.Number == BasicError::ObjectNotSet)
-            MsgBox(LangText[104] + L"\r\n\r\n" + LangText[105], MsgIcon::None, LangText[82].c_str());
+            MsgBox(LangText[Caption::SelectFirst] + L"\r\n\r\n" + LangText[Caption::EmptyListHint], MsgIcon::None,
+                   LangText[Caption::NoDatabaseSelected].c_str());
         else
-            MsgBox(LangText[106]);
+            MsgBox(LangText[Caption::NotAccessible]);
     }
     ToFront();
     ListView1.SetFocus();

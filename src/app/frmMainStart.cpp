@@ -8,8 +8,9 @@
 #include "databases/DatabaseList.h"
 #include "databases/Palette.h"
 #include "databases/modUpgrade32.h"
+#include "dialogs/frmLanguage.h"
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
-#include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
@@ -90,7 +91,7 @@ bool frmMain::ClaimInstance() {
     if (instance_.Claim()) return true;
     short language = StoredLanguage();
     modLangues::Init_Language(language);
-    MsgBox(language == 0 ? kAlreadyRunning : LangText[7]);
+    MsgBox(language == 0 ? kAlreadyRunning : LangText[Caption::AlreadyRunning]);
     SingleInstance::ShowOther();
     return false;
 }
@@ -127,11 +128,11 @@ bool frmMain::CheckActRuns() {
     ActEvent1.Create([this] { ActEvent1_OnActUserWantsToClose(); });
     if (ActEvent1.InstanceCount() >= 1) return true;
     if (ActEvent1.RegistrationFailed())
-        MsgBox(LangText[10] + L"\r\n" + LangText[11]);
+        MsgBox(LangText[Caption::EventProblem] + L"\r\n" + LangText[Caption::RunActReg]);
     else if (OpensQuickSwitchAtStart())
         modStartACT::StartACT_mode(*this, toolbarIcon_);
     else
-        MsgBox(LangText[9] + Application::Title);
+        MsgBox(LangText[Caption::RunActFirst] + Application::Title);
     return false;
 }
 
@@ -158,7 +159,7 @@ bool frmMain::FirstRunLanguage() {
 
 bool frmMain::CheckUserLoggedOn() {
     if (!Program().Application.GetCurrentUserName().empty()) return true;
-    MsgBox(LangText[126]);
+    MsgBox(LangText[Caption::OpenDatabaseNeeded]);
     return false;
 }
 
@@ -190,7 +191,9 @@ void frmMain::CreateSettingsFile() {
     if (isMissing && error == ERROR_SUCCESS) error = CreateEmptyList(path);
     if (error == ERROR_ACCESS_DENIED) {
         const std::wstring hint = Text::Replace(Translated(MoreText::FolderNotWritable), L"%1", path);
-        MsgBox(Text::Replace(hint, L"%2", Text::Replace(LangText[59], L"&", L"") + L" > " + LangText[122]),
+        MsgBox(Text::Replace(hint, L"%2",
+                             Caption::Plain(LangText[Caption::Options]) + L" > " +
+                                 LangText[Caption::SettingsFileLocation]),
                MsgIcon::Exclamation);
     } else if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS) {
         throw Error(BasicError::FileNotAccessible, SystemDescription(HRESULT_FROM_WIN32(error)) + L" " + path);

@@ -1,5 +1,6 @@
 #include "app/frmWaiting.h"
 
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "support/Application.h"
@@ -19,7 +20,7 @@ frmWaiting::frmWaiting() : Form({L"frmWaiting", 7020, 1485}) {}
 void frmWaiting::Form_Load() {
     Caption(Application::Title);
     lblWaiting.Text(Translated(MoreText::WaitingForAct));
-    cmdCancel.Text(LangText[2]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
 }
 
 bool frmWaiting::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) {

@@ -1,6 +1,7 @@
 #include "act/MessageFilter.h"
 #include "app/frmMain.h"
 #include "app/frmWaiting.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
@@ -23,7 +24,7 @@ private:
     bool entered_;
 };
 
-std::wstring SupportSentence() { return LangText[108]; }
+std::wstring SupportSentence() { return LangText[Caption::ContactSupport]; }
 
 /// Everything that other programs may wait for is let go when this returns.
 int Run() {

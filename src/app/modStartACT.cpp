@@ -5,6 +5,7 @@
 #include "databases/DatabaseList.h"
 #include "databases/Logon.h"
 #include "dialogs/frmProperties.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
@@ -77,7 +78,7 @@ void StartACT_mode(MainWindow& mainWindow, const clsToolbarIcon& toolbarIcon) tr
     WriteActSettings(*stored, name);
     const std::wstring act = toolbarIcon.GetACTLocation();
     if (act.empty() || act == L"none") {
-        MsgBox(LangText[9] + Application::Title);
+        MsgBox(LangText[Caption::RunActFirst] + Application::Title);
         return;
     }
     OpenWithShell(act);

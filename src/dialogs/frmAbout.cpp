@@ -1,5 +1,6 @@
 #include "dialogs/frmAbout.h"
 
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "support/Application.h"
@@ -12,15 +13,15 @@
 frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3960}) {}
 
 void frmAbout::Form_Load() try {
-    Caption(LangText[4]);
+    Caption(LangText[Caption::About]);
     constexpr short kGerman = 2;
     const bool isGerman = CurrentLanguage == kGerman;
-    txtAbout.Text(
-        Text::Concat({Application::Title, L" ", Application::Version(), L"\r\n", Text::Replace(LangText[12], L"&", L""),
-                      L"\r\n\r\n", Translated(MoreText::WhatThisIs), L"\r\n\r\n", LangText[5], L"\r\n\r\n", LangText[6],
-                      L"\r\n", FromUtf8(isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail)}));
-    txtAbout.AccessibleName(LangText[4]);
-    cmdOK.Text(LangText[1]);
+    txtAbout.Text(Text::Concat(
+        {Application::Title, L" ", Application::Version(), L"\r\n", Caption::Plain(LangText[Caption::VendorAddOns]),
+         L"\r\n\r\n", Translated(MoreText::WhatThisIs), L"\r\n\r\n", LangText[Caption::Freeware], L"\r\n\r\n",
+         LangText[Caption::EmailUs], L"\r\n", FromUtf8(isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail)}));
+    txtAbout.AccessibleName(LangText[Caption::About]);
+    cmdOK.Text(LangText[Caption::OK]);
 } catch (...) {
     ErrorReport("frmAbout: Sub Form_Load");
 }

@@ -1,6 +1,7 @@
 #include "dialogs/frmListMaintenance.h"
 
 #include "dialogs/frmProperties.h"
+#include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
@@ -23,13 +24,13 @@ bool frmListMaintenance::Form_Initialize() {
 
 void frmListMaintenance::Form_Load() try {
     // The text is a menu caption: without its access key mark.
-    Caption(LangText[89].substr(1));
-    Label1.Text(LangText[90] + L":");
-    cmdAdd.Text(LangText[87]);
-    cmdRemove.Text(LangText[88]);
-    cmdUp.Text(LangText[94]);
-    cmdDown.Text(LangText[95]);
-    cmdClose.Text(LangText[17]);
+    Caption(LangText[Caption::ManageList].substr(1));
+    Label1.Text(LangText[Caption::DatabasesListed] + L":");
+    cmdAdd.Text(LangText[Caption::Add]);
+    cmdRemove.Text(LangText[Caption::Remove]);
+    cmdUp.Text(LangText[Caption::MoveUp]);
+    cmdDown.Text(LangText[Caption::MoveDown]);
+    cmdClose.Text(LangText[Caption::Close]);
     SetMenuCaptions();
     Create_List();
     if (lstDB.ListCount() > 0) lstDB.ListIndex(0);
@@ -44,12 +45,12 @@ void frmListMaintenance::SetMenuCaptions() {
         item.Caption(Text::Concat({caption, L"\t", held, key}));
     };
     const std::wstring ctrl = Translated(MoreText::KeyCtrl);
-    set(mnuAdd, LangText[87], L"", Translated(MoreText::KeyInsert));
+    set(mnuAdd, LangText[Caption::Add], L"", Translated(MoreText::KeyInsert));
     set(mnuDuplicate, Translated(MoreText::Duplicate), ctrl.c_str(), L"+D");
-    set(mnuRemove, LangText[88], L"", Translated(MoreText::KeyDelete));
+    set(mnuRemove, LangText[Caption::Remove], L"", Translated(MoreText::KeyDelete));
     set(mnuUndo, Translated(MoreText::UndoRemoval), ctrl.c_str(), L"+Z");
-    set(mnuUp, LangText[94], L"Alt+", Translated(MoreText::KeyUp));
-    set(mnuDown, LangText[95], L"Alt+", Translated(MoreText::KeyDown));
+    set(mnuUp, LangText[Caption::MoveUp], L"Alt+", Translated(MoreText::KeyUp));
+    set(mnuDown, LangText[Caption::MoveDown], L"Alt+", Translated(MoreText::KeyDown));
 }
 
 void frmListMaintenance::Create_List() { ShowList(-1); }

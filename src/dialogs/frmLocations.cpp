@@ -1,6 +1,7 @@
 #include "dialogs/frmLocations.h"
 
 #include "databases/Keys.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
@@ -17,12 +18,12 @@ void frmLocations::Form_Activate() try {
     // Coming back from the file dialog or a message is no new beginning.
     if (isActivated_) return;
     isActivated_ = true;
-    Caption(LangText[122]);
-    Label1.Text(LangText[122] + L":");
-    cmdOK.Text(LangText[1]);
-    cmdCancel.Text(LangText[2]);
+    Caption(LangText[Caption::SettingsFileLocation]);
+    Label1.Text(LangText[Caption::SettingsFileLocation] + L":");
+    cmdOK.Text(LangText[Caption::OK]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
     cmdBrowse.Text(L"...");
-    cmdBrowse.AccessibleName(LangText[122] + L"...");
+    cmdBrowse.AccessibleName(Caption::WithDots(LangText[Caption::SettingsFileLocation]));
     pathAtActivation_ = IniLib::SettingsFile();
     txtPath.Text(pathAtActivation_);
     txtPath.SelectAll();

@@ -1,5 +1,6 @@
 #include "dialogs/frmPrefLocations.h"
 
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/SettingsNotice.h"
 #include "support/ErrorReport.h"
@@ -10,8 +11,7 @@
 
 namespace {
 
-constexpr int kFirstRowText = 109; // the row texts follow one another in the order of the locations
-constexpr int kTypeColumn = 2100;  // twips
+constexpr int kTypeColumn = 2100; // twips
 
 } // namespace
 
@@ -26,16 +26,16 @@ bool frmPrefLocations::Form_Initialize() {
 }
 
 void frmPrefLocations::Form_Load() try {
-    Caption(LangText[124]);
-    lvwPref.AccessibleName(LangText[124]);
-    cmdOK.Text(LangText[1]);
-    cmdCancel.Text(LangText[2]);
-    cmdEditlocation.Text(LangText[125] + L"...");
+    Caption(LangText[Caption::EditLocations]);
+    lvwPref.AccessibleName(LangText[Caption::EditLocations]);
+    cmdOK.Text(LangText[Caption::OK]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
+    cmdEditlocation.Text(Caption::WithDots(LangText[Caption::Edit]));
     cmdClear.Text(L"Clear");
-    lvwPref.AddColumn(LangText[147], kTypeColumn);
-    lvwPref.AddColumn(LangText[148], lvwPref.Place().Width - kTypeColumn - 120);
+    lvwPref.AddColumn(LangText[Caption::FileType], kTypeColumn);
+    lvwPref.AddColumn(LangText[Caption::Location], lvwPref.Place().Width - kTypeColumn - 120);
     for (const std::wstring& folder : locations_->All())
-        lvwPref.Add({LangText[kFirstRowText + lvwPref.RowCount()], folder});
+        lvwPref.Add({LangText[Caption::FirstLocation + lvwPref.RowCount()], folder});
     lvwPref.Select(0);
 } catch (...) {
     ErrorReport("frmPrefLocations: Sub Form_Load");
@@ -61,7 +61,7 @@ void frmPrefLocations::cmdEditlocation_Click() {
 
 void frmPrefLocations::cmdClear_Click() try {
     const int row = lvwPref.Selected();
-    if (row < 0 || !AskYesNo(LangText[149] + lvwPref.Cell(row, 0) + L"?")) return;
+    if (row < 0 || !AskYesNo(LangText[Caption::ClearLocation] + lvwPref.Cell(row, 0) + L"?")) return;
     if (locations_->Clear(static_cast<size_t>(row)))
         lvwPref.Cell(row, 1, {});
     else

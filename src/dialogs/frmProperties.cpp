@@ -2,6 +2,7 @@
 
 #include "databases/DatabaseList.h"
 #include "dialogs/frmPrefLocations.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
@@ -28,10 +29,11 @@ struct BrowseTarget {
 };
 
 constexpr BrowseTarget kBrowseTargets[] = {
-    {L"Contact Layouts (*.cly)|*.cly", DefaultLocation::Layouts, &frmProperties::txtCL, 84},
-    {L"Group Layouts (*.gly)|*.gly", DefaultLocation::Layouts, &frmProperties::txtGL, 85},
-    {L"Macros (*.mpr)|*.mpr|Programs (*.exe)|*.exe", DefaultLocation::Macros, &frmProperties::txtMacro, 86},
-    {L"ACT! Database (*.dbf)|*.dbf", DefaultLocation::Databases, &frmProperties::txtPath, 91},
+    {L"Contact Layouts (*.cly)|*.cly", DefaultLocation::Layouts, &frmProperties::txtCL, Caption::DefaultContactLayout},
+    {L"Group Layouts (*.gly)|*.gly", DefaultLocation::Layouts, &frmProperties::txtGL, Caption::DefaultGroupLayout},
+    {L"Macros (*.mpr)|*.mpr|Programs (*.exe)|*.exe", DefaultLocation::Macros, &frmProperties::txtMacro,
+     Caption::RunMacroOnOpening},
+    {L"ACT! Database (*.dbf)|*.dbf", DefaultLocation::Databases, &frmProperties::txtPath, Caption::DatabasePath},
 };
 
 } // namespace
@@ -67,27 +69,28 @@ void frmProperties::Form_Load() try {
 void frmProperties::SetCaptions() {
     constexpr WPARAM kLongestName = 255; // a key of the registry, for the log-on, has no longer one
     SendMessageW(txtName.Handle(), EM_LIMITTEXT, kLongestName, 0);
-    Caption(OldName_.empty() ? LangText[83] : LangText[83] + L": " + OldName_);
-    Label1.Text(LangText[84] + L":");
-    Label2.Text(LangText[85] + L":");
-    Label3.Text(LangText[86] + L":");
-    Label4.Text(LangText[92] + L":");
-    Label5.Text(LangText[91] + L":");
-    for (const int row : {131, 132, 133}) mstOptions.AddTab(LangText[row]);
-    optLocations[FromOther].Text(LangText[134]);
-    optLocations[Specific].Text(LangText[135]);
-    cmdEditLocations.Text(LangText[124] + L"...");
-    lblUsername.Text(LangText[136] + L":");
-    chkPassword.Text(LangText[137] + L":");
-    chkNotAtACTLaunch.Text(LangText[152]);
-    cmdOK.Text(LangText[1]);
-    cmdCancel.Text(LangText[2]);
+    Caption(OldName_.empty() ? LangText[Caption::Properties] : LangText[Caption::Properties] + L": " + OldName_);
+    Label1.Text(LangText[Caption::DefaultContactLayout] + L":");
+    Label2.Text(LangText[Caption::DefaultGroupLayout] + L":");
+    Label3.Text(LangText[Caption::RunMacroOnOpening] + L":");
+    Label4.Text(LangText[Caption::FriendlyName] + L":");
+    Label5.Text(LangText[Caption::DatabasePath] + L":");
+    for (const Caption::Row row : {Caption::General, Caption::DefaultLocations, Caption::Logon})
+        mstOptions.AddTab(LangText[row]);
+    optLocations[FromOther].Text(LangText[Caption::UseLocationsFrom]);
+    optLocations[Specific].Text(LangText[Caption::UseSpecificLocations]);
+    cmdEditLocations.Text(Caption::WithDots(LangText[Caption::EditLocations]));
+    lblUsername.Text(LangText[Caption::Username] + L":");
+    chkPassword.Text(LangText[Caption::UsePassword] + L":");
+    chkNotAtACTLaunch.Text(LangText[Caption::NoPasswordAtStartup]);
+    cmdOK.Text(LangText[Caption::OK]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
     for (CommandButton* browse : {&cmdBrowse0, &cmdBrowse1, &cmdBrowse2, &cmdBrowse3}) {
         browse->Text(L"...");
-        browse->AccessibleName(LangText[kBrowseTargets[browse->Index()].LabelText] + L"...");
+        browse->AccessibleName(Caption::WithDots(LangText[kBrowseTargets[browse->Index()].LabelText]));
     }
-    cboDB.AccessibleName(LangText[134]);
-    txtPassword.AccessibleName(LangText[137]);
+    cboDB.AccessibleName(LangText[Caption::UseLocationsFrom]);
+    txtPassword.AccessibleName(LangText[Caption::UsePassword]);
 }
 
 void frmProperties::ShowValues() {
@@ -153,12 +156,12 @@ bool frmProperties::Check_Name() {
     if (name.empty() || isTaken) return RefuseName();
     if (txtPath.Text().empty()) {
         // Reported, but not refused.
-        MsgBox(LangText[123]);
+        MsgBox(LangText[Caption::DatabaseNeeded]);
         ShowTab(Tab::General);
         txtPath.SetFocus();
     }
     if (!txtCL.Text().empty()) return true;
-    MsgBox(LangText[93]);
+    MsgBox(LangText[Caption::ContactLayoutNeeded]);
     ShowTab(Tab::General);
     txtCL.SetFocus();
     return false;
@@ -166,7 +169,7 @@ bool frmProperties::Check_Name() {
 
 bool frmProperties::RefuseName() {
     txtName.Text(OldName_);
-    MsgBox(LangText[121], MsgIcon::Exclamation);
+    MsgBox(LangText[Caption::UniqueNameNeeded], MsgIcon::Exclamation);
     SkipTabCheck_ = true;
     ShowTab(Tab::General);
     txtName.SetFocus();

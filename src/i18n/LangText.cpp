@@ -267,3 +267,14 @@ constexpr std::array<LangTextRow, LangTextRows> LangTextTable{{
           "Kein Kennwort verwenden, wenn Kelmorra ACT! startet"},
 }};
 // clang-format on
+
+namespace {
+
+consteval bool IsInOrder() {
+    for (size_t place = 0; place < LangTextRows; ++place)
+        if (LangTextTable[place].Index != static_cast<int>(place) + 1) return false;
+    return true;
+}
+static_assert(IsInOrder(), "a row's number is its place");
+
+} // namespace

@@ -1,5 +1,6 @@
 #include "integration/frmIntegrateNew.h"
 
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "support/Application.h"
@@ -8,8 +9,6 @@
 #include "support/Text.h"
 
 namespace {
-
-constexpr std::array kViewTexts{98, 99, 100, 101, 102, 103};
 
 short ViewNumber(int index) { return static_cast<short>(index % static_cast<int>(frmIntegrateNew::ViewCount) + 1); }
 
@@ -30,7 +29,7 @@ ActAuxCommands::Definition OwnCommand() {
             program + L".exe",
             Application::Folder(),
             title,
-            Text::Concat({title, L" ", LangText[23]}),
+            Text::Concat({title, L" ", LangText[Caption::ClickToLaunch]}),
             program + L".ico",
             program + L"32.ico"};
 }
@@ -56,20 +55,20 @@ void frmIntegrateNew::Form_Load() try {
 }
 
 void frmIntegrateNew::SetCaptions() {
-    Caption(LangText[13]);
-    Frame1.Text(LangText[96] + L":");
-    Frame2.Text(LangText[97] + L":");
+    Caption(LangText[Caption::IntegrateTitle]);
+    Frame1.Text(LangText[Caption::ToolbarViews] + L":");
+    Frame2.Text(LangText[Caption::ToolsMenuViews] + L":");
     for (size_t view = 0; view < ViewCount; ++view) {
-        const std::wstring& name = LangText[kViewTexts.at(view)];
+        const std::wstring& name = LangText[Caption::FirstActView + static_cast<int>(view)];
         lblToolbar[view].Text(name);
         lblToolsMenu[view].Text(name);
         // Too narrow to be seen: for screen readers.
-        chkToolbar[view].Text(name + L", " + LangText[96]);
-        chkToolsMenu[view].Text(name + L", " + LangText[97]);
+        chkToolbar[view].Text(name + L", " + LangText[Caption::ToolbarViews]);
+        chkToolsMenu[view].Text(name + L", " + LangText[Caption::ToolsMenuViews]);
     }
-    Label2.Text(LangText[20]);
-    cmdOK.Text(LangText[17]);
-    cmdCancel.Text(LangText[2]);
+    Label2.Text(LangText[Caption::RestartNeeded]);
+    cmdOK.Text(LangText[Caption::Close]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
 }
 
 void frmIntegrateNew::ReadBoxes() {
@@ -80,7 +79,7 @@ void frmIntegrateNew::ReadBoxes() {
 }
 
 void frmIntegrateNew::AddAuxCommand() {
-    if (commands_.AddAuxCommand(OwnCommand()) != 0) MsgBox(LangText[22]);
+    if (commands_.AddAuxCommand(OwnCommand()) != 0) MsgBox(LangText[Caption::OperationFailed]);
 }
 
 void frmIntegrateNew::chkScreen_Click(int index) {
@@ -102,7 +101,7 @@ void frmIntegrateNew::lblScreen_Click(int index) { Box(index).Value(!Box(index).
 void frmIntegrateNew::cmdOK_Click() {
     if (Changed_) {
         if (LastResult_ != 0)
-            MsgBox(LangText[22]);
+            MsgBox(LangText[Caption::OperationFailed]);
         else
             AskToRestart();
     }
@@ -110,7 +109,7 @@ void frmIntegrateNew::cmdOK_Click() {
 }
 
 void frmIntegrateNew::AskToRestart() {
-    const bool isWanted = AskYesNo(LangText[20] + L"\r\n" + LangText[21]);
+    const bool isWanted = AskYesNo(LangText[Caption::RestartNeeded] + L"\r\n" + LangText[Caption::RestartNow]);
     Form_Load();
     if (isWanted) Program().RestartAct = true;
 }

@@ -1,5 +1,6 @@
 #include "quickswitch/frmAssign.h"
 
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/SettingsNotice.h"
 #include "support/ErrorReport.h"
@@ -91,22 +92,23 @@ void frmAssign::Form_Load() try {
 }
 
 void frmAssign::SetCaptions() {
-    Caption(LangText[127]);
-    mstAssign.AddTab(LangText[138]);
-    mstAssign.AddTab(LangText[139]);
-    fraButtons.Text(LangText[140] + L":");
+    Caption(LangText[Caption::QuickSwitchSettings]);
+    mstAssign.AddTab(LangText[Caption::Buttons]);
+    mstAssign.AddTab(LangText[Caption::ColorScheme]);
+    fraButtons.Text(LangText[Caption::AssignDatabase] + L":");
     for (size_t index = 0; index < ButtonCount; ++index) SetButtonCaption(index);
-    chkStartup.Text(LangText[145]);
-    lblLayout.Text(LangText[138] + L":");
-    fraColors.Text(LangText[146] + L":");
+    chkStartup.Text(LangText[Caption::DisplayAtStartup]);
+    lblLayout.Text(LangText[Caption::Buttons] + L":");
+    fraColors.Text(LangText[Caption::ChooseColorScheme] + L":");
     for (size_t scheme = 0; scheme < Artwork::SchemeCount; ++scheme)
-        optColor[scheme].Text(LangText[139] + L" " + Text::FromNumber(scheme + 1)); // for screen readers
-    cmdOK.Text(LangText[1]);
-    cmdCancel.Text(LangText[2]);
+        optColor[scheme].Text(LangText[Caption::ColorScheme] + L" " +
+                              Text::FromNumber(scheme + 1)); // for screen readers
+    cmdOK.Text(LangText[Caption::OK]);
+    cmdCancel.Text(LangText[Caption::Cancel]);
 }
 
 void frmAssign::SetButtonCaption(size_t index) {
-    const std::wstring button = LangText[141] + L" " + Text::FromNumber(index + 1);
+    const std::wstring button = LangText[Caption::Button] + L" " + Text::FromNumber(index + 1);
     lblDB[index].Text(button + L":");
     cboDB[index].AccessibleName(button);
 }

@@ -2,6 +2,7 @@
 
 #include "databases/Keys.h"
 #include "databases/Palette.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "quickswitch/PalettePlace.h"
@@ -47,10 +48,10 @@ void frmQuickSwitch::Form_Load() try {
     }
     Refresh_Screen();
     RestorePosition();
-    mnuControlClose.Caption(LangText[150] + L"...");
+    mnuControlClose.Caption(Caption::WithDots(LangText[Caption::CloseAndLaunch]));
     mnuControlClose.Enabled(!program.ACTStartedByProgram);
-    mnuAssign.Caption(LangText[127] + L"...");
-    mnuExit.Caption(LangText[129]);
+    mnuAssign.Caption(Caption::WithDots(LangText[Caption::QuickSwitchSettings]));
+    mnuExit.Caption(LangText[Caption::Exit]);
     Caption(L"QuickSwitch");
 } catch (...) {
     ErrorReport("frmQuickSwitch: Sub Form_Load");

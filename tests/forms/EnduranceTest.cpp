@@ -6,7 +6,7 @@
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
 #include "dialogs/frmProperties.h"
-#include "i18n/frmLanguage.h"
+#include "dialogs/frmLanguage.h"
 #include "integration/frmIntegrateNew.h"
 #include "program/Program.h"
 #include "quickswitch/frmAssign.h"

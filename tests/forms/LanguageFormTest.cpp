@@ -1,4 +1,5 @@
-#include "i18n/frmLanguage.h"
+#include "dialogs/frmLanguage.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "stores/UserStore.h"
 #include "support/DialogScript.h"
@@ -31,7 +32,7 @@ TEST_CASE("Later the dialog speaks the current language, shows it selected, and 
     modLangues::Init_Language(short{1});
     DialogScript script;
     script.Then([](HWND window) {
-        CHECK(WindowText(window) == LangText[65]);
+        CHECK(WindowText(window) == LangText[Caption::Languages]);
         CHECK(WindowText(FindControl(window, L"Label1")) == L"Choisissez votre langue:");
         CHECK(WindowText(FindControl(window, L"cmdCancel")) == L"&Annuler");
         HWND list = FindControl(window, L"cmbLanguage");

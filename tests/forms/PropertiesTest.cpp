@@ -2,6 +2,7 @@
 
 #include "databases/DatabaseList.h"
 #include "dialogs/frmProperties.h"
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "stores/IniLib.h"
@@ -135,8 +136,8 @@ TEST_CASE("Leaving the first tab checks the name; a missing path is reported but
     session.Script.Answer(IDOK).Answer(IDOK);
     session.Run();
     REQUIRE(session.Script.All().size() == 3);
-    CHECK(session.Script.All()[1].Text == LangText[123]);
-    CHECK(session.Script.All()[2].Text == LangText[123]);
+    CHECK(session.Script.All()[1].Text == LangText[Caption::DatabaseNeeded]);
+    CHECK(session.Script.All()[2].Text == LangText[Caption::DatabaseNeeded]);
     CHECK(Ini(L"Sales", L"Path") == L"(none)"); // an empty value reads as none
     CHECK(session.Row.Replaced == L"Sales");
 }

@@ -1,13 +1,14 @@
 #define DOCTEST_CONFIG_IMPLEMENT
 #include <doctest/doctest.h>
 
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "support/ErrorReport.h"
 #include "win32/Windows.h"
 
 namespace {
 
-std::wstring SupportSentence() { return LangText[108]; }
+std::wstring SupportSentence() { return LangText[Caption::ContactSupport]; }
 
 } // namespace
 

@@ -1,5 +1,6 @@
-#include "i18n/frmLanguage.h"
+#include "dialogs/frmLanguage.h"
 
+#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
@@ -26,10 +27,10 @@ void frmLanguage::Form_Load() try {
         cmdCancel.Text(L"&Cancel");
         cmdCancel.Enabled(false);
     } else {
-        Caption(LangText[65]);
-        Label1.Text(LangText[64] + L":");
-        cmdOK.Text(LangText[1]);
-        cmdCancel.Text(LangText[2]);
+        Caption(LangText[Caption::Languages]);
+        Label1.Text(LangText[Caption::PickLanguage] + L":");
+        cmdOK.Text(LangText[Caption::OK]);
+        cmdCancel.Text(LangText[Caption::Cancel]);
     }
     for (const wchar_t* language : {L"English", L"Français", L"Deutsch"}) cmbLanguage.AddItem(language);
     cmbLanguage.ListIndex(CurrentLanguage);
