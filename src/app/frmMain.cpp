@@ -1,11 +1,12 @@
 #include "app/frmMain.h"
 
-#include "app/Module1.h"
+#include "databases/Keys.h"
 #include "i18n/Caption.h"
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
+#include "opening/Module1.h"
 #include "program/Program.h"
-#include "quickswitch/frmQuickSwitch.h"
+#include "program/SettingsNotice.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
 #include "support/Busy.h"
@@ -16,87 +17,97 @@
 #include "support/Vendor.h"
 
 #include <algorithm>
-#include <cwchar>
 
 namespace {
 
 constexpr UINT kActIsClosing = WM_APP + 1;
-constexpr UINT kCheckFiles = WM_APP + 2;
-constexpr UINT kFileLookedFor = WM_APP + 3;
-constexpr unsigned kCloseRetryMilliseconds = 50;
+constexpr RowFiles::Messages kFileMessages{WM_APP + 2, WM_APP + 3};
+constexpr unsigned kRetryMilliseconds = 50;
 
 // The design size, which is the minimum too, in twips.
 constexpr int kDesignWidth = 8475;
 constexpr int kDesignHeight = 5190;
 
-bool IsMessageBox(HWND window) {
-    wchar_t className[16]{};
-    GetClassNameW(window, className, 16);
-    return std::wcscmp(className, L"#32770") == 0;
-}
-
-/// What is to be closed before the main window.
-struct Cancelling {
-    const Form* MainWindow;
-    HWND BoxAtClose; ///< of message boxes this one alone, unless ACT! is closing: later ones ask their user something
-    bool Found;
-};
-
-/// Ends one dialog, message box or common dialog of this thread as by Cancel; false when `window` is none in use.
-bool CancelDialog(HWND window, const Cancelling& cancel) {
-    if (window == cancel.MainWindow->Handle() || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
-    if (Form* form = Form::FromWindow(window)) {
-        form->CloseAsByUser();
-        // One that cannot be cancelled; where a question is open the next tick looks again.
-        if (!form->Unloaded() && IsWindowEnabled(window)) form->Unload();
-        return true;
-    }
-    if (!IsMessageBox(window)) return false;
-    if (!Program().ActIsClosing && window != cancel.BoxAtClose) return true;
-    if (GetDlgItem(window, IDNO))
-        PostMessageW(window, WM_COMMAND, IDNO, 0); // has no Cancel
-    else
-        PostMessageW(window, WM_CLOSE, 0, 0);
-    return true;
-}
-
-BOOL CALLBACK CancelNext(HWND window, LPARAM state) {
-    auto& cancel = *reinterpret_cast<Cancelling*>(state);
-    cancel.Found = CancelDialog(window, cancel);
-    return !cancel.Found;
-}
-
 } // namespace
 
-frmMain::frmMain() : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), pathCheck_(kFileLookedFor) {}
+frmMain::frmMain()
+    : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), table_(ListView1, find_, kFileMessages),
+      startup_(*this, [this] { ActEvent1_OnActUserWantsToClose(); }) {}
 
-// A start that is refused, and one that only shows the palette, need none of the controls.
-bool frmMain::Form_Initialize() try { return StartSteps(); } catch (...) {
-    ErrorReport("frmMain: Sub Form_Load");
-    return false;
+std::array<Twips, frmMain::ViewCount> frmMain::OptionPlaces() {
+    return Grid<ViewCount>({180, 255, 210, 210}, 4, 3120, 255);
 }
 
-void frmMain::Form_Load() try { FinishStart(); } catch (...) {
-    ErrorReport("frmMain: Sub Form_Load");
-    Unload();
+std::array<Twips, frmMain::ViewCount> frmMain::LabelPlaces() {
+    return Grid<ViewCount>({450, 255, 2700, 225}, 4, 3120, 255);
+}
+
+void frmMain::Form_Load() { Furnish(true); }
+
+void frmMain::Furnish(bool isStart) {
+    const std::function<void()> steps[] = {[this] { startup_.CreateSettingsFile(); },
+                                           [&] { RestoreSize(isStart); },
+                                           [this] { SetCaptions(); },
+                                           [this] { table_.RestoreColumns(); },
+                                           [this] { startup_.CompleteFirstRun(); },
+                                           [this] { startup_.RecordActDefaults(); },
+                                           [&] {
+                                               if (isStart) table_.Reload();
+                                           }};
+    bool isReported = false;
+    for (const auto& step : steps) try {
+            step();
+        } catch (...) {
+            // The window stays usable, so that for example the settings file's place can be mended. What fails
+            // further on has the same cause and is not reported again.
+            if (!isReported) ErrorReport("frmMain: Sub Form_Load");
+            isReported = true;
+        }
+    if (!isStart) return;
+    ShowFirstWindow();
+    if (!table_.IsLoaded() && !isReported) SettingsNotice::CannotRead();
+}
+
+void frmMain::RestoreSize(bool isStart) {
+    if (!find_.IsOpen()) CloseFind();
+    const auto width = Text::Measure(UserStore::Get(Keys::Settings, Keys::Width));
+    const auto height = Text::Measure(UserStore::Get(Keys::Settings, Keys::Height));
+    const Twips design = OuterSize();
+    const int widest = ToTwips(GetSystemMetrics(SM_CXMAXTRACK), Dpi());
+    const int highest = ToTwips(GetSystemMetrics(SM_CYMAXTRACK), Dpi());
+    const Twips wanted{0, 0, std::min<int>(width.value_or(design.Width), widest),
+                       std::min<int>(height.value_or(design.Height), highest)};
+    if (wanted != design) {
+        OuterSize(wanted.Width, wanted.Height);
+        if (isStart) Center(nullptr);
+    }
+    sizeLoaded_ = true;
+    if (isStart) optView[0].Value(true);
+}
+
+void frmMain::ShowFirstWindow() {
+    if (Program().ActIsClosing) return;
+    if (Startup::OpensQuickSwitch())
+        mnuQuickSwitch_Click();
+    else
+        Show();
+    if (Visible()) Startup::TellOfUnseen();
 }
 
 void frmMain::ShowMain() {
     Show();
-    CheckFilesLater();
+    table_.Files().LookLater();
 }
-
-void frmMain::CheckFilesLater() { PostMessageW(Handle(), kCheckFiles, 0, 0); }
 
 bool frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
-    case kCheckFiles: CheckFiles(); return true;
-    case kFileLookedFor: NoteFile(wParam, static_cast<long>(lParam)); return true;
+    case kFileMessages.Look: LookForFiles(); return true;
+    case kFileMessages.Answer: table_.Files().Take(wParam, static_cast<long>(lParam)); return true;
     case kActIsClosing:
         Program().ActIsClosing = true;
         SilenceMessages(true);
         EndMenu();
-        tmrClose.Interval(kCloseRetryMilliseconds);
+        tmrLeaveDialogs.Interval(kRetryMilliseconds);
         return true;
     case WM_QUERYENDSESSION: result = TRUE; return true;
     case WM_ENDSESSION:
@@ -125,10 +136,9 @@ void frmMain::Form_Resize() {
 void frmMain::LayOut(int width, int height) {
     const int growth = height - kDesignHeight;
     const int inner = InnerSize().Width;
+    const int find = find_.IsOpen() ? FindBox::Height : 0;
     Line1.Move({0, 0, inner, 15});
     Line2.Move({0, 15, inner, 15});
-    constexpr int kFindHeight = 405;
-    const int find = isFinding_ ? kFindHeight : 0;
     txtFind.Move({1080, 120, width - 2940, 315});
     ListView1.Move({120, 120 + find, width - 1980, height - 2775 - find});
     Frame1.Move({120, 2715 + growth, width - 1980, 1290});
@@ -154,7 +164,7 @@ void frmMain::SetCaptions() {
         optView[view].Text(caption);
     }
     SetMenuCaptions();
-    SetColumnTitles();
+    table_.SetTitles();
 }
 
 void frmMain::SetMenuCaptions() {
@@ -178,11 +188,49 @@ void frmMain::SetMenuCaptions() {
     DrawMenuBar(Handle());
 }
 
+bool frmMain::Form_KeyDown(const KeyPress& press) {
+    if (press.Ctrl && !press.Alt && !press.Shift && press.Key >= '1' && press.Key < '1' + static_cast<int>(ViewCount)) {
+        lblView_Click(press.Key - '1');
+        return true;
+    }
+    if (press == KeyPress{.Key = VK_F2} || press == KeyPress{.Key = VK_RETURN, .Alt = true}) {
+        mnuEditProperties_Click();
+    } else if (press == KeyPress{.Key = VK_F1}) {
+        mnuManual_Click();
+    } else if (press == KeyPress{.Key = 'F', .Ctrl = true}) {
+        OpenFind();
+    } else if (find_.IsOpen() && press == KeyPress{.Key = VK_ESCAPE}) {
+        CloseFind();
+        ListView1.SetFocus();
+    } else {
+        return press == KeyPress{.Key = press.Key} && find_.TakesKey(press.Key);
+    }
+    return true;
+}
+
+void frmMain::OpenFind() {
+    const bool wasOpen = find_.IsOpen();
+    find_.Open();
+    if (!wasOpen) Form_Resize();
+}
+
+void frmMain::CloseFind() {
+    const bool wasOpen = find_.IsOpen();
+    find_.Close();
+    if (wasOpen) Form_Resize();
+}
+
+void frmMain::LookForFiles() {
+    if (!Visible()) return;
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // before anything takes time
+    ListView1.AccessibleName(LangText[Caption::DatabasesListed]);
+    ListView1.TellNotes();
+    table_.Files().Look();
+    PrepareShell();
+}
+
 void frmMain::SaveLayout() {
-    if (listLoaded_) UserStore::Set(Keys::Display, Keys::Selected, Text::FromNumber(ListView1.Selected()));
-    for (int column = 0; columnsLoaded_ && column < ListView1.ColumnCount(); ++column)
-        UserStore::Set(Keys::Settings, Keys::Column + Text::FromNumber(column),
-                       Text::FromNumber(ListView1.ColumnWidth(column)));
+    table_.Save();
     if (!sizeLoaded_) return;
     const Twips size = OuterSize();
     UserStore::Set(Keys::Settings, Keys::Height, Text::FromNumber(size.Height));
@@ -193,28 +241,17 @@ void frmMain::Form_Unload() {
     std::wstring database;
     try {
         SaveLayout();
-        if (Program().RestartAct) database = CloseActForRestart();
+        if (Program().RestartAct) database = Module1::CloseAct(Program());
     } catch (...) {
         Program().RestartAct = false;
         ErrorReport("frmMain: Sub Form_Unload");
     }
-    Module1::Release_object();
-    ActEvent1.Close();
+    Module1::Release_object(Program());
+    startup_.ActEvent1.Close();
     if (Program().RestartAct)
         WaitForRestart(database);
     else
         PostQuitMessage(0);
-}
-
-std::wstring frmMain::CloseActForRestart() const {
-    constexpr short kCloseAct = 150; // ACT!'s own number
-    std::wstring database = Program().Application.GetOpenDBName();
-    try {
-        Program().Application.Command(kCloseAct);
-    } catch (const Error& error) {
-        if (error.Number != BasicError::ServerUnavailable) throw; // gone is what it was to be
-    }
-    return database;
 }
 
 void frmMain::WaitForRestart(const std::wstring& database) {
@@ -233,43 +270,32 @@ void frmMain::Timer1_Timer() {
 void frmMain::ActEvent1_OnActUserWantsToClose() {
     // Only the answer belongs into the event: nothing may be released while the component is still in its call.
     try {
-        ActEvent1.AnswerUserWantsToClose(true);
+        startup_.ActEvent1.AnswerUserWantsToClose(true);
     } catch (const Error&) {
         // Whatever becomes of the answer, the program does not outlive its ACT!.
     }
-    if (Program().RestartAct) return;
-    PostMessageW(Handle(), kActIsClosing, 0, 0);
-}
-
-void frmMain::tmrClose_Timer() {
-    if (Busy::Now()) return;
-    Cancelling cancel{this, boxAtClose_, false};
-    EnumThreadWindows(GetCurrentThreadId(), &CancelNext, reinterpret_cast<LPARAM>(&cancel));
-    // A cancelled dialog returns to its caller first; the next tick looks again.
-    if (cancel.Found || !IsWindowEnabled(Handle())) return;
-    tmrClose.Interval(0);
-    Unload();
+    if (!Program().RestartAct) PostMessageW(Handle(), kActIsClosing, 0, 0);
 }
 
 void frmMain::Form_CloseBox() {
-    const auto isOpen = [this](const Form* form) { return form != this && !form->Unloaded(); };
-    if (IsWindowEnabled(Handle()) && std::ranges::none_of(Form::Loaded(), isOpen)) return Unload();
-    // Something is open in front of it: that is left first, one after another.
-    HWND front = GetLastActivePopup(Handle());
-    boxAtClose_ = front && IsMessageBox(front) ? front : nullptr;
-    tmrClose.Interval(kCloseRetryMilliseconds);
+    if (IsWindowEnabled(Handle()) && !openDialogs_.Any()) return Unload();
+    openDialogs_.Begin();
+    tmrLeaveDialogs.Interval(kRetryMilliseconds);
+}
+
+void frmMain::tmrLeaveDialogs_Timer() {
+    // A dialog that is left returns to its caller first; the next tick looks again.
+    if (Busy::Now() || openDialogs_.LeaveNext() || !IsWindowEnabled(Handle())) return;
+    tmrLeaveDialogs.Interval(0);
+    Unload();
 }
 
 /// Windows waits for nothing behind this: all is saved before it returns, and nobody is asked.
 void frmMain::EndSession() {
     SilenceMessages(true);
     EndMenu();
-    Program().QuickSwitchHandled = true;                     // the palette brings no window back
-    for (size_t index = Form::Loaded().size(); index-- > 0;) // the last one opened first
-        if (Form* const form = Form::Loaded()[index]; form != this && !form->Unloaded()) {
-            form->CloseAsByUser();
-            form->Unload();
-        }
+    Program().QuickSwitchHandled = true; // the palette brings no window back
+    openDialogs_.LeaveAll();
     SaveLayout();
 }
 
@@ -278,11 +304,7 @@ void frmMain::EndIfInvisible() {
     if (!isAnyVisible && !Program().ActIsClosing && !Program().StartActMode) Unload();
 }
 
-void frmMain::ShowQuickSwitch() {
-    Hide();
-    frmQuickSwitch(*this).ShowModal();
-    if (Program().ExitRequested)
-        Unload();
-    else
-        EndIfInvisible();
+void frmMain::ShowDialog(Form& dialog) {
+    dialog.ShowModal();
+    EndIfInvisible();
 }

@@ -1,7 +1,8 @@
-// frmMain's buttons, labels and menu items.
+// frmMain's commands: opening a database, and what buttons, labels and menu items do.
 
 #include "app/frmMain.h"
 
+#include "databases/Keys.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmLanguage.h"
 #include "dialogs/frmListMaintenance.h"
@@ -11,27 +12,87 @@
 #include "i18n/modLangues.h"
 #include "integration/frmIntegrateNew.h"
 #include "program/Program.h"
+#include "program/SettingsNotice.h"
+#include "quickswitch/frmQuickSwitch.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
 #include "support/Application.h"
+#include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Shell.h"
+#include "support/Text.h"
 #include "support/Vendor.h"
 #include "support/modFolderFileExists.h"
 
 #include <array>
 
-void frmMain::cmdOpen_Click() { Open_DB(SelectedName(), CheckedView(), false); }
-void frmMain::mnuFileOpen_Click() { cmdOpen_Click(); }
-void frmMain::mnuOpen_Click() { cmdOpen_Click(); }
+void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden) {
+    if (Program().StartActMode) {
+        Program().FriendlyName = name;
+        return;
+    }
+    if (name.empty()) {
+        if (mainHidden) Show();
+        MsgBox(LangText[Caption::NoDatabaseSelected]);
+        ListView1.SetFocus();
+        return;
+    }
+    try {
+        if (OpenFromList(name, viewCode, mainHidden)) Unload();
+    } catch (...) {
+        if (!Program().ActIsClosing) Show();
+        ErrorReport("frmMain: Sub cmdOpen_Click");
+    }
+    EndIfInvisible();
+}
 
-void frmMain::cmdCancel_Click() { Unload(); }
-void frmMain::mnuExit_Click() { Unload(); }
+bool frmMain::OpenFromList(const std::wstring& name, short viewCode, bool mainHidden) {
+    const auto stored = IniLib::ReadFile();
+    if (!stored) {
+        if (mainHidden) Show();
+        SettingsNotice::CannotRead();
+        ListView1.SetFocus();
+        return false;
+    }
+    if (!mainHidden) Hide();
+    const OpenInAct opening(Program(), *stored, name);
+    const OpenInAct::Outcome outcome = opening.Run(viewCode);
+    if (outcome == OpenInAct::Outcome::MacroRefused)
+        MsgBox(Text::Concat({L"Macro cannot be executed by ", Application::Title, L"."}), MsgIcon::None,
+               L"Invalid Macro File");
+    if (outcome == OpenInAct::Outcome::Opened || outcome == OpenInAct::Outcome::MacroRefused) return true;
+    TellFailure(outcome);
+    opening.PutDefaultsBack();
+    return false;
+}
+
+void frmMain::TellFailure(OpenInAct::Outcome outcome) {
+    if (!Program().ActIsClosing) Show();
+    if (outcome == OpenInAct::Outcome::NotSelected)
+        MsgBox(LangText[Caption::SelectFirst] + L"\r\n\r\n" + LangText[Caption::EmptyListHint], MsgIcon::None,
+               LangText[Caption::NoDatabaseSelected].c_str());
+    else
+        MsgBox(LangText[Caption::NotAccessible]);
+    ToFront();
+    ListView1.SetFocus();
+}
+
+short frmMain::CheckedView() const {
+    for (std::size_t view = 0; view < ViewCount; ++view)
+        if (optView[view].Value()) return static_cast<short>(view);
+    return 0;
+}
+
+void frmMain::SelectedIndex(int index) { UserStore::Set(Keys::Display, Keys::Selected, Text::FromNumber(index)); }
+
+void frmMain::ReplaceRow(const std::wstring& name, const DatabaseRecord& record) { table_.Replace(name, record); }
+
+void frmMain::cmdOpen_Click() { Open_DB(table_.SelectedName(), CheckedView(), false); }
 
 void frmMain::lblView_Click(int index) {
     for (OptionButton& option : optView) option.Value(option.Index() == index);
     ListView1.SetFocus();
 }
-
-void frmMain::optView_Click(int) { ListView1.SetFocus(); }
 
 void frmMain::lblLink_Click() { OpenWithShell(Vendor::Site); }
 
@@ -45,7 +106,7 @@ void frmMain::mnuManual_Click() {
 void frmMain::mnuOnline_Click() { OpenWithShell(Vendor::Tutorials + LangText[Caption::OnlineHelpPage] + L".htm"); }
 
 void frmMain::mnuEditProperties_Click() {
-    const std::wstring name = SelectedName();
+    const std::wstring name = table_.SelectedName();
     if (name.empty()) {
         MsgBox(LangText[Caption::NoDatabaseSelected]);
         ListView1.SetFocus();
@@ -54,50 +115,48 @@ void frmMain::mnuEditProperties_Click() {
     Program().FriendlyName = name;
     frmProperties properties(this);
     properties.IsNew(false);
-    properties.ShowModal();
-    EndIfInvisible();
+    ShowDialog(properties);
 }
 
-void frmMain::mnuProperties_Click() { mnuEditProperties_Click(); }
-
 void frmMain::mnuManageList_Click() {
-    frmListMaintenance(*this).ShowModal();
-    if (!Program().ActIsClosing) ReloadList();
-    EndIfInvisible();
+    frmListMaintenance maintenance(*this);
+    ShowDialog(maintenance);
+    if (!Program().ActIsClosing && !Unloaded()) table_.Reload();
 }
 
 void frmMain::mnuSettingsLocation_Click() {
     frmLocations locations;
-    locations.ShowModal();
+    ShowDialog(locations);
     if (locations.LocationChanged())
         MsgBox(L"Please close and restart Kelmorra for the changes to take effect.", MsgIcon::Information);
-    EndIfInvisible();
 }
 
 void frmMain::mnuIntegrate_Click() {
-    frmIntegrateNew().ShowModal();
-    if (Program().RestartAct)
-        Unload();
-    else
-        EndIfInvisible();
+    frmIntegrateNew integrate;
+    ShowDialog(integrate);
+    if (Program().RestartAct) Unload();
 }
 
 void frmMain::mnuAbout_Click() {
-    frmAbout().ShowModal();
-    EndIfInvisible();
+    frmAbout about;
+    ShowDialog(about);
 }
 
-void frmMain::mnuQuickSwitch_Click() { ShowQuickSwitch(); }
+void frmMain::mnuQuickSwitch_Click() {
+    Hide();
+    frmQuickSwitch palette(*this);
+    ShowDialog(palette);
+    if (palette.ExitRequested()) Unload();
+}
 
 void frmMain::mnuLanguages_Click() {
-    frmLanguage().ShowModal();
-    if (Program().ActIsClosing) return;
-    // The load sequence restores what is stored: the window must not jump back to the size of the last run.
+    frmLanguage languages;
+    ShowDialog(languages);
+    if (Program().ActIsClosing || Unloaded()) return;
+    // What is stored is restored: the window must not jump back to the size of the last run.
     SaveLayout();
-    reload_ = true;
-    if (Form_Initialize())
-        Form_Load();
+    if (startup_.Reconnect())
+        Furnish(false);
     else
         Unload();
-    EndIfInvisible();
 }

@@ -11,7 +11,8 @@ public:
     frmWaiting();
 
     Label lblWaiting{this, L"lblWaiting", {180, 210, 6660, 225}};
-    CommandButton cmdCancel{this, L"cmdCancel", {5610, 630, 1215, 345}, &frmWaiting::cmdCancel_Click, Cancel};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {5610, 630, 1215, 345}, {.Click = &frmWaiting::cmdCancel_Click}, Cancel};
 
     /// Lets calls into ACT! that are refused for long show it.
     static void Serve();

@@ -4,7 +4,6 @@
 #include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "support/Application.h"
-#include "support/ErrorReport.h"
 #include "support/Text.h"
 #include "support/Vendor.h"
 #include "win32/AnsiText.h"
@@ -12,7 +11,7 @@
 
 frmAbout::frmAbout() : Form({L"frmAbout", 6030, 3960}) {}
 
-void frmAbout::Form_Load() try {
+void frmAbout::Form_Load() {
     Caption(LangText[Caption::About]);
     constexpr short kGerman = 2;
     const bool isGerman = CurrentLanguage == kGerman;
@@ -22,8 +21,6 @@ void frmAbout::Form_Load() try {
          LangText[Caption::EmailUs], L"\r\n", FromUtf8(isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail)}));
     txtAbout.AccessibleName(LangText[Caption::About]);
     cmdOK.Text(LangText[Caption::OK]);
-} catch (...) {
-    ErrorReport("frmAbout: Sub Form_Load");
 }
 
 void frmAbout::DrawIcon(int, HDC canvas, const RECT& area, bool) {

@@ -10,9 +10,9 @@ class frmAbout : public Form {
 public:
     frmAbout();
 
-    PictureBox picIcon{this, L"picIcon", {180, 180, 720, 720}, &frmAbout::DrawIcon};
-    CommandButton cmdOK{this, L"cmdOK", {4605, 3120, 1215, 345}, &frmAbout::cmdOK_Click, Cancel};
-    TextBox txtAbout{this, L"txtAbout", {1080, 180, 4740, 2820}, TextBox::Kind::Notice};
+    PictureBox picIcon{this, L"picIcon", {180, 180, 720, 720}, {.Draw = &frmAbout::DrawIcon}};
+    CommandButton cmdOK{this, L"cmdOK", {4605, 3120, 1215, 345}, {.Click = &frmAbout::cmdOK_Click}, Cancel};
+    TextBox txtAbout{this, L"txtAbout", {1080, 180, 4740, 2820}, {}, TextBox::Kind::Notice};
 
 private:
     void Form_Load() override;

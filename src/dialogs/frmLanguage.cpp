@@ -1,10 +1,10 @@
 #include "dialogs/frmLanguage.h"
 
+#include "databases/Keys.h"
 #include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
-#include "support/ErrorReport.h"
 #include "support/Text.h"
 
 namespace {
@@ -12,14 +12,16 @@ namespace {
 // Both languages: none is chosen yet.
 constexpr wchar_t kFirstRunPrompt[] = L"Pick your language/Choisissez une langue :";
 
-bool IsFirstRun() { return Text::WholeNumber(UserStore::Get(L"Settings", L"Installed")).value_or(0) == 0; }
-
 } // namespace
+
+bool frmLanguage::IsFirstRun() {
+    return Text::WholeNumber(UserStore::Get(Keys::Settings, Keys::Installed)).value_or(0) == 0;
+}
 
 frmLanguage::frmLanguage()
     : Form({L"frmLanguage", 4200, 1680, Border::Dialog, !IsFirstRun()}), isFirstRun_(IsFirstRun()) {}
 
-void frmLanguage::Form_Load() try {
+void frmLanguage::Form_Load() {
     if (isFirstRun_) {
         Caption(Application::Title);
         Label1.Text(kFirstRunPrompt);
@@ -34,8 +36,6 @@ void frmLanguage::Form_Load() try {
     }
     for (const wchar_t* language : {L"English", L"Français", L"Deutsch"}) cmbLanguage.AddItem(language);
     cmbLanguage.ListIndex(CurrentLanguage);
-} catch (...) {
-    ErrorReport("frmLanguage: Sub Form_Load");
 }
 
 void frmLanguage::cmdOK_Click() {

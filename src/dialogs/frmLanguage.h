@@ -10,11 +10,14 @@
 class frmLanguage : public Form {
 public:
     frmLanguage();
+    /// True until a start has come up to its end once.
+    static bool IsFirstRun();
 
     Label Label1{this, L"Label1", {120, 120, 3870, 255}};
     ComboBox cmbLanguage{this, L"cmbLanguage", {120, 420, 2505, 315}};
-    CommandButton cmdOK{this, L"cmdOK", {2775, 405, 1215, 345}, &frmLanguage::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {2775, 825, 1215, 345}, &frmLanguage::cmdCancel_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {2775, 405, 1215, 345}, {.Click = &frmLanguage::cmdOK_Click}, Default};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {2775, 825, 1215, 345}, {.Click = &frmLanguage::cmdCancel_Click}, Cancel};
 
 private:
     void Form_Load() override;

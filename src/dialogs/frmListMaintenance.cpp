@@ -6,7 +6,6 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
-#include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
 
@@ -22,7 +21,7 @@ bool frmListMaintenance::Form_Initialize() {
     return static_cast<bool>(list_);
 }
 
-void frmListMaintenance::Form_Load() try {
+void frmListMaintenance::Form_Load() {
     // The text is a menu caption: without its access key mark.
     Caption(LangText[Caption::ManageList].substr(1));
     Label1.Text(LangText[Caption::DatabasesListed] + L":");
@@ -36,8 +35,6 @@ void frmListMaintenance::Form_Load() try {
     if (lstDB.ListCount() > 0) lstDB.ListIndex(0);
     if (const int selected = mainWindow_.SelectedIndex(); selected != -1) lstDB.ListIndex(selected);
     EnableButtons();
-} catch (...) {
-    ErrorReport("frmListMaintenance: Sub Form_Load");
 }
 
 void frmListMaintenance::SetMenuCaptions() {
@@ -80,15 +77,13 @@ bool frmListMaintenance::Save_List() {
     return true;
 }
 
-void frmListMaintenance::Form_Unload() try {
+void frmListMaintenance::Form_Unload() {
     if (!list_ || Program().ActIsClosing) return; // nobody chose to keep the moves
     if (!isLeft_) Save_List();
     const auto& stored = list_->Shown();
     const auto selected = std::ranges::find(stored, SelectedName());
     mainWindow_.SelectedIndex(selected == stored.end() ? -1 : static_cast<int>(selected - stored.begin()));
     if (list_->HaveOthersChanged()) MsgBox(Translated(MoreText::ListMerged), MsgIcon::Information);
-} catch (...) {
-    ErrorReport("frmListMaintenance: Sub Form_Unload");
 }
 
 bool frmListMaintenance::Form_KeyDown(const KeyPress& press) {

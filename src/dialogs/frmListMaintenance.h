@@ -24,20 +24,22 @@ public:
                   {.Click = &frmListMaintenance::lstDB_Click,
                    .RightClick = &frmListMaintenance::lstDB_RightClick,
                    .Drop = &frmListMaintenance::lstDB_Drop}};
-    CommandButton cmdAdd{this, L"cmdAdd", {3900, 390, 1500, 345}, &frmListMaintenance::cmdAdd_Click};
-    CommandButton cmdRemove{this, L"cmdRemove", {3900, 840, 1500, 345}, &frmListMaintenance::cmdRemove_Click};
-    CommandButton cmdUp{this, L"cmdUp", {3900, 1560, 1500, 345}, &frmListMaintenance::cmdUp_Click};
-    CommandButton cmdDown{this, L"cmdDown", {3900, 2010, 1500, 345}, &frmListMaintenance::cmdDown_Click};
-    CommandButton cmdClose{this, L"cmdClose", {3900, 3300, 1500, 345}, &frmListMaintenance::cmdClose_Click, Cancel};
+    CommandButton cmdAdd{this, L"cmdAdd", {3900, 390, 1500, 345}, {.Click = &frmListMaintenance::cmdAdd_Click}};
+    CommandButton cmdRemove{
+        this, L"cmdRemove", {3900, 840, 1500, 345}, {.Click = &frmListMaintenance::cmdRemove_Click}};
+    CommandButton cmdUp{this, L"cmdUp", {3900, 1560, 1500, 345}, {.Click = &frmListMaintenance::cmdUp_Click}};
+    CommandButton cmdDown{this, L"cmdDown", {3900, 2010, 1500, 345}, {.Click = &frmListMaintenance::cmdDown_Click}};
+    CommandButton cmdClose{
+        this, L"cmdClose", {3900, 3300, 1500, 345}, {.Click = &frmListMaintenance::cmdClose_Click}, Cancel};
 
     Menu mnuList{this, L"mnuList", Menu::Place::PopUp};
-    MenuItem mnuAdd{this, mnuList, L"mnuAdd", &frmListMaintenance::cmdAdd_Click};
-    MenuItem mnuDuplicate{this, mnuList, L"mnuDuplicate", &frmListMaintenance::mnuDuplicate_Click};
-    MenuItem mnuRemove{this, mnuList, L"mnuRemove", &frmListMaintenance::cmdRemove_Click};
-    MenuItem mnuUndo{this, mnuList, L"mnuUndo", &frmListMaintenance::mnuUndo_Click};
+    MenuItem mnuAdd{this, mnuList, L"mnuAdd", {.Click = &frmListMaintenance::cmdAdd_Click}};
+    MenuItem mnuDuplicate{this, mnuList, L"mnuDuplicate", {.Click = &frmListMaintenance::mnuDuplicate_Click}};
+    MenuItem mnuRemove{this, mnuList, L"mnuRemove", {.Click = &frmListMaintenance::cmdRemove_Click}};
+    MenuItem mnuUndo{this, mnuList, L"mnuUndo", {.Click = &frmListMaintenance::mnuUndo_Click}};
     MenuSeparator mnuListSep1{mnuList};
-    MenuItem mnuUp{this, mnuList, L"mnuUp", &frmListMaintenance::cmdUp_Click};
-    MenuItem mnuDown{this, mnuList, L"mnuDown", &frmListMaintenance::cmdDown_Click};
+    MenuItem mnuUp{this, mnuList, L"mnuUp", {.Click = &frmListMaintenance::cmdUp_Click}};
+    MenuItem mnuDown{this, mnuList, L"mnuDown", {.Click = &frmListMaintenance::cmdDown_Click}};
 
 private:
     bool Form_Initialize() override;

@@ -6,7 +6,6 @@
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/Application.h"
-#include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
 #include "support/modFolderFileExists.h"
@@ -14,7 +13,7 @@
 
 frmLocations::frmLocations() : Form({L"frmLocations", 5940, 1875}) {}
 
-void frmLocations::Form_Activate() try {
+void frmLocations::Form_Activate() {
     // Coming back from the file dialog or a message is no new beginning.
     if (isActivated_) return;
     isActivated_ = true;
@@ -27,20 +26,16 @@ void frmLocations::Form_Activate() try {
     pathAtActivation_ = IniLib::SettingsFile();
     txtPath.Text(pathAtActivation_);
     txtPath.SelectAll();
-} catch (...) {
-    ErrorReport("frmLocations: Sub Form_Activate");
 }
 
-void frmLocations::cmdBrowse_Click() try {
+void frmLocations::cmdBrowse_Click() {
     std::wstring folder = Text::ExtractPath(txtPath.Text());
     if (folder.empty()) folder = Application::Folder();
     pickedFile_ = PickFile(Handle(), L"ini Files (*.ini)|*.ini", folder).value_or(pickedFile_);
     txtPath.Text(pickedFile_);
-} catch (...) {
-    ErrorReport("frmLocations: Sub cmdBrowse_Click");
 }
 
-void frmLocations::cmdOK_Click() try {
+void frmLocations::cmdOK_Click() {
     const std::wstring path = txtPath.Text();
     if (!modFolderFileExists::FileExists(path)) {
         MsgBox(L"Invalid file specified!");
@@ -53,8 +48,6 @@ void frmLocations::cmdOK_Click() try {
         locationChanged_ = true;
     }
     Unload();
-} catch (...) {
-    ErrorReport("frmLocations: Sub cmdOK_Click");
 }
 
 void frmLocations::cmdCancel_Click() { Unload(); }

@@ -17,9 +17,10 @@ public:
 
     Label Label1{this, L"Label1", {120, 120, 5400, 255}};
     TextBox txtPath{this, L"txtPath", {120, 390, 5100, 315}};
-    CommandButton cmdBrowse{this, L"cmdBrowse", {5310, 375, 420, 345}, &frmLocations::cmdBrowse_Click};
-    CommandButton cmdOK{this, L"cmdOK", {3150, 960, 1215, 345}, &frmLocations::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {4515, 960, 1215, 345}, &frmLocations::cmdCancel_Click, Cancel};
+    CommandButton cmdBrowse{this, L"cmdBrowse", {5310, 375, 420, 345}, {.Click = &frmLocations::cmdBrowse_Click}};
+    CommandButton cmdOK{this, L"cmdOK", {3150, 960, 1215, 345}, {.Click = &frmLocations::cmdOK_Click}, Default};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {4515, 960, 1215, 345}, {.Click = &frmLocations::cmdCancel_Click}, Cancel};
 
 private:
     void Form_Activate() override;

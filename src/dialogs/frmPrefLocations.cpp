@@ -3,7 +3,6 @@
 #include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/SettingsNotice.h"
-#include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "ui/CommonDialogs.h"
 
@@ -25,7 +24,7 @@ bool frmPrefLocations::Form_Initialize() {
     return static_cast<bool>(locations_);
 }
 
-void frmPrefLocations::Form_Load() try {
+void frmPrefLocations::Form_Load() {
     Caption(LangText[Caption::EditLocations]);
     lvwPref.AccessibleName(LangText[Caption::EditLocations]);
     cmdOK.Text(LangText[Caption::OK]);
@@ -37,8 +36,6 @@ void frmPrefLocations::Form_Load() try {
     for (const std::wstring& folder : locations_->All())
         lvwPref.Add({LangText[Caption::FirstLocation + lvwPref.RowCount()], folder});
     lvwPref.Select(0);
-} catch (...) {
-    ErrorReport("frmPrefLocations: Sub Form_Load");
 }
 
 void frmPrefLocations::Form_Resize() {
@@ -59,26 +56,22 @@ void frmPrefLocations::cmdEditlocation_Click() {
     if (const auto folder = PickFolder(Handle(), lvwPref.Cell(row, 1))) lvwPref.Cell(row, 1, *folder);
 }
 
-void frmPrefLocations::cmdClear_Click() try {
+void frmPrefLocations::cmdClear_Click() {
     const int row = lvwPref.Selected();
     if (row < 0 || !AskYesNo(LangText[Caption::ClearLocation] + lvwPref.Cell(row, 0) + L"?")) return;
     if (locations_->Clear(static_cast<size_t>(row)))
         lvwPref.Cell(row, 1, {});
     else
         SettingsNotice::NotSaved();
-} catch (...) {
-    ErrorReport("frmPrefLocations: Sub cmdClear_Click");
 }
 
-void frmPrefLocations::cmdOK_Click() try {
+void frmPrefLocations::cmdOK_Click() {
     Folders folders;
     for (size_t row = 0; row < folders.size(); ++row) folders[row] = lvwPref.Cell(static_cast<int>(row), 1);
     if (locations_->Save(typedName_, folders))
         Unload();
     else
         SettingsNotice::NotSaved();
-} catch (...) {
-    ErrorReport("frmPrefLocations: Sub cmdOK_Click");
 }
 
 void frmPrefLocations::cmdCancel_Click() { Unload(); }

@@ -15,11 +15,12 @@ public:
     frmPrefLocations(std::wstring currentName, std::wstring typedName);
 
     ListView lvwPref{this, L"lvwPref", {120, 120, 5550, 3150}, {.DblClick = &frmPrefLocations::lvwPref_DblClick}};
-    CommandButton cmdOK{this, L"cmdOK", {5700, 120, 1290, 345}, &frmPrefLocations::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {5700, 570, 1290, 345}, &frmPrefLocations::cmdCancel_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {5700, 120, 1290, 345}, {.Click = &frmPrefLocations::cmdOK_Click}, Default};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {5700, 570, 1290, 345}, {.Click = &frmPrefLocations::cmdCancel_Click}, Cancel};
     CommandButton cmdEditlocation{
-        this, L"cmdEditlocation", {5700, 1170, 1290, 345}, &frmPrefLocations::cmdEditlocation_Click};
-    CommandButton cmdClear{this, L"cmdClear", {5700, 1620, 1290, 345}, &frmPrefLocations::cmdClear_Click};
+        this, L"cmdEditlocation", {5700, 1170, 1290, 345}, {.Click = &frmPrefLocations::cmdEditlocation_Click}};
+    CommandButton cmdClear{this, L"cmdClear", {5700, 1620, 1290, 345}, {.Click = &frmPrefLocations::cmdClear_Click}};
 
 private:
     bool Form_Initialize() override;

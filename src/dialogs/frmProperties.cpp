@@ -8,7 +8,6 @@
 #include "program/SettingsNotice.h"
 #include "stores/IniLib.h"
 #include "stores/RegistrySubs.h"
-#include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
 #include "ui/CommonDialogs.h"
@@ -56,14 +55,12 @@ bool frmProperties::Form_Initialize() {
     return static_cast<bool>(database_);
 }
 
-void frmProperties::Form_Load() try {
+void frmProperties::Form_Load() {
     cancelled_ = false;
     SetCaptions();
     ShowPage(Tab::General);
     ShowValues();
     ShowLenders();
-} catch (...) {
-    ErrorReport("frmProperties: Sub Form_Load");
 }
 
 void frmProperties::SetCaptions() {
@@ -120,7 +117,7 @@ void frmProperties::ShowLenders() {
 }
 
 void frmProperties::Form_Activate() {
-    if (!Program().AskForUsername) return;
+    if (!asksForUsername_) return;
     if (!std::exchange(isLogonShown_, true)) {
         SkipTabCheck_ = true;
         ShowTab(Tab::Logon);
@@ -184,20 +181,16 @@ void frmProperties::cboDB_Click() {
 
 void frmProperties::chkPassword_Click() { txtPassword.Enabled(chkPassword.Value()); }
 
-void frmProperties::cmdBrowse_Click(int index) try {
+void frmProperties::cmdBrowse_Click(int index) {
     const BrowseTarget& target = kBrowseTargets[index];
     TextBox& box = this->*target.Box;
     const std::wstring folder =
         mainWindow_ ? Program().Preferences.GetDefaultLocation(target.StartKind) : Text::ExtractPath(box.Text());
     if (const auto file = PickFile(Handle(), target.Filter, folder)) box.Text(*file);
-} catch (...) {
-    ErrorReport("frmProperties: Sub cmdBrowse_Click");
 }
 
-void frmProperties::cmdEditLocations_Click() try {
+void frmProperties::cmdEditLocations_Click() {
     frmPrefLocations(Program().FriendlyName, Text::Trim(txtName.Text())).ShowModal();
-} catch (...) {
-    ErrorReport("frmProperties: Sub cmdEditLocations_Click");
 }
 
 void frmProperties::cmdCancel_Click() {
@@ -214,7 +207,7 @@ DatabaseValues frmProperties::Values() const {
     return values;
 }
 
-void frmProperties::cmdOK_Click() try {
+void frmProperties::cmdOK_Click() {
     if (txtUsername.Text().empty()) {
         MsgBox(L"Please enter a username for this database!", MsgIcon::Exclamation);
         SkipTabCheck_ = true;
@@ -223,8 +216,6 @@ void frmProperties::cmdOK_Click() try {
         return;
     }
     if (Check_Name()) Save();
-} catch (...) {
-    ErrorReport("frmProperties: Sub cmdOK_Click");
 }
 
 void frmProperties::Save() {

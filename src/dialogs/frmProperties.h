@@ -23,6 +23,8 @@ public:
 
     /// Set by the caller before showing: the dialog adds a new database.
     void IsNew(bool isNew) { isNew_ = isNew; }
+    /// Set by the caller before showing: the user name is what is missing.
+    void AskForUsername(bool asks) { asksForUsername_ = asks; }
     /// Set by the caller before showing: the new database begins with the values of another one, "" for none.
     void Model(std::wstring name) { model_ = std::move(name); }
     /// After showing: the user left without OK, or the dialog could not open.
@@ -31,43 +33,56 @@ public:
     /// other index throws std::out_of_range.
     static std::wstring GetACTSetting(int index);
 
-    TabControl mstOptions{this, L"mstOptions", {120, 120, 6660, 3840}, &frmProperties::mstOptions_Click};
+    TabControl mstOptions{this, L"mstOptions", {120, 120, 6660, 3840}, {.Click = &frmProperties::mstOptions_Click}};
 
     Frame fraGeneral{this, L"fraGeneral", {180, 510, 6540, 3390}, Frame::Kind::Page};
-    Label Label4{this, fraGeneral, L"Label4", {150, 75, 5400, 225}};
-    TextBox txtName{this, fraGeneral, L"txtName", {150, 300, 5670, 315}};
-    Label Label5{this, fraGeneral, L"Label5", {150, 720, 5400, 225}};
-    TextBox txtPath{this, fraGeneral, L"txtPath", {150, 945, 5670, 315}};
-    CommandButton cmdBrowse3{this, fraGeneral, L"cmdBrowse", {5910, 930, 420, 345}, 3, &frmProperties::cmdBrowse_Click};
-    Label Label1{this, fraGeneral, L"Label1", {150, 1365, 5400, 225}};
-    TextBox txtCL{this, fraGeneral, L"txtCL", {150, 1590, 5670, 315}};
-    CommandButton cmdBrowse0{
-        this, fraGeneral, L"cmdBrowse", {5910, 1575, 420, 345}, 0, &frmProperties::cmdBrowse_Click};
-    Label Label2{this, fraGeneral, L"Label2", {150, 2010, 5400, 225}};
-    TextBox txtGL{this, fraGeneral, L"txtGL", {150, 2235, 5670, 315}};
-    CommandButton cmdBrowse1{
-        this, fraGeneral, L"cmdBrowse", {5910, 2220, 420, 345}, 1, &frmProperties::cmdBrowse_Click};
-    Label Label3{this, fraGeneral, L"Label3", {150, 2655, 5400, 225}};
-    TextBox txtMacro{this, fraGeneral, L"txtMacro", {150, 2880, 5670, 315}};
-    CommandButton cmdBrowse2{
-        this, fraGeneral, L"cmdBrowse", {5910, 2865, 420, 345}, 2, &frmProperties::cmdBrowse_Click};
+    Label Label4{this, L"Label4", In(fraGeneral, {150, 75, 5400, 225})};
+    TextBox txtName{this, L"txtName", In(fraGeneral, {150, 300, 5670, 315})};
+    Label Label5{this, L"Label5", In(fraGeneral, {150, 720, 5400, 225})};
+    TextBox txtPath{this, L"txtPath", In(fraGeneral, {150, 945, 5670, 315})};
+    CommandButton cmdBrowse3{this,
+                             L"cmdBrowse",
+                             In(fraGeneral, {5910, 930, 420, 345}),
+                             {.Index = 3, .Click = &frmProperties::cmdBrowse_Click}};
+    Label Label1{this, L"Label1", In(fraGeneral, {150, 1365, 5400, 225})};
+    TextBox txtCL{this, L"txtCL", In(fraGeneral, {150, 1590, 5670, 315})};
+    CommandButton cmdBrowse0{this,
+                             L"cmdBrowse",
+                             In(fraGeneral, {5910, 1575, 420, 345}),
+                             {.Index = 0, .Click = &frmProperties::cmdBrowse_Click}};
+    Label Label2{this, L"Label2", In(fraGeneral, {150, 2010, 5400, 225})};
+    TextBox txtGL{this, L"txtGL", In(fraGeneral, {150, 2235, 5670, 315})};
+    CommandButton cmdBrowse1{this,
+                             L"cmdBrowse",
+                             In(fraGeneral, {5910, 2220, 420, 345}),
+                             {.Index = 1, .Click = &frmProperties::cmdBrowse_Click}};
+    Label Label3{this, L"Label3", In(fraGeneral, {150, 2655, 5400, 225})};
+    TextBox txtMacro{this, L"txtMacro", In(fraGeneral, {150, 2880, 5670, 315})};
+    CommandButton cmdBrowse2{this,
+                             L"cmdBrowse",
+                             In(fraGeneral, {5910, 2865, 420, 345}),
+                             {.Index = 2, .Click = &frmProperties::cmdBrowse_Click}};
 
     static constexpr std::array<Twips, 2> OptionPlaces{{{150, 150, 6000, 255}, {150, 1050, 6000, 255}}};
     Frame fraLocations{this, L"fraLocations", {180, 510, 6540, 3390}, Frame::Kind::Page};
-    ControlArray<OptionButton, 2> optLocations{this, fraLocations, L"optLocations", OptionPlaces, nullptr};
-    ComboBox cboDB{this, fraLocations, L"cboDB", {420, 480, 3600, 315}, &frmProperties::cboDB_Click};
-    CommandButton cmdEditLocations{
-        this, fraLocations, L"cmdEditLocations", {420, 1380, 2700, 345}, &frmProperties::cmdEditLocations_Click};
+    ControlArray<OptionButton, 2> optLocations{this, L"optLocations", In(fraLocations, OptionPlaces)};
+    ComboBox cboDB{this, L"cboDB", In(fraLocations, {420, 480, 3600, 315}), {.Click = &frmProperties::cboDB_Click}};
+    CommandButton cmdEditLocations{this,
+                                   L"cmdEditLocations",
+                                   In(fraLocations, {420, 1380, 2700, 345}),
+                                   {.Click = &frmProperties::cmdEditLocations_Click}};
 
     Frame fraLogon{this, L"fraLogon", {180, 510, 6540, 3390}, Frame::Kind::Page};
-    Label lblUsername{this, fraLogon, L"lblUsername", {150, 150, 5400, 225}};
-    TextBox txtUsername{this, fraLogon, L"txtUsername", {150, 375, 3600, 315}};
-    CheckBox chkPassword{this, fraLogon, L"chkPassword", {150, 900, 6000, 255}, &frmProperties::chkPassword_Click};
-    TextBox txtPassword{this, fraLogon, L"txtPassword", {420, 1200, 3330, 315}, TextBox::Kind::Password};
-    CheckBox chkNotAtACTLaunch{this, fraLogon, L"chkNotAtACTLaunch", {150, 1800, 6240, 255}};
+    Label lblUsername{this, L"lblUsername", In(fraLogon, {150, 150, 5400, 225})};
+    TextBox txtUsername{this, L"txtUsername", In(fraLogon, {150, 375, 3600, 315})};
+    CheckBox chkPassword{
+        this, L"chkPassword", In(fraLogon, {150, 900, 6000, 255}), {.Click = &frmProperties::chkPassword_Click}};
+    TextBox txtPassword{this, L"txtPassword", In(fraLogon, {420, 1200, 3330, 315}), {}, TextBox::Kind::Password};
+    CheckBox chkNotAtACTLaunch{this, L"chkNotAtACTLaunch", In(fraLogon, {150, 1800, 6240, 255})};
 
-    CommandButton cmdOK{this, L"cmdOK", {4200, 4080, 1215, 345}, &frmProperties::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {5565, 4080, 1215, 345}, &frmProperties::cmdCancel_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {4200, 4080, 1215, 345}, {.Click = &frmProperties::cmdOK_Click}, Default};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {5565, 4080, 1215, 345}, {.Click = &frmProperties::cmdCancel_Click}, Cancel};
 
 private:
     bool Form_Initialize() override;
@@ -96,6 +111,7 @@ private:
     std::wstring model_;                          ///< of a new database: the one whose values it begins with
     Read<EditedDatabase> database_{Unreadable()}; ///< none when the settings file could not be read
     bool isNew_ = false;
+    bool asksForUsername_ = false;
     bool cancelled_ = true;
     bool SkipTabCheck_ = false;
     bool isLogonShown_ = false; ///< for the user name that is asked for

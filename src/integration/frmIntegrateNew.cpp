@@ -4,23 +4,12 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "support/Application.h"
-#include "support/ErrorReport.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
 
 namespace {
 
 short ViewNumber(int index) { return static_cast<short>(index % static_cast<int>(frmIntegrateNew::ViewCount) + 1); }
-
-std::array<Twips, frmIntegrateNew::ViewCount> Grid(int left, int top, int width, int height) {
-    constexpr int kRows = 3;
-    constexpr int kColumn = 3000;
-    constexpr int kRow = 330;
-    std::array<Twips, frmIntegrateNew::ViewCount> places;
-    for (int view = 0; view < static_cast<int>(places.size()); ++view)
-        places[static_cast<size_t>(view)] = {left + view / kRows * kColumn, top + view % kRows * kRow, width, height};
-    return places;
-}
 
 ActAuxCommands::Definition OwnCommand() {
     const std::wstring title = Application::Title;
@@ -38,9 +27,13 @@ ActAuxCommands::Definition OwnCommand() {
 
 frmIntegrateNew::frmIntegrateNew() : Form({L"frmIntegrateNew", 6570, 4350}) {}
 
-std::array<Twips, frmIntegrateNew::ViewCount> frmIntegrateNew::BoxPlaces() { return Grid(150, 330, 210, 210); }
+std::array<Twips, frmIntegrateNew::ViewCount> frmIntegrateNew::BoxPlaces() {
+    return Grid<ViewCount>({150, 330, 210, 210}, 3, 3000, 330);
+}
 
-std::array<Twips, frmIntegrateNew::ViewCount> frmIntegrateNew::LabelPlaces() { return Grid(450, 330, 2550, 225); }
+std::array<Twips, frmIntegrateNew::ViewCount> frmIntegrateNew::LabelPlaces() {
+    return Grid<ViewCount>({450, 330, 2550, 225}, 3, 3000, 330);
+}
 
 void frmIntegrateNew::Form_Load() try {
     SetCaptions();
@@ -51,7 +44,7 @@ void frmIntegrateNew::Form_Load() try {
     Changed_ = false;
 } catch (...) {
     isLoading_ = false;
-    ErrorReport("frmIntegrateNew: Sub Form_Load");
+    throw;
 }
 
 void frmIntegrateNew::SetCaptions() {
@@ -60,11 +53,11 @@ void frmIntegrateNew::SetCaptions() {
     Frame2.Text(LangText[Caption::ToolsMenuViews] + L":");
     for (size_t view = 0; view < ViewCount; ++view) {
         const std::wstring& name = LangText[Caption::FirstActView + static_cast<int>(view)];
-        lblToolbar[view].Text(name);
-        lblToolsMenu[view].Text(name);
+        lblScreenInToolbar[view].Text(name);
+        lblScreenInMenu[view].Text(name);
         // Too narrow to be seen: for screen readers.
-        chkToolbar[view].Text(name + L", " + LangText[Caption::ToolbarViews]);
-        chkToolsMenu[view].Text(name + L", " + LangText[Caption::ToolsMenuViews]);
+        chkScreenInToolbar[view].Text(name + L", " + LangText[Caption::ToolbarViews]);
+        chkScreenInMenu[view].Text(name + L", " + LangText[Caption::ToolsMenuViews]);
     }
     Label2.Text(LangText[Caption::RestartNeeded]);
     cmdOK.Text(LangText[Caption::Close]);
@@ -72,9 +65,9 @@ void frmIntegrateNew::SetCaptions() {
 }
 
 void frmIntegrateNew::ReadBoxes() {
-    for (CheckBox& box : chkToolbar)
+    for (CheckBox& box : chkScreenInToolbar)
         box.Value(commands_.AuxCommandExistsInToolbar(ViewNumber(box.Index()), Application::Title));
-    for (CheckBox& box : chkToolsMenu)
+    for (CheckBox& box : chkScreenInMenu)
         box.Value(commands_.AuxCommandExistsInToolsMenu(ViewNumber(box.Index()), Application::Title));
 }
 
@@ -110,13 +103,13 @@ void frmIntegrateNew::cmdOK_Click() {
 
 void frmIntegrateNew::AskToRestart() {
     const bool isWanted = AskYesNo(LangText[Caption::RestartNeeded] + L"\r\n" + LangText[Caption::RestartNow]);
-    Form_Load();
+    LoadAgain();
     if (isWanted) Program().RestartAct = true;
 }
 
 void frmIntegrateNew::cmdCancel_Click() { Unload(); }
 
 CheckBox& frmIntegrateNew::Box(int index) {
-    return index >= FirstToolsMenu ? chkToolsMenu[static_cast<size_t>(index - FirstToolsMenu)]
-                                   : chkToolbar[static_cast<size_t>(index)];
+    return index >= FirstToolsMenu ? chkScreenInMenu[static_cast<size_t>(index - FirstToolsMenu)]
+                                   : chkScreenInToolbar[static_cast<size_t>(index)];
 }

@@ -18,18 +18,31 @@ public:
     static constexpr std::size_t ViewCount = 6;
 
     Frame Frame1{this, L"Frame1", {120, 120, 6240, 1395}};
-    ControlArray<CheckBox, ViewCount> chkToolbar{
-        this, Frame1, L"chkScreen", BoxPlaces(), &frmIntegrateNew::chkScreen_Click, FirstToolbar};
-    ControlArray<Label, ViewCount> lblToolbar{
-        this, Frame1, L"lblScreen", LabelPlaces(), &frmIntegrateNew::lblScreen_Click, FirstToolbar};
+    ControlArray<CheckBox, ViewCount> chkScreenInToolbar{
+        this,
+        L"chkScreen",
+        In(Frame1, BoxPlaces()),
+        {.Index = FirstToolbar, .Click = &frmIntegrateNew::chkScreen_Click}};
+    ControlArray<Label, ViewCount> lblScreenInToolbar{
+        this,
+        L"lblScreen",
+        In(Frame1, LabelPlaces()),
+        {.Index = FirstToolbar, .Click = &frmIntegrateNew::lblScreen_Click}};
     Frame Frame2{this, L"Frame2", {120, 1635, 6240, 1395}};
-    ControlArray<CheckBox, ViewCount> chkToolsMenu{
-        this, Frame2, L"chkScreen", BoxPlaces(), &frmIntegrateNew::chkScreen_Click, FirstToolsMenu};
-    ControlArray<Label, ViewCount> lblToolsMenu{
-        this, Frame2, L"lblScreen", LabelPlaces(), &frmIntegrateNew::lblScreen_Click, FirstToolsMenu};
+    ControlArray<CheckBox, ViewCount> chkScreenInMenu{
+        this,
+        L"chkScreen",
+        In(Frame2, BoxPlaces()),
+        {.Index = FirstToolsMenu, .Click = &frmIntegrateNew::chkScreen_Click}};
+    ControlArray<Label, ViewCount> lblScreenInMenu{
+        this,
+        L"lblScreen",
+        In(Frame2, LabelPlaces()),
+        {.Index = FirstToolsMenu, .Click = &frmIntegrateNew::lblScreen_Click}};
     Label Label2{this, L"Label2", {120, 3150, 6240, 225}};
-    CommandButton cmdOK{this, L"cmdOK", {3780, 3510, 1215, 345}, &frmIntegrateNew::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {5145, 3510, 1215, 345}, &frmIntegrateNew::cmdCancel_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {3780, 3510, 1215, 345}, {.Click = &frmIntegrateNew::cmdOK_Click}, Default};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {5145, 3510, 1215, 345}, {.Click = &frmIntegrateNew::cmdCancel_Click}, Cancel};
 
 private:
     // The boxes are numbered through: those of the toolbars first.

@@ -1,23 +1,15 @@
 #include "quickswitch/Tracker.h"
 
-#include <utility>
-
 void Tracker::Attach(PictureBox& source, int reports) {
-    Detach();
     base_ = &source;
     reports_ = reports;
-    source.Listen(this);
 }
 
-void Tracker::Detach() {
-    if (PictureBox* base = std::exchange(base_, nullptr)) base->Listen(nullptr);
-}
-
-void Tracker::Entered() {
+void Tracker::Entered() const {
     Report(Enter);
     Report(Over);
 }
 
 void Tracker::Report(int action) const {
-    if ((reports_ & action) != 0 && Mouse) Mouse(action);
+    if (base_ && (reports_ & action) != 0) mouse_(button_, action);
 }

@@ -3,7 +3,6 @@
 #include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "program/SettingsNotice.h"
-#include "support/ErrorReport.h"
 #include "support/Text.h"
 
 #include <algorithm>
@@ -19,31 +18,24 @@ constexpr int kRow = 420; // twips from one list to the next
 frmAssign::frmAssign() : Form({L"frmAssign", 7830, 5880}) {}
 
 std::array<Twips, frmAssign::ButtonCount> frmAssign::LabelPlaces() {
-    std::array<Twips, ButtonCount> places;
-    for (size_t row = 0; row < places.size(); ++row) places[row] = {150, 375 + static_cast<int>(row) * kRow, 1320, 225};
-    return places;
+    return Grid<ButtonCount>({150, 375, 1320, 225}, ButtonCount, 0, kRow);
 }
 
 std::array<Twips, frmAssign::ButtonCount> frmAssign::ListPlaces() {
-    std::array<Twips, ButtonCount> places;
-    for (size_t row = 0; row < places.size(); ++row)
-        places[row] = {1500, 330 + static_cast<int>(row) * kRow, 2820, 315};
+    return Grid<ButtonCount>({1500, 330, 2820, 315}, ButtonCount, 0, kRow);
+}
+
+// Three in a line, each with its option at its left.
+std::array<Twips, Artwork::SchemeCount> frmAssign::SamplePlaces() {
+    std::array<Twips, Artwork::SchemeCount> places;
+    for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme)
+        places[static_cast<size_t>(scheme)] = {540 + scheme % 3 * 2400, 480 + scheme / 3 * 1500, 1080, 1080};
     return places;
 }
 
-Twips frmAssign::SamplePlace(int scheme) {
-    constexpr int kSide = 1080;
-    constexpr int kColumn = 2400;
-    constexpr int kLine = 1500;
-    return {540 + scheme % 3 * kColumn, 480 + scheme / 3 * kLine, kSide, kSide};
-}
-
 std::array<Twips, Artwork::SchemeCount> frmAssign::OptionPlaces() {
-    std::array<Twips, Artwork::SchemeCount> places;
-    for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme) {
-        const Twips sample = SamplePlace(scheme);
-        places[static_cast<size_t>(scheme)] = {sample.Left - 330, sample.Top + 435, 210, 210};
-    }
+    std::array<Twips, Artwork::SchemeCount> places = SamplePlaces();
+    for (Twips& place : places) place = {place.Left - 330, place.Top + 435, 210, 210};
     return places;
 }
 
@@ -78,7 +70,7 @@ bool frmAssign::Form_Initialize() {
     return static_cast<bool>(settings_);
 }
 
-void frmAssign::Form_Load() try {
+void frmAssign::Form_Load() {
     SetCaptions();
     ShowPage(0);
     FillLists();
@@ -87,8 +79,6 @@ void frmAssign::Form_Load() try {
     const auto scheme = static_cast<size_t>(settings_->Scheme());
     optColor[0].Value(false);
     optColor[scheme].Value(true);
-} catch (...) {
-    ErrorReport("frmAssign: Sub Form_Load");
 }
 
 void frmAssign::SetCaptions() {
@@ -132,7 +122,7 @@ void frmAssign::picSample_Click(int scheme) {
     for (OptionButton& option : optColor) option.Value(option.Index() == scheme);
 }
 
-void frmAssign::cmdOK_Click() try {
+void frmAssign::cmdOK_Click() {
     std::vector<std::wstring> names;
     for (const ComboBox& list : cboDB) names.push_back(list.SelectedText());
     size_t scheme = 0;
@@ -141,8 +131,6 @@ void frmAssign::cmdOK_Click() try {
         Unload();
     else
         SettingsNotice::NotSaved();
-} catch (...) {
-    ErrorReport("frmAssign: Sub cmdOK_Click");
 }
 
 void frmAssign::cmdCancel_Click() { Unload(); }

@@ -20,30 +20,27 @@ public:
 
     static constexpr std::size_t ButtonCount = Palette::ButtonCount;
 
-    TabControl mstAssign{this, L"mstAssign", {120, 120, 7500, 4740}, &frmAssign::mstAssign_Click};
+    TabControl mstAssign{this, L"mstAssign", {120, 120, 7500, 4740}, {.Click = &frmAssign::mstAssign_Click}};
 
     Frame fraButtons{this, L"fraButtons", {300, 600, 7140, 4110}};
-    ControlArray<Label, ButtonCount> lblDB{this, fraButtons, L"lblDB", LabelPlaces(), nullptr};
-    ControlArray<ComboBox, ButtonCount> cboDB{this, fraButtons, L"cboDB", ListPlaces(), nullptr};
-    Label lblLayout{this, fraButtons, L"lblLayout", {4530, 330, 2400, 225}};
-    PictureBox picPosition{this, fraButtons, L"picPosition", {4530, 600, 2430, 1155}, 0, &frmAssign::DrawPosition};
-    CheckBox chkStartup{this, fraButtons, L"chkStartup", {150, 3735, 6840, 255}};
+    ControlArray<Label, ButtonCount> lblDB{this, L"lblDB", In(fraButtons, LabelPlaces())};
+    ControlArray<ComboBox, ButtonCount> cboDB{this, L"cboDB", In(fraButtons, ListPlaces())};
+    Label lblLayout{this, L"lblLayout", In(fraButtons, {4530, 330, 2400, 225})};
+    PictureBox picPosition{
+        this, L"picPosition", In(fraButtons, {4530, 600, 2430, 1155}), {.Draw = &frmAssign::DrawPosition}};
+    CheckBox chkStartup{this, L"chkStartup", In(fraButtons, {150, 3735, 6840, 255})};
 
     Frame fraColors{this, L"fraColors", {300, 600, 7140, 4110}};
-    ControlArray<OptionButton, Artwork::SchemeCount> optColor{this, fraColors, L"optColor", OptionPlaces(), nullptr};
-    PictureBox picSample0{
-        this, fraColors, L"picSample", SamplePlace(0), 0, &frmAssign::DrawSample, &frmAssign::picSample_Click};
-    PictureBox picSample1{
-        this, fraColors, L"picSample", SamplePlace(1), 1, &frmAssign::DrawSample, &frmAssign::picSample_Click};
-    PictureBox picSample2{
-        this, fraColors, L"picSample", SamplePlace(2), 2, &frmAssign::DrawSample, &frmAssign::picSample_Click};
-    PictureBox picSample3{
-        this, fraColors, L"picSample", SamplePlace(3), 3, &frmAssign::DrawSample, &frmAssign::picSample_Click};
-    PictureBox picSample4{
-        this, fraColors, L"picSample", SamplePlace(4), 4, &frmAssign::DrawSample, &frmAssign::picSample_Click};
+    ControlArray<OptionButton, Artwork::SchemeCount> optColor{this, L"optColor", In(fraColors, OptionPlaces())};
+    ControlArray<PictureBox, Artwork::SchemeCount> picSample{
+        this,
+        L"picSample",
+        In(fraColors, SamplePlaces()),
+        {.Draw = &frmAssign::DrawSample, .Click = &frmAssign::picSample_Click}};
 
-    CommandButton cmdOK{this, L"cmdOK", {5040, 4980, 1215, 345}, &frmAssign::cmdOK_Click, Default};
-    CommandButton cmdCancel{this, L"cmdCancel", {6405, 4980, 1215, 345}, &frmAssign::cmdCancel_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {5040, 4980, 1215, 345}, {.Click = &frmAssign::cmdOK_Click}, Default};
+    CommandButton cmdCancel{
+        this, L"cmdCancel", {6405, 4980, 1215, 345}, {.Click = &frmAssign::cmdCancel_Click}, Cancel};
 
 private:
     bool Form_Initialize() override;
@@ -60,7 +57,7 @@ private:
     static std::array<Twips, ButtonCount> LabelPlaces();
     static std::array<Twips, ButtonCount> ListPlaces();
     static std::array<Twips, Artwork::SchemeCount> OptionPlaces();
-    static Twips SamplePlace(int scheme);
+    static std::array<Twips, Artwork::SchemeCount> SamplePlaces();
     void DrawSample(int scheme, HDC canvas, const RECT& area, bool isFocused);
     void DrawPosition(int number, HDC canvas, const RECT& area, bool isFocused);
 

@@ -33,19 +33,12 @@ Twips frmQuickSwitch::ButtonPlace(int button) {
     return {kMargin + column * kColumn, kMargin + row * kColumn, kSide, kSide};
 }
 
-void frmQuickSwitch::Form_Load() try {
+void frmQuickSwitch::Form_Load() {
     ProgramState& program = Program();
     program.QuickSwitchHandled = false;
-    program.ExitRequested = false;
-    // 0x80 hides the window, the zeros put it into the corner: size, place and showing follow.
-    constexpr UINT kFlags = 0x80;
-    SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0, kFlags);
+    // Hidden, and in the corner: size, place and showing follow.
+    SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_HIDEWINDOW);
     cmdCancel.Visible(false); // there for Esc alone
-    for (int button = 1; button <= ButtonCount; ++button) {
-        Tracker& tracker = trackers_.at(static_cast<size_t>(button) - 1);
-        tracker.Click = [this, button] { Tracker_Click(button); };
-        tracker.Mouse = [this, button](int action) { MouseAction(Picture(button), action, button); };
-    }
     Refresh_Screen();
     RestorePosition();
     mnuControlClose.Caption(Caption::WithDots(LangText[Caption::CloseAndLaunch]));
@@ -53,8 +46,6 @@ void frmQuickSwitch::Form_Load() try {
     mnuAssign.Caption(Caption::WithDots(LangText[Caption::QuickSwitchSettings]));
     mnuExit.Caption(LangText[Caption::Exit]);
     Caption(L"QuickSwitch");
-} catch (...) {
-    ErrorReport("frmQuickSwitch: Sub Form_Load");
 }
 
 void frmQuickSwitch::Refresh_Screen() try {
@@ -89,7 +80,7 @@ void frmQuickSwitch::ShowColumns() {
 void frmQuickSwitch::AttachTrackers() {
     for (int button = 1; button <= ButtonCount; ++button)
         if (!NameOf(button).empty() && !IsOpenInAct(NameOf(button)))
-            trackers_.at(static_cast<size_t>(button) - 1).Attach(Picture(button), Tracker::Enter | Tracker::Leave);
+            TrackerOf(button).Attach(Picture(button), Tracker::Enter | Tracker::Leave);
 }
 
 void frmQuickSwitch::RestorePosition() {
@@ -113,17 +104,24 @@ void frmQuickSwitch::Save_Position() const try {
     ErrorReport("frmQuickSwitch: Sub Save_Position");
 }
 
-void frmQuickSwitch::Form_Unload() try {
+void frmQuickSwitch::Form_Unload() {
     Save_Position();
     // While ACT! is being started there is no main window to come back.
     if (Program().QuickSwitchHandled || Program().StartActMode) return;
     Hide();
     mainWindow_.ShowMain();
-} catch (...) {
-    ErrorReport("frmQuickSwitch: Sub Form_Unload");
 }
 
-void frmQuickSwitch::Tracker_Click(int button) try {
+void frmQuickSwitch::pic_Hover(int button, bool isOver) {
+    if (isOver)
+        TrackerOf(button).Entered();
+    else
+        TrackerOf(button).Left();
+}
+
+void frmQuickSwitch::TrackerN_Mouse(int button, int action) { MouseAction(Picture(button), action, button); }
+
+void frmQuickSwitch::TrackerN_Click(int button) try {
     const std::wstring name = NameOf(button);
     if (name.empty()) return;
     Hide();
@@ -137,17 +135,15 @@ void frmQuickSwitch::Tracker_Click(int button) try {
     ErrorReport(L"frmQuickSwitch: Sub Tracker" + Text::FromNumber(button) + L"_Click");
 }
 
-void frmQuickSwitch::mnuAssign_Click() try {
+void frmQuickSwitch::mnuAssign_Click() {
     frmAssign().ShowModal();
     Refresh_Screen();
-} catch (...) {
-    ErrorReport("frmQuickSwitch: Sub mnuAssign_Click");
 }
 
 void frmQuickSwitch::mnuControlClose_Click() { Unload(); }
 
 void frmQuickSwitch::mnuExit_Click() {
-    Program().ExitRequested = true;
+    exitRequested_ = true;
     Program().QuickSwitchHandled = true;
     Unload();
 }

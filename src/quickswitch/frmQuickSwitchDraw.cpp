@@ -44,7 +44,7 @@ PictureBox& frmQuickSwitch::Picture(int button) {
     return *pictures[button - 1];
 }
 
-void frmQuickSwitch::DrawButton(int button, HDC canvas, const RECT& area, bool isFocused) {
+void frmQuickSwitch::pic_Draw(int button, HDC canvas, const RECT& area, bool isFocused) {
     const bool isHighlighted = isHighlighted_.at(static_cast<size_t>(button) - 1);
     const int image = Artwork::ImageOfButton(button) + (isHighlighted ? Artwork::ShapeCount : 0);
     const Artwork::Rgb face = SystemColor(COLOR_BTNFACE);
@@ -162,7 +162,7 @@ bool frmQuickSwitch::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT&) {
     }
 }
 
-bool frmQuickSwitch::KeyDown(int button, int key) {
+bool frmQuickSwitch::pic_KeyDown(int button, int key) {
     const int pressed = key >= VK_NUMPAD1 && key <= VK_NUMPAD8 ? key - VK_NUMPAD0 : key - '0';
     if (pressed >= 1 && pressed <= ButtonCount) {
         if (IsWindowVisible(Picture(pressed).Handle())) Picture(pressed).Press();

@@ -5,16 +5,16 @@
 
 namespace {
 
-std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
-    if (path.ends_with(L'\\')) path.remove_suffix(1);
-    return path;
-}
-
 constexpr bool IsDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
 
 } // namespace
 
 namespace Text {
+
+std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
+    if (path.ends_with(L'\\')) path.remove_suffix(1);
+    return path;
+}
 
 std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator) {
     std::vector<std::wstring> elements;

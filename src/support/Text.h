@@ -32,6 +32,8 @@ bool HasFolder(std::wstring_view path);
 /// The folder part of a path, without a trailing "\" unless it is a drive's root; "" when there is none.
 std::wstring ExtractPath(std::wstring_view path);
 
+/// Without one trailing backslash.
+std::wstring_view WithoutTrailingSlash(std::wstring_view path);
 /// A folder and a name joined by exactly one "\", whether or not the folder ends in one.
 std::wstring JoinPath(std::wstring_view folder, std::wstring_view name);
 

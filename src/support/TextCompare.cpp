@@ -21,11 +21,6 @@ wchar_t Lower(wchar_t character) {
     return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(CharLowerW(text)));
 }
 
-std::wstring_view WithoutTrailingSlash(std::wstring_view path) {
-    if (path.ends_with(L'\\')) path.remove_suffix(1);
-    return path;
-}
-
 } // namespace
 
 namespace Text {

@@ -8,9 +8,9 @@ DWORD StyleOf(ButtonRole role) { return (role == ButtonRole::Default ? BS_DEFPUS
 
 } // namespace
 
-CommandButton::CommandButton(Form* form, const wchar_t* name, const Twips& place, const Action& click, ButtonRole role,
-                             Frame* container, int index)
-    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}, container, index), click_(click), role_(role) {}
+CommandButton::CommandButton(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click,
+                             ButtonRole role)
+    : Control(form, name, place, {L"Button", StyleOf(role) | WS_GROUP}, index), click_(click), role_(role) {}
 
 int CommandButton::Identifier(int ordinal) const {
     if (role_ == ButtonRole::Default) return IDOK;
@@ -21,10 +21,8 @@ void CommandButton::OnCommand(WORD notification) {
     if (notification == BN_CLICKED && Enabled()) Raise(L"Click", click_);
 }
 
-CheckBox::CheckBox(Form* form, Frame& container, const wchar_t* name, const Twips& place, const Action& click,
-                   int index)
-    : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, &container, index),
-      click_(click) {}
+CheckBox::CheckBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click)
+    : Control(form, name, place, {L"Button", BS_AUTOCHECKBOX | WS_TABSTOP | WS_GROUP}, index), click_(click) {}
 
 bool CheckBox::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
@@ -42,11 +40,9 @@ void CheckBox::OnCommand(WORD notification) {
         Raise(L"Click", click_);
 }
 
-OptionButton::OptionButton(Form* form, Frame& container, const wchar_t* name, const Twips& place, int index,
-                           const Action& click)
+OptionButton::OptionButton(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click)
     : Control(form, name, place,
-              {L"Button", static_cast<DWORD>(BS_AUTORADIOBUTTON | (index == 0 ? WS_GROUP | WS_TABSTOP : 0))},
-              &container, index),
+              {L"Button", static_cast<DWORD>(BS_AUTORADIOBUTTON | (index == 0 ? WS_GROUP | WS_TABSTOP : 0))}, index),
       click_(click) {}
 
 bool OptionButton::Value() const { return SendMessageW(Handle(), BM_GETCHECK, 0, 0) == BST_CHECKED; }

@@ -11,20 +11,18 @@ inline constexpr ButtonRole Cancel = ButtonRole::Cancel;
 class CommandButton : public Control {
 public:
     template <class F>
-    CommandButton(F* form, const wchar_t* name, const Twips& place, void (F::*click)(),
+    CommandButton(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events,
                   ButtonRole role = ButtonRole::Plain)
-        : CommandButton(static_cast<Form*>(form), name, place, Bind(form, click), role) {}
-    /// A button inside a frame; of several with one name, the handler gets the index.
+        : CommandButton(form, name, place, 0, events.ClickOf(form), role) {}
+    /// One of several with the same name.
     template <class F>
-    CommandButton(F* form, Frame& container, const wchar_t* name, const Twips& place, void (F::*click)())
-        : CommandButton(form, name, place, Bind(form, click), ButtonRole::Plain, &container) {}
-    template <class F>
-    CommandButton(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
-        : CommandButton(form, name, place, BindElement(form, click, index), ButtonRole::Plain, &container, index) {}
-    CommandButton(Form* form, const wchar_t* name, const Twips& place, const Action& click, ButtonRole role,
-                  Frame* container = nullptr, int index = 0);
+    CommandButton(F* form, const wchar_t* name, const Placement& place,
+                  std::type_identity_t<IndexedClickEvents<F>> events)
+        : CommandButton(form, name, place, events.Index, events.ClickOf(form), ButtonRole::Plain) {}
 
 private:
+    CommandButton(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click,
+                  ButtonRole role);
     int Identifier(int ordinal) const override;
     void OnCommand(WORD notification) override;
 
@@ -36,20 +34,21 @@ private:
 class CheckBox : public Control {
 public:
     template <class F>
-    CheckBox(F* form, Frame& container, const wchar_t* name, const Twips& place, void (F::*click)())
-        : CheckBox(static_cast<Form*>(form), container, name, place, Bind(form, click)) {}
-    /// An element of a control array; its handler gets its index.
+    using Indexed = IndexedClickEvents<F>;
+
     template <class F>
-    CheckBox(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
-        : CheckBox(static_cast<Form*>(form), container, name, place, BindElement(form, click, index), index) {}
-    CheckBox(Form* form, Frame& container, const wchar_t* name, const Twips& place, const Action& click = {},
-             int index = 0);
+    CheckBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events = {})
+        : CheckBox(form, name, place, 0, events.ClickOf(form)) {}
+    template <class F>
+    CheckBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<IndexedClickEvents<F>> events)
+        : CheckBox(form, name, place, events.Index, events.ClickOf(form)) {}
 
     bool Value() const;
     /// Checks or unchecks and, when that changes it, runs the handler as a click does.
     void Value(bool checked);
 
 private:
+    CheckBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
     void OnCommand(WORD notification) override;
 
     Action click_;
@@ -59,15 +58,19 @@ private:
 class OptionButton : public Control {
 public:
     template <class F>
-    OptionButton(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
-        : OptionButton(static_cast<Form*>(form), container, name, place, index, BindElement(form, click, index)) {}
-    OptionButton(Form* form, Frame& container, const wchar_t* name, const Twips& place, int index, const Action& click);
+    using Indexed = IndexedClickEvents<F>;
+
+    template <class F>
+    OptionButton(F* form, const wchar_t* name, const Placement& place,
+                 std::type_identity_t<IndexedClickEvents<F>> events)
+        : OptionButton(form, name, place, events.Index, events.ClickOf(form)) {}
 
     bool Value() const;
     /// Checks or unchecks without running a handler and without touching the others of the group.
     void Value(bool checked);
 
 private:
+    OptionButton(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
     void OnCommand(WORD notification) override;
 
     Action click_;

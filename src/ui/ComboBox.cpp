@@ -1,9 +1,7 @@
 #include "ui/ComboBox.h"
 
-ComboBox::ComboBox(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container,
-                   int index)
-    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, container,
-              index),
+ComboBox::ComboBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click)
+    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, index),
       click_(click) {}
 
 void ComboBox::AddItem(const std::wstring& text) {

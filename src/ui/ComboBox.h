@@ -7,16 +7,16 @@
 /// A drop-down list: the user picks one of its entries and cannot type.
 class ComboBox : public Control {
 public:
-    ComboBox(Form* form, const wchar_t* name, const Twips& place, const Action& click = {}, Frame* container = nullptr,
-             int index = 0);
-    /// A combo box inside a frame, with a handler for a choice by the user.
     template <class F>
-    ComboBox(F* form, Frame& container, const wchar_t* name, const Twips& place, void (F::*click)())
-        : ComboBox(form, name, place, Bind(form, click), &container) {}
-    /// An element of a control array inside a frame; its handler gets its index.
+    using Indexed = IndexedClickEvents<F>;
+
+    /// A click is a choice by the user.
     template <class F>
-    ComboBox(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
-        : ComboBox(form, name, place, BindElement(form, click, index), &container, index) {}
+    ComboBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events = {})
+        : ComboBox(form, name, place, 0, events.ClickOf(form)) {}
+    template <class F>
+    ComboBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<IndexedClickEvents<F>> events)
+        : ComboBox(form, name, place, events.Index, events.ClickOf(form)) {}
 
     void AddItem(const std::wstring& text);
     /// The selected entry, from 0; -1 for none.
@@ -28,6 +28,7 @@ public:
     std::wstring SelectedText() const;
 
 private:
+    ComboBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
     Twips WindowPlace() const override;
     void OnCommand(WORD notification) override;
     std::wstring Item(int index) const;

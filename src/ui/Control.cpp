@@ -1,17 +1,15 @@
 #include "ui/Control.h"
 
 #include "support/Busy.h"
-#include "support/ErrorReport.h"
-#include "support/Text.h"
+#include "support/Error.h"
 #include "ui/Accessible.h"
 #include "ui/Form.h"
 #include "ui/Frame.h"
 
-Control::Control(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container,
-                 int index)
-    : form_(form), name_(name), place_(place), kind_(kind), container_(container), index_(index) {
+Control::Control(Form* form, const wchar_t* name, const Placement& place, const ControlKind& kind, int index)
+    : form_(form), name_(name), place_(place.Place), container_(place.Container), kind_(kind), index_(index) {
     form->Register(*this);
-    if (container) container->Contain(*this);
+    if (container_) container_->Contain(*this);
 }
 
 std::wstring Control::Text() const {
@@ -37,14 +35,9 @@ void Control::Move(const Twips& place) {
     PlaceWindow();
 }
 
-void Control::Guard(const wchar_t* event, void (*call)(const void*), const void* target) const {
-    if (Busy::Now() || form_->Unloaded()) return;
-    try {
-        call(target);
-    } catch (...) {
-        ErrorReport(Text::Concat({form_->Name(), L": Sub ", name_, L"_", event}));
-    }
-}
+bool Control::TakesEvents() const { return !Busy::Now() && !form_->Unloaded(); }
+
+const wchar_t* Control::OwnerName() const { return form_->Name(); }
 
 Twips Control::WindowPlace() const {
     Twips place = place_;

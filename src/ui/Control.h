@@ -1,11 +1,13 @@
 #pragma once
 
 #include "ui/Events.h"
+#include "ui/Guard.h"
 #include "ui/Twips.h"
 #include "win32/Windows.h"
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 class Form;
 class Frame;
@@ -17,12 +19,23 @@ struct ControlKind {
     DWORD ExStyle = 0;
 };
 
+/// Where a control lies: in twips, relative to the form or to the frame that contains it.
+struct Placement {
+    Placement() = default;
+    Placement(int left, int top, int width, int height) : Place{left, top, width, height} {}
+    Placement(const Twips& place, Frame* container = nullptr) : Place(place), Container(container) {}
+
+    Twips Place{};
+    Frame* Container = nullptr;
+};
+
+inline Placement In(Frame& container, const Twips& place) { return {place, &container}; }
+
 /// One control of a form: the system's own window plus its reflected messages and a few verbs. Declared as a member of
 /// its form; its window lives from the form's Load to its end. Order of declaration is Tab order.
 class Control {
 public:
-    Control(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container = nullptr,
-            int index = 0);
+    Control(Form* form, const wchar_t* name, const Placement& place, const ControlKind& kind, int index = 0);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -55,8 +68,7 @@ protected:
     /// The same for anything that can be called.
     template <class Call>
     void RaiseCall(const wchar_t* event, const Call& call) const {
-        Guard(
-            event, [](const void* target) { (*static_cast<const Call*>(target))(); }, &call);
+        if (TakesEvents()) Guard::Run(OwnerName(), name_, event, call);
     }
     /// The place of the control's window relative to the form.
     virtual Twips WindowPlace() const;
@@ -64,7 +76,8 @@ protected:
 private:
     friend class Form;
     friend class Frame;
-    void Guard(const wchar_t* event, void (*call)(const void*), const void* target) const;
+    bool TakesEvents() const;
+    const wchar_t* OwnerName() const;
     /// The control's command identifier.
     virtual int Identifier(int ordinal) const { return ordinal; }
     virtual void OnCreated() {}
@@ -96,8 +109,8 @@ private:
     Form* form_;
     const wchar_t* name_;
     Twips place_;
-    ControlKind kind_;
     Frame* container_;
+    ControlKind kind_;
     int index_;
     HWND window_ = nullptr;
     std::wstring accessibleName_;

@@ -5,17 +5,20 @@ class Form;
 /// A handler of a form: a member function without arguments, or one that gets a fixed index. An empty one does nothing.
 class Action {
 public:
-    using Plain = void (Form::*)();
-    using Indexed = void (Form::*)(int);
-
     Action() = default;
-    Action(Form* form, Plain handler) : form_(form), plain_(handler) {}
-    Action(Form* form, Indexed handler, int index) : form_(form), indexed_(handler), index_(index) {}
+    template <class F>
+    Action(F* form, void (F::*handler)()) : form_(form), plain_(static_cast<Plain>(handler)) {}
+    template <class F>
+    Action(F* form, void (F::*handler)(int), int index)
+        : form_(form), indexed_(static_cast<Indexed>(handler)), index_(index) {}
 
     explicit operator bool() const { return plain_ != nullptr || indexed_ != nullptr; }
     void operator()() const;
 
 private:
+    using Plain = void (Form::*)();
+    using Indexed = void (Form::*)(int);
+
     Form* form_ = nullptr;
     Plain plain_ = nullptr;
     Indexed indexed_ = nullptr;
@@ -40,14 +43,19 @@ private:
     Function function_ = nullptr;
 };
 
-/// A member function of a form as a handler; a null one gives an empty handler.
+/// The handler of what can be clicked.
 template <class F>
-Action Bind(F* form, void (F::*handler)()) {
-    return {form, static_cast<Action::Plain>(handler)};
-}
+struct ClickEvents {
+    void (F::*Click)() = nullptr;
 
-/// The handler of one element of a control array: it gets the element's index.
+    Action ClickOf(F* form) const { return {form, Click}; }
+};
+
+/// The same for one of several controls with one name and handler, which gets the index.
 template <class F>
-Action BindElement(F* form, void (F::*handler)(int), int index) {
-    return {form, static_cast<Action::Indexed>(handler), index};
-}
+struct IndexedClickEvents {
+    int Index = 0;
+    void (F::*Click)(int index) = nullptr;
+
+    Action ClickOf(F* form) const { return {form, Click, Index}; }
+};

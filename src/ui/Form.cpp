@@ -1,7 +1,6 @@
 #include "ui/Form.h"
 
 #include "support/Error.h"
-#include "support/ErrorReport.h"
 #include "ui/Timer.h"
 
 #include <algorithm>
@@ -63,10 +62,9 @@ Form* Form::FromWindow(HWND window) {
 void Form::Load() {
     if (window_) return;
     CreateFrame(owner_);
-    if (!Form_Initialize()) {
-        Unload();
-        return;
-    }
+    bool goesOn = false;
+    Guarded(L"Load", [&] { goesOn = Form_Initialize(); });
+    if (!goesOn) return Unload();
     CreateMenuBar();
     for (size_t index = 0; index < controls_.size(); ++index) controls_[index]->Create(static_cast<int>(index) + 100);
     // Pages lie on the tab control that was declared before them, and everything else on the pages.
@@ -75,7 +73,11 @@ void Form::Load() {
             SetWindowPos(controls_[index]->Handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ApplyFont();
     ApplyDesignSize();
-    Form_Load();
+    LoadAgain();
+}
+
+void Form::LoadAgain() {
+    Guarded(L"Load", [this] { Form_Load(); });
 }
 
 void Form::CreateFrame(HWND owner) {
@@ -218,11 +220,7 @@ void Form::FocusFirst() {
 void Form::Unload() {
     if (unloaded_ || unloading_) return;
     unloading_ = true;
-    try {
-        Form_Unload();
-    } catch (...) {
-        ErrorReport(std::wstring(Name()) + L": Sub Form_Unload");
-    }
+    Guarded(L"Unload", [this] { Form_Unload(); });
     unloading_ = false;
     unloaded_ = true;
     // A menu that is still open would go on with its command.

@@ -41,7 +41,8 @@ public:
     HWND Handle() const { return window_; }
     int Dpi() const { return dpi_; }
 
-    /// Creates the hidden window with its controls and runs Form_Load. Throws Error when Windows refuses.
+    /// Creates the hidden window with its controls and runs Form_Load. Throws Error when Windows refuses. What handlers
+    /// throw is reported under their names, here and below.
     void Load();
     void Show();
     void Hide();
@@ -79,7 +80,7 @@ public:
     static int RunMessageLoop();
 
 protected:
-    /// Runs while the form has no controls yet. False unloads it as it is.
+    /// Runs while the form has no controls yet, as a part of Form_Load. False unloads it as it is.
     virtual bool Form_Initialize() { return true; }
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
@@ -90,6 +91,8 @@ protected:
     virtual bool Form_KeyDown(const KeyPress&) { return false; }
     virtual void Form_Resize() {}
     virtual void Form_Unload() {}
+    /// Runs Form_Load once more.
+    void LoadAgain();
     /// Puts the window over the middle of a visible window, or of the screen for none, and wholly onto the screen.
     void Center(HWND over);
     /// Messages that only one form cares about; true when handled, with the answer in `result`.
@@ -105,6 +108,10 @@ private:
     int Register(MenuItem& item);
     int Register(Timer& timer);
 
+    template <class Call>
+    bool Guarded(const wchar_t* event, const Call& call) const {
+        return Guard::Run(Name(), L"Form", event, call);
+    }
     static void Forget(const Form* form);
     void CreateFrame(HWND owner);
     void CreateMenuBar();

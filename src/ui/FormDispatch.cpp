@@ -3,7 +3,6 @@
 #include "ui/Form.h"
 
 #include "support/Busy.h"
-#include "support/ErrorReport.h"
 #include "ui/Timer.h"
 
 #include <algorithm>
@@ -24,13 +23,9 @@ LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT message, WPARAM wParam,
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
     }
     if (!form) return DefWindowProcW(window, message, wParam, lParam);
-    try {
-        return form->Dispatch(message, wParam, lParam);
-    } catch (...) {
-        // No exception may cross into user32's frames.
-        ErrorReport(std::wstring(form->Name()) + L": Sub Form_Message");
-        return 0;
-    }
+    LRESULT result = 0;
+    form->Guarded(L"Message", [&] { result = form->Dispatch(message, wParam, lParam); });
+    return result;
 }
 
 Control* Form::ControlOf(HWND window) {
@@ -129,7 +124,7 @@ LRESULT Form::DispatchCommand(WPARAM wParam, LPARAM lParam) {
 void Form::OnActivate(WPARAM wParam) {
     if (LOWORD(wParam) == WA_INACTIVE) {
         if (IsChild(window_, GetFocus())) lastFocus_ = GetFocus();
-        Form_Deactivate();
+        Guarded(L"Deactivate", [this] { Form_Deactivate(); });
         return;
     }
     if (HIWORD(wParam) != 0) return;
@@ -137,7 +132,7 @@ void Form::OnActivate(WPARAM wParam) {
         ::SetFocus(lastFocus_);
     else
         FocusFirst();
-    Form_Activate();
+    Guarded(L"Activate", [this] { Form_Activate(); });
 }
 
 void Form::OnDpiChanged(int dpi, const RECT& suggested) {

@@ -3,7 +3,6 @@
 #include "ui/Form.h"
 
 #include "support/Busy.h"
-#include "support/ErrorReport.h"
 
 #include <utility>
 
@@ -16,12 +15,10 @@ bool Form::TakesKey(const MSG& message) {
     if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
     if (Busy::Now() || unloaded_) return false;
     const auto isDown = [](int key) { return GetKeyState(key) < 0; };
-    try {
-        return Form_KeyDown({static_cast<int>(message.wParam), isDown(VK_CONTROL), isDown(VK_MENU), isDown(VK_SHIFT)});
-    } catch (...) {
-        ErrorReport(std::wstring(Name()) + L": Sub Form_KeyDown");
-        return true;
-    }
+    const KeyPress press{static_cast<int>(message.wParam), isDown(VK_CONTROL), isDown(VK_MENU), isDown(VK_SHIFT)};
+    bool isUsed = true; // also where an error was reported
+    Guarded(L"KeyDown", [&] { isUsed = Form_KeyDown(press); });
+    return isUsed;
 }
 
 int Form::RunMessageLoop() {

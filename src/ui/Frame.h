@@ -10,7 +10,7 @@ class Frame : public Control {
 public:
     enum class Kind { Captioned, Page };
 
-    Frame(Form* form, const wchar_t* name, const Twips& place, Kind kind = Kind::Captioned)
+    Frame(Form* form, const wchar_t* name, const Placement& place, Kind kind = Kind::Captioned)
         : Control(form, name, place,
                   kind == Kind::Captioned ? ControlKind{L"Button", BS_GROUPBOX | WS_GROUP}
                                           : ControlKind{L"Static", SS_LEFT | WS_CLIPSIBLINGS}),

@@ -3,9 +3,8 @@
 #include <cstdlib>
 #include <utility>
 
-Label::Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index)
-    : Control(form, name, place, {L"Static", static_cast<DWORD>(click ? SS_LEFT | SS_NOTIFY : SS_LEFT)}, container,
-              index),
+Label::Label(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click)
+    : Control(form, name, place, {L"Static", static_cast<DWORD>(click ? SS_LEFT | SS_NOTIFY : SS_LEFT)}, index),
       click_(click) {}
 
 void Label::OnCommand(WORD notification) {

@@ -6,22 +6,18 @@
 /// A text that the user cannot edit. With a handler it can be clicked.
 class Label : public Control {
 public:
-    Label(Form* form, const wchar_t* name, const Twips& place) : Label(form, name, place, Action{}, nullptr) {}
     template <class F>
-    Label(F* form, const wchar_t* name, const Twips& place, void (F::*click)())
-        : Label(form, name, place, Bind(form, click), nullptr) {}
-    /// A label inside a frame.
-    Label(Form* form, Frame& container, const wchar_t* name, const Twips& place)
-        : Label(form, name, place, Action{}, &container) {}
-    /// An element of a control array inside a frame; its handler gets its index.
-    template <class F>
-    Label(F* form, Frame& container, const wchar_t* name, const Twips& place, int index, void (F::*click)(int))
-        : Label(form, name, place, BindElement(form, click, index), &container, index) {}
+    using Indexed = IndexedClickEvents<F>;
 
-protected:
-    Label(Form* form, const wchar_t* name, const Twips& place, const Action& click, Frame* container, int index = 0);
+    template <class F>
+    Label(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events = {})
+        : Label(form, name, place, 0, events.ClickOf(form)) {}
+    template <class F>
+    Label(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<IndexedClickEvents<F>> events)
+        : Label(form, name, place, events.Index, events.ClickOf(form)) {}
 
 private:
+    Label(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
     void OnCommand(WORD notification) override;
 
     Action click_;
@@ -30,8 +26,7 @@ private:
 /// A label that looks and acts like a link: underlined, in the system's colour for links, with a hand as pointer.
 class LinkLabel : public Label {
 public:
-    template <class F>
-    LinkLabel(F* form, const wchar_t* name, const Twips& place, void (F::*click)()) : Label(form, name, place, click) {}
+    using Label::Label;
 
 private:
     HBRUSH OnColor(HDC canvas) override;
@@ -44,7 +39,7 @@ private:
 /// A separator line in a system colour (a COLOR_ constant).
 class Line : public Control {
 public:
-    Line(Form* form, const wchar_t* name, const Twips& place, int color)
+    Line(Form* form, const wchar_t* name, const Placement& place, int color)
         : Control(form, name, place, {L"Static", SS_LEFT}), color_(color) {}
 
 private:

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-ListBox::ListBox(Form* form, const wchar_t* name, const Twips& place)
+ListBox::ListBox(Form* form, const wchar_t* name, const Placement& place)
     : Control(form, name, place,
               {L"ListBox", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
 
@@ -46,7 +46,6 @@ void ListBox::ItemData(int index, LONG_PTR datum) {
 
 void ListBox::OnCommand(WORD notification) {
     if (notification == LBN_SELCHANGE) Raise(L"Click", click_);
-    if (notification == LBN_DBLCLK) Raise(L"DblClick", dblClick_);
 }
 
 void ListBox::OnContextMenu(POINT position) {

@@ -9,7 +9,6 @@
 template <class F>
 struct ListBoxEvents {
     void (F::*Click)() = nullptr;
-    void (F::*DblClick)() = nullptr;
     void (F::*RightClick)(POINT) = nullptr;      ///< right button, Menu key or Shift+F10; where a menu is to come up
     void (F::*Drop)(int from, int to) = nullptr; ///< a line was dragged to the place of another
 };
@@ -18,10 +17,9 @@ struct ListBoxEvents {
 class ListBox : public Control {
 public:
     template <class F>
-    ListBox(F* form, const wchar_t* name, const Twips& place, std::type_identity_t<ListBoxEvents<F>> events)
+    ListBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ListBoxEvents<F>> events)
         : ListBox(static_cast<Form*>(form), name, place) {
-        click_ = Bind(form, events.Click);
-        dblClick_ = Bind(form, events.DblClick);
+        click_ = {form, events.Click};
         rightClick_ = {form, events.RightClick};
         drop_ = {form, events.Drop};
     }
@@ -40,7 +38,7 @@ public:
     void ItemData(int index, LONG_PTR datum);
 
 private:
-    ListBox(Form* form, const wchar_t* name, const Twips& place);
+    ListBox(Form* form, const wchar_t* name, const Placement& place);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
     void OnContextMenu(POINT position) override;
@@ -50,7 +48,6 @@ private:
     void ClearMark() const;
 
     Action click_;
-    Action dblClick_;
     Handler<void, POINT> rightClick_;
     Handler<void, int, int> drop_;
     int dragged_ = -1;

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-ListView::ListView(Form* form, const wchar_t* name, const Twips& place)
+ListView::ListView(Form* form, const wchar_t* name, const Placement& place)
     : Control(
           form, name, place,
           {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE}) {}
@@ -284,9 +284,7 @@ LRESULT ListView::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
     if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
     const auto row = static_cast<size_t>(draw.nmcd.lItemlParam);
     if (row < rows_.size() && rows_[row].Color != CLR_DEFAULT)
-        draw.clrText = Contrast::IsHigh() ? Contrast::Readable(rows_[row].Color, GetSysColor(COLOR_WINDOW),
-                                                               GetSysColor(COLOR_HIGHLIGHT))
-                                          : rows_[row].Color;
+        draw.clrText = Contrast::IsHigh() ? GetSysColor(COLOR_HOTLIGHT) : rows_[row].Color;
     return CDRF_NEWFONT;
 }
 

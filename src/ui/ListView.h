@@ -23,11 +23,11 @@ struct ListViewEvents {
 class ListView : public Control {
 public:
     template <class F>
-    ListView(F* form, const wchar_t* name, const Twips& place, std::type_identity_t<ListViewEvents<F>> events = {})
+    ListView(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ListViewEvents<F>> events = {})
         : ListView(static_cast<Form*>(form), name, place) {
-        dblClick_ = Bind(form, events.DblClick);
+        dblClick_ = {form, events.DblClick};
         columnClick_ = {form, events.ColumnClick};
-        rightClick_ = Bind(form, events.RightClick);
+        rightClick_ = {form, events.RightClick};
         tip_ = {form, events.Tip};
     }
 
@@ -79,7 +79,7 @@ public:
     POINT MenuPosition() const { return menuPosition_; }
 
 private:
-    ListView(Form* form, const wchar_t* name, const Twips& place);
+    ListView(Form* form, const wchar_t* name, const Placement& place);
     void OnCreated() override;
     LRESULT OnNotify(NMHDR& header) override;
     void OnContextMenu(POINT position) override;

@@ -1,9 +1,8 @@
 #include "ui/Menu.h"
 
 #include "support/Busy.h"
-#include "support/ErrorReport.h"
-#include "support/Text.h"
 #include "ui/Form.h"
+#include "ui/Guard.h"
 
 namespace {
 
@@ -52,12 +51,7 @@ void MenuItem::Enabled(bool enabled) {
 }
 
 void MenuItem::Click() const {
-    if (!click_ || Busy::Now() || form_->Unloaded()) return;
-    try {
-        click_();
-    } catch (...) {
-        ErrorReport(Text::Concat({form_->Name(), L": Sub ", name_, L"_Click"}));
-    }
+    if (!Busy::Now() && !form_->Unloaded()) Guard::Run(form_->Name(), name_, L"Click", click_);
 }
 
 MenuSeparator::MenuSeparator(Menu& menu) { AppendMenuW(menu.menu_, MF_SEPARATOR, 0, nullptr); }

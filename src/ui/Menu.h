@@ -4,6 +4,7 @@
 #include "win32/Owner.h"
 
 #include <string>
+#include <type_traits>
 
 class Form;
 
@@ -39,9 +40,8 @@ private:
 class MenuItem {
 public:
     template <class F>
-    MenuItem(F* form, Menu& menu, const wchar_t* name, void (F::*click)())
-        : MenuItem(static_cast<Form*>(form), menu, name, Bind(form, click)) {}
-    MenuItem(Form* form, Menu& menu, const wchar_t* name, const Action& click);
+    MenuItem(F* form, Menu& menu, const wchar_t* name, std::type_identity_t<ClickEvents<F>> events)
+        : MenuItem(form, menu, name, events.ClickOf(form)) {}
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 
@@ -54,6 +54,8 @@ public:
     void Click() const;
 
 private:
+    MenuItem(Form* form, Menu& menu, const wchar_t* name, const Action& click);
+
     Form* form_;
     Menu* menu_;
     const wchar_t* name_;

@@ -1,28 +1,28 @@
 #include "ui/PictureBox.h"
 
-#include "support/ErrorReport.h"
-#include "support/Text.h"
 #include "ui/Form.h"
 
 #include <utility>
 
-PictureBox::PictureBox(Form* form, const wchar_t* name, const Twips& place, const ControlKind& kind, Frame* container,
-                       int number, const Drawing& draw)
-    : Control(form, name, place, kind, container, number), number_(number), draw_(draw) {}
+namespace {
+
+ControlKind KindOf(bool hasKeys, bool isClicked) {
+    if (hasKeys) return {L"Button", BS_OWNERDRAW | WS_TABSTOP};
+    return {L"Static", SS_OWNERDRAW | (isClicked ? SS_NOTIFY : 0UL)};
+}
+
+} // namespace
+
+PictureBox::PictureBox(Form* form, const wchar_t* name, const Placement& place, int index, bool hasKeys, bool isClicked)
+    : Control(form, name, place, KindOf(hasKeys, isClicked), index) {}
 
 void PictureBox::Refresh() {
     InvalidateRect(Handle(), nullptr, FALSE);
     UpdateWindow(Handle());
 }
 
-void PictureBox::Tell(const wchar_t* event, void (Listener::*told)()) const {
-    if (listener_) RaiseCall(event, [this, told] { (listener_->*told)(); });
-}
-
 void PictureBox::OnCreated() {
-    if (!keyDown_) return;
-    original_ = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&PictureBox::Procedure)));
+    if (keyDown_) subclass_.Attach(Handle(), *this);
 }
 
 void PictureBox::OnDraw(const DRAWITEMSTRUCT& draw) {
@@ -31,44 +31,36 @@ void PictureBox::OnDraw(const DRAWITEMSTRUCT& draw) {
 
 void PictureBox::OnCommand(WORD notification) {
     // The second click of a double click is not another one.
-    if (notification != BN_CLICKED) return;
-    if (click_)
-        RaiseCall(L"Click", [this] { click_(number_); });
-    else
-        Press();
+    if (notification == BN_CLICKED) Press();
 }
 
-LRESULT CALLBACK PictureBox::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* box = reinterpret_cast<PictureBox*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    try {
-        return box->Dispatch(message, wParam, lParam);
-    } catch (...) {
-        ErrorReport(Text::Concat({box->Owner().Name(), L": Sub ", box->Name(), L"_Message"}));
-        return 0;
-    }
-}
-
-LRESULT PictureBox::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT PictureBox::OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MOUSEMOVE: OnMouseMove(); break;
     case WM_CAPTURECHANGED:
     case WM_MOUSELEAVE: EndHover(); break;
     case WM_GETDLGCODE: {
-        const LRESULT code = CallWindowProcW(original_, Handle(), message, wParam, lParam);
+        const LRESULT code = subclass_.Default(message, wParam, lParam);
         const auto* key = reinterpret_cast<const MSG*>(lParam);
         const bool isEnter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
         return code | DLGC_WANTARROWS | DLGC_WANTCHARS | (isEnter ? DLGC_WANTMESSAGE : 0);
     }
     case WM_KEYDOWN:
-        if (wParam == VK_RETURN) {
-            Press();
-            return 0;
-        }
-        if (keyDown_(number_, static_cast<int>(wParam))) return 0;
+        if (TakesKey(static_cast<int>(wParam))) return 0;
         break;
     default: break;
     }
-    return CallWindowProcW(original_, Handle(), message, wParam, lParam);
+    return subclass_.Default(message, wParam, lParam);
+}
+
+bool PictureBox::TakesKey(int key) {
+    if (key == VK_RETURN) {
+        Press();
+        return true;
+    }
+    bool isUsed = false;
+    RaiseCall(L"KeyDown", [&] { isUsed = keyDown_(number_, key); });
+    return isUsed;
 }
 
 void PictureBox::OnMouseMove() {
@@ -82,12 +74,16 @@ void PictureBox::OnMouseMove() {
         TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Handle(), 0};
         TrackMouseEvent(&track);
         isHot_ = true;
-        Tell(L"Mouse", &Listener::Entered);
+        Hover(true);
     } else if (!isInside) {
         EndHover();
     }
 }
 
 void PictureBox::EndHover() {
-    if (std::exchange(isHot_, false)) Tell(L"Mouse", &Listener::Left);
+    if (std::exchange(isHot_, false)) Hover(false);
+}
+
+void PictureBox::Hover(bool isOver) {
+    if (hover_) RaiseCall(L"Mouse", [this, isOver] { hover_(number_, isOver); });
 }

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-TabControl::TabControl(Form* form, const wchar_t* name, const Twips& place, const Handler<void, int>& click)
+TabControl::TabControl(Form* form, const wchar_t* name, const Placement& place, const Handler<void, int>& click)
     : Control(form, name, place, {WC_TABCONTROLW, WS_CLIPSIBLINGS | WS_TABSTOP | WS_GROUP}), click_(click) {}
 
 void TabControl::AddTab(const std::wstring& caption) {

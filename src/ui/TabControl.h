@@ -8,10 +8,14 @@
 /// A row of tabs. Showing the page that belongs to the selected one is up to its form.
 class TabControl : public Control {
 public:
-    /// The handler gets the tab that is left.
     template <class F>
-    TabControl(F* form, const wchar_t* name, const Twips& place, void (F::*click)(int previousTab))
-        : TabControl(static_cast<Form*>(form), name, place, {form, click}) {}
+    struct Events {
+        void (F::*Click)(int previousTab) = nullptr; ///< another tab is selected
+    };
+
+    template <class F>
+    TabControl(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<Events<F>> events)
+        : TabControl(form, name, place, Handler<void, int>{form, events.Click}) {}
 
     void AddTab(const std::wstring& caption);
     /// The selected tab, from 0.
@@ -22,7 +26,7 @@ public:
     bool TakesKey(const KeyPress& press);
 
 private:
-    TabControl(Form* form, const wchar_t* name, const Twips& place, const Handler<void, int>& click);
+    TabControl(Form* form, const wchar_t* name, const Placement& place, const Handler<void, int>& click);
     LRESULT OnNotify(NMHDR& header) override;
     bool LiesBehind() const override { return true; }
 

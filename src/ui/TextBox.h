@@ -7,21 +7,20 @@ class TextBox : public Control {
 public:
     enum class Kind { Plain, Password, Notice };
 
-    TextBox(Form* form, const wchar_t* name, const Twips& place, Kind kind = Kind::Plain)
-        : TextBox(form, name, place, kind, nullptr) {}
-    TextBox(Form* form, Frame& container, const wchar_t* name, const Twips& place, Kind kind = Kind::Plain)
-        : TextBox(form, name, place, kind, &container) {}
-
-    /// With a handler that runs whenever the text changes.
     template <class F>
-    TextBox(F* form, const wchar_t* name, const Twips& place, void (F::*change)()) : TextBox(form, name, place) {
-        change_ = Bind(form, change);
-    }
+    struct Events {
+        void (F::*Change)() = nullptr; ///< the text has changed
+    };
+
+    template <class F>
+    TextBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<Events<F>> events = {},
+            Kind kind = Kind::Plain)
+        : TextBox(form, name, place, Action{form, events.Change}, kind) {}
 
     void SelectAll();
 
 private:
-    TextBox(Form* form, const wchar_t* name, const Twips& place, Kind kind, Frame* container);
+    TextBox(Form* form, const wchar_t* name, const Placement& place, const Action& change, Kind kind);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
 

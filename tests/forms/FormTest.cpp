@@ -19,9 +19,9 @@ public:
     int ThrowingLine = 0;
 
     Label Label1{this, L"Label1", {120, 120, 2700, 255}};
-    CommandButton cmdOK{this, L"cmdOK", {120, 600, 900, 345}, &frmSample::cmdOK_Click, Default};
-    CommandButton cmdFail{this, L"cmdFail", {1080, 600, 900, 345}, &frmSample::cmdFail_Click};
-    CommandButton cmdCancel{this, L"cmdCancel", {2040, 600, 900, 345}, &frmSample::cmdCancel_Click, Cancel};
+    CommandButton cmdOK{this, L"cmdOK", {120, 600, 900, 345}, {.Click = &frmSample::cmdOK_Click}, Default};
+    CommandButton cmdFail{this, L"cmdFail", {1080, 600, 900, 345}, {.Click = &frmSample::cmdFail_Click}};
+    CommandButton cmdCancel{this, L"cmdCancel", {2040, 600, 900, 345}, {.Click = &frmSample::cmdCancel_Click}, Cancel};
 
 private:
     void cmdOK_Click() { ++Pressed; }

@@ -1,4 +1,4 @@
-#include "integration/clsToolbarIcon.h"
+#include "opening/clsToolbarIcon.h"
 
 #include "support/Application.h"
 #include "support/Text.h"

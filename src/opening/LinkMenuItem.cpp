@@ -1,7 +1,5 @@
-#include "app/LinkMenuItem.h"
+#include "opening/LinkMenuItem.h"
 
-#include "i18n/Caption.h"
-#include "i18n/modLangues.h"
 #include "support/Text.h"
 #include "support/Vendor.h"
 #include "win32/AnsiText.h"
@@ -27,13 +25,13 @@ private:
     std::array<wchar_t, 32768> before_{}; // the longest path Windows knows
 };
 
-std::string LinkLine() {
-    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", Caption::Plain(LangText[Caption::VendorAddOns]), L"\r\n"}));
+std::string LinkLine(const std::wstring& title) {
+    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", title, L" "}));
 }
 
 } // namespace
 
-void Create_LinkMenuItem(const std::wstring& actProgram) {
+void Create_LinkMenuItem(const std::wstring& actProgram, const std::wstring& title) {
     const size_t slash = actProgram.rfind(L'\\');
     if (slash == std::wstring::npos) return;
     const CurrentFolder restored;
@@ -41,7 +39,7 @@ void Create_LinkMenuItem(const std::wstring& actProgram) {
     const FileHandle file(
         CreateFileW(kLinkFile, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file) return;
-    const std::string line = LinkLine();
+    const std::string line = LinkLine(title);
     DWORD written = 0;
     WriteFile(file.Get(), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
 }
