@@ -3,9 +3,7 @@
 #include "support/Text.h"
 
 void FindBox::Open() {
-    isOpen_ = true;
-    label_.Visible(true);
-    box_.Visible(true);
+    if (!isOpen_) Toggle();
     box_.SetFocus();
     box_.SelectAll();
 }
@@ -14,9 +12,16 @@ void FindBox::Close() {
     label_.Visible(false);
     box_.Visible(false);
     if (!isOpen_) return;
-    isOpen_ = false;
+    Toggle();
     box_.Text({});
     list_.ShowOnly({});
+}
+
+void FindBox::Toggle() {
+    isOpen_ = !isOpen_;
+    SendMessageW(GetParent(list_.Handle()), WM_SIZE, SIZE_RESTORED, 0);
+    label_.Visible(isOpen_);
+    box_.Visible(isOpen_);
 }
 
 void FindBox::Narrow() {

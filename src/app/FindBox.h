@@ -12,6 +12,7 @@ public:
     FindBox(Label& label, TextBox& box, ListView& list) : label_(label), box_(box), list_(list) {}
 
     bool IsOpen() const { return isOpen_; }
+    /// Both have the form laid out anew when something changes.
     void Open();
     void Close();
     /// Shows the rows that have the text in one of their cells; all of them while it is empty.
@@ -20,6 +21,8 @@ public:
     bool TakesKey(int key) const;
 
 private:
+    void Toggle();
+
     Label& label_;
     TextBox& box_;
     ListView& list_;

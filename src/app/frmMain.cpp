@@ -31,32 +31,25 @@ constexpr int kDesignHeight = 5190;
 } // namespace
 
 frmMain::frmMain()
-    : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), table_(ListView1, find_, kFileMessages),
-      startup_(*this, [this] { ActEvent1_OnActUserWantsToClose(); }) {}
-
-std::array<Twips, frmMain::ViewCount> frmMain::OptionPlaces() {
-    return Grid<ViewCount>({180, 255, 210, 210}, 4, 3120, 255);
-}
-
-std::array<Twips, frmMain::ViewCount> frmMain::LabelPlaces() {
-    return Grid<ViewCount>({450, 255, 2700, 225}, 4, 3120, 255);
-}
+    : Form({L"frmMain", kDesignWidth, kDesignHeight, Border::Sizable}), MainMenu(this),
+      table_(ListView1, find_, kFileMessages), startup_(*this, [this] { ActEvent1_OnActUserWantsToClose(); }) {}
 
 void frmMain::Form_Load() { Furnish(true); }
 
 void frmMain::Furnish(bool isStart) {
-    const std::function<void()> steps[] = {[this] { startup_.CreateSettingsFile(); },
-                                           [&] { RestoreSize(isStart); },
-                                           [this] { SetCaptions(); },
-                                           [this] { table_.RestoreColumns(); },
-                                           [this] { startup_.CompleteFirstRun(); },
-                                           [this] { startup_.RecordActDefaults(); },
-                                           [&] {
-                                               if (isStart) table_.Reload();
-                                           }};
+    using Step = void (*)(frmMain & main, bool isStart);
+    constexpr Step kSteps[] = {[](frmMain& main, bool) { main.startup_.CreateSettingsFile(); },
+                               [](frmMain& main, bool start) { main.RestoreSize(start); },
+                               [](frmMain& main, bool) { main.SetCaptions(); },
+                               [](frmMain& main, bool) { main.table_.RestoreColumns(); },
+                               [](frmMain& main, bool) { main.startup_.CompleteFirstRun(); },
+                               [](frmMain& main, bool) { main.startup_.RecordActDefaults(); },
+                               [](frmMain& main, bool start) {
+                                   if (start) main.table_.Reload();
+                               }};
     bool isReported = false;
-    for (const auto& step : steps) try {
-            step();
+    for (const Step step : kSteps) try {
+            step(*this, isStart);
         } catch (...) {
             // The window stays usable, so that for example the settings file's place can be mended. What fails
             // further on has the same cause and is not reported again.
@@ -69,7 +62,7 @@ void frmMain::Furnish(bool isStart) {
 }
 
 void frmMain::RestoreSize(bool isStart) {
-    if (!find_.IsOpen()) CloseFind();
+    if (!find_.IsOpen()) find_.Close();
     const auto width = Text::Measure(UserStore::Get(Keys::Settings, Keys::Width));
     const auto height = Text::Measure(UserStore::Get(Keys::Settings, Keys::Height));
     const Twips design = OuterSize();
@@ -130,22 +123,18 @@ void frmMain::Form_Resize() {
         return; // the new size comes back here
     }
     const Twips layout = LayoutSize();
-    LayOut(layout.Width, layout.Height);
-}
-
-void frmMain::LayOut(int width, int height) {
-    const int growth = height - kDesignHeight;
+    const int growth = layout.Height - kDesignHeight;
     const int inner = InnerSize().Width;
     const int find = find_.IsOpen() ? FindBox::Height : 0;
     Line1.Move({0, 0, inner, 15});
     Line2.Move({0, 15, inner, 15});
-    txtFind.Move({1080, 120, width - 2940, 315});
-    ListView1.Move({120, 120 + find, width - 1980, height - 2775 - find});
-    Frame1.Move({120, 2715 + growth, width - 1980, 1290});
-    cmdOpen.Move({width - 1375, 120, 1135, 345});
-    cmdCancel.Move({width - 1375, 570, 1135, 345});
-    lblMore.Move({width - 2375, 4140 + growth, 600, 255});
-    lblLink.Move({width - 1775, 4140 + growth, 1655, 255});
+    txtFind.Move({1080, 120, layout.Width - 2940, 315});
+    ListView1.Move({120, 120 + find, layout.Width - 1980, layout.Height - 2775 - find});
+    Frame1.Move({120, 2715 + growth, layout.Width - 1980, 1290});
+    cmdOpen.Move({layout.Width - 1375, 120, 1135, 345});
+    cmdCancel.Move({layout.Width - 1375, 570, 1135, 345});
+    lblMore.Move({layout.Width - 2375, 4140 + growth, 600, 255});
+    lblLink.Move({layout.Width - 1775, 4140 + growth, 1655, 255});
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
@@ -163,29 +152,9 @@ void frmMain::SetCaptions() {
         // Too narrow to be seen: for screen readers.
         optView[view].Text(caption);
     }
-    SetMenuCaptions();
-    table_.SetTitles();
-}
-
-void frmMain::SetMenuCaptions() {
-    mnuFile.Caption(LangText[Caption::File]);
-    mnuFileOpen.Caption(LangText[Caption::Open]);
-    mnuExit.Caption(LangText[Caption::Exit]);
-    mnuEdit.Caption(LangText[Caption::Edit]);
-    mnuEditProperties.Caption(Caption::WithDots(LangText[Caption::DatabaseProperties]));
-    mnuManageList.Caption(Caption::WithDots(LangText[Caption::ManageList]));
-    mnuOptions.Caption(LangText[Caption::Options]);
-    mnuSettingsLocation.Caption(Caption::WithDots(LangText[Caption::SettingsFileLocation]));
-    mnuLanguages.Caption(Caption::WithDots(LangText[Caption::LanguagesItem]));
-    mnuIntegrate.Caption(Caption::WithDots(LangText[Caption::Integrate]));
-    mnuQuickSwitch.Caption(L"QuickSwitch");
-    mnuHelp.Caption(LangText[Caption::Help]);
-    mnuManual.Caption(LangText[Caption::UsersManual]);
-    mnuOnline.Caption(LangText[Caption::OnlineHelp]);
-    mnuAbout.Caption(Caption::WithDots(LangText[Caption::AboutItem]));
-    mnuOpen.Caption(LangText[Caption::Open]);
-    mnuProperties.Caption(Caption::WithDots(LangText[Caption::DatabaseProperties]));
+    MainMenu::SetCaptions();
     DrawMenuBar(Handle());
+    table_.SetTitles();
 }
 
 bool frmMain::Form_KeyDown(const KeyPress& press) {
@@ -198,26 +167,14 @@ bool frmMain::Form_KeyDown(const KeyPress& press) {
     } else if (press == KeyPress{.Key = VK_F1}) {
         mnuManual_Click();
     } else if (press == KeyPress{.Key = 'F', .Ctrl = true}) {
-        OpenFind();
+        find_.Open();
     } else if (find_.IsOpen() && press == KeyPress{.Key = VK_ESCAPE}) {
-        CloseFind();
+        find_.Close();
         ListView1.SetFocus();
     } else {
         return press == KeyPress{.Key = press.Key} && find_.TakesKey(press.Key);
     }
     return true;
-}
-
-void frmMain::OpenFind() {
-    const bool wasOpen = find_.IsOpen();
-    find_.Open();
-    if (!wasOpen) Form_Resize();
-}
-
-void frmMain::CloseFind() {
-    const bool wasOpen = find_.IsOpen();
-    find_.Close();
-    if (wasOpen) Form_Resize();
 }
 
 void frmMain::LookForFiles() {
@@ -248,17 +205,10 @@ void frmMain::Form_Unload() {
     }
     Module1::Release_object(Program());
     startup_.ActEvent1.Close();
-    if (Program().RestartAct)
-        WaitForRestart(database);
-    else
-        PostQuitMessage(0);
-}
-
-void frmMain::WaitForRestart(const std::wstring& database) {
+    if (!Program().RestartAct) return PostQuitMessage(0);
     constexpr unsigned kTickMilliseconds = 1000;
     Hide();
     if (!database.empty()) OpenWithShell(database);
-    ticks_ = 0;
     Timer1.Interval(kTickMilliseconds);
 }
 

@@ -2,9 +2,9 @@
 
 #include "app/DatabaseTable.h"
 #include "app/FindBox.h"
+#include "app/MainMenu.h"
 #include "app/OpenDialogs.h"
 #include "app/Startup.h"
-#include "opening/OpenInAct.h"
 #include "program/MainWindow.h"
 #include "ui/Button.h"
 #include "ui/ControlArray.h"
@@ -12,16 +12,14 @@
 #include "ui/Frame.h"
 #include "ui/Label.h"
 #include "ui/ListView.h"
-#include "ui/Menu.h"
 #include "ui/TextBox.h"
 #include "ui/Timer.h"
 
-#include <array>
 #include <string>
 
 /// The main window: the list of databases, the choice of the view to open in, and the menus. It owns the run: its load
 /// is the program's start, its unload the program's end.
-class frmMain : public Form, public MainWindow {
+class frmMain : public Form, public MainMenu, public MainWindow {
 public:
     frmMain();
 
@@ -45,41 +43,23 @@ public:
                         .RightClick = &frmMain::ListView1_MouseDown,
                         .Tip = &frmMain::ListView1_Tip}};
     Frame Frame1{this, L"Frame1", {120, 2715, 6495, 1290}};
-    ControlArray<OptionButton, ViewCount> optView{
-        this, L"optView", In(Frame1, OptionPlaces()), {.Click = &frmMain::optView_Click}};
-    ControlArray<Label, ViewCount> lblView{
-        this, L"lblView", In(Frame1, LabelPlaces()), {.Click = &frmMain::lblView_Click}};
+    ControlArray<OptionButton, ViewCount> optView{this,
+                                                  L"optView",
+                                                  In(Frame1, Grid<ViewCount>({180, 255, 210, 210}, 4, 3120, 255)),
+                                                  {.Click = &frmMain::optView_Click}};
+    ControlArray<Label, ViewCount> lblView{this,
+                                           L"lblView",
+                                           In(Frame1, Grid<ViewCount>({450, 255, 2700, 225}, 4, 3120, 255)),
+                                           {.Click = &frmMain::lblView_Click}};
     CommandButton cmdOpen{this, L"cmdOpen", {7100, 120, 1135, 345}, {.Click = &frmMain::cmdOpen_Click}, Default};
     CommandButton cmdCancel{this, L"cmdCancel", {7100, 570, 1135, 345}, {.Click = &frmMain::cmdCancel_Click}, Cancel};
     Label lblMore{this, L"lblMore", {6100, 4140, 600, 255}};
     LinkLabel lblLink{this, L"lblLink", {6700, 4140, 1655, 255}, {.Click = &frmMain::lblLink_Click}};
-
-    Menu mnuFile{this, L"mnuFile"};
-    MenuItem mnuFileOpen{this, mnuFile, L"mnuFileOpen", {.Click = &frmMain::mnuFileOpen_Click}};
-    MenuSeparator mnuSep1{mnuFile};
-    MenuItem mnuExit{this, mnuFile, L"mnuExit", {.Click = &frmMain::mnuExit_Click}};
-    Menu mnuEdit{this, L"mnuEdit"};
-    MenuItem mnuEditProperties{this, mnuEdit, L"mnuEditProperties", {.Click = &frmMain::mnuEditProperties_Click}};
-    MenuItem mnuManageList{this, mnuEdit, L"mnuManageList", {.Click = &frmMain::mnuManageList_Click}};
-    Menu mnuOptions{this, L"mnuOptions"};
-    MenuItem mnuSettingsLocation{
-        this, mnuOptions, L"mnuSettingsLocation", {.Click = &frmMain::mnuSettingsLocation_Click}};
-    MenuItem mnuLanguages{this, mnuOptions, L"mnuLanguages", {.Click = &frmMain::mnuLanguages_Click}};
-    MenuSeparator mnuSep2{mnuOptions};
-    MenuItem mnuIntegrate{this, mnuOptions, L"mnuIntegrate", {.Click = &frmMain::mnuIntegrate_Click}};
-    MenuItem mnuQuickSwitch{this, mnuOptions, L"mnuQuickSwitch", {.Click = &frmMain::mnuQuickSwitch_Click}};
-    Menu mnuHelp{this, L"mnuHelp"};
-    MenuItem mnuManual{this, mnuHelp, L"mnuManual", {.Click = &frmMain::mnuManual_Click}};
-    MenuItem mnuOnline{this, mnuHelp, L"mnuOnline", {.Click = &frmMain::mnuOnline_Click}};
-    MenuSeparator mnuSep3{mnuHelp};
-    MenuItem mnuAbout{this, mnuHelp, L"mnuAbout", {.Click = &frmMain::mnuAbout_Click}};
-    Menu mnuPopup{this, L"mnuPopup", Menu::Place::PopUp};
-    MenuItem mnuOpen{this, mnuPopup, L"mnuOpen", {.Click = &frmMain::mnuOpen_Click}};
-    MenuItem mnuProperties{this, mnuPopup, L"mnuProperties", {.Click = &frmMain::mnuProperties_Click}};
     Timer Timer1{this, L"Timer1", {.Timer = &frmMain::Timer1_Timer}};
     Timer tmrLeaveDialogs{this, L"tmrLeaveDialogs", {.Timer = &frmMain::tmrLeaveDialogs_Timer}};
 
 private:
+    friend struct MainMenu; // binds the commands
     bool Form_Initialize() override { return startup_.Connect(); }
     void Form_Load() override;
     void Form_Resize() override;
@@ -114,25 +94,16 @@ private:
     void mnuOnline_Click();
     void mnuAbout_Click();
 
-    static std::array<Twips, ViewCount> OptionPlaces();
-    static std::array<Twips, ViewCount> LabelPlaces();
     void Furnish(bool isStart);
     void RestoreSize(bool isStart);
     void ShowFirstWindow();
     void SetCaptions();
-    void SetMenuCaptions();
     void SaveLayout();
-    void LayOut(int width, int height);
     void LookForFiles();
-    void OpenFind();
-    void CloseFind();
     void ShowDialog(Form& dialog);
     void EndIfInvisible();
     void EndSession();
-    void WaitForRestart(const std::wstring& database);
     bool OpenFromList(const std::wstring& name, short viewCode, bool mainHidden);
-    void TellFailure(OpenInAct::Outcome outcome);
-    short CheckedView() const;
 
     FindBox find_{lblFind, txtFind, ListView1};
     DatabaseTable table_;

@@ -11,6 +11,7 @@
 #include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "integration/frmIntegrateNew.h"
+#include "opening/OpenInAct.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
 #include "quickswitch/frmQuickSwitch.h"
@@ -25,6 +26,28 @@
 #include "support/modFolderFileExists.h"
 
 #include <array>
+
+namespace {
+
+void Tell(OpenInAct::Outcome outcome) {
+    if (outcome == OpenInAct::Outcome::MacroRefused)
+        MsgBox(Text::Concat({L"Macro cannot be executed by ", Application::Title, L"."}), MsgIcon::None,
+               L"Invalid Macro File");
+    else if (outcome == OpenInAct::Outcome::NotSelected)
+        MsgBox(LangText[Caption::SelectFirst] + L"\r\n\r\n" + LangText[Caption::EmptyListHint], MsgIcon::None,
+               LangText[Caption::NoDatabaseSelected].c_str());
+    else if (outcome == OpenInAct::Outcome::NotAccessible)
+        MsgBox(LangText[Caption::NotAccessible]);
+}
+
+/// The code of the view that is chosen.
+short CheckedView(const frmMain& window) {
+    for (std::size_t view = 0; view < frmMain::ViewCount; ++view)
+        if (window.optView[view].Value()) return static_cast<short>(view);
+    return 0;
+}
+
+} // namespace
 
 void frmMain::Open_DB(const std::wstring& name, short viewCode, bool mainHidden) {
     if (Program().StartActMode) {
@@ -57,37 +80,21 @@ bool frmMain::OpenFromList(const std::wstring& name, short viewCode, bool mainHi
     if (!mainHidden) Hide();
     const OpenInAct opening(Program(), *stored, name);
     const OpenInAct::Outcome outcome = opening.Run(viewCode);
-    if (outcome == OpenInAct::Outcome::MacroRefused)
-        MsgBox(Text::Concat({L"Macro cannot be executed by ", Application::Title, L"."}), MsgIcon::None,
-               L"Invalid Macro File");
-    if (outcome == OpenInAct::Outcome::Opened || outcome == OpenInAct::Outcome::MacroRefused) return true;
-    TellFailure(outcome);
-    opening.PutDefaultsBack();
-    return false;
-}
-
-void frmMain::TellFailure(OpenInAct::Outcome outcome) {
-    if (!Program().ActIsClosing) Show();
-    if (outcome == OpenInAct::Outcome::NotSelected)
-        MsgBox(LangText[Caption::SelectFirst] + L"\r\n\r\n" + LangText[Caption::EmptyListHint], MsgIcon::None,
-               LangText[Caption::NoDatabaseSelected].c_str());
-    else
-        MsgBox(LangText[Caption::NotAccessible]);
+    const bool isOpen = outcome == OpenInAct::Outcome::Opened || outcome == OpenInAct::Outcome::MacroRefused;
+    if (!isOpen && !Program().ActIsClosing) Show();
+    Tell(outcome);
+    if (isOpen) return true;
     ToFront();
     ListView1.SetFocus();
-}
-
-short frmMain::CheckedView() const {
-    for (std::size_t view = 0; view < ViewCount; ++view)
-        if (optView[view].Value()) return static_cast<short>(view);
-    return 0;
+    opening.PutDefaultsBack();
+    return false;
 }
 
 void frmMain::SelectedIndex(int index) { UserStore::Set(Keys::Display, Keys::Selected, Text::FromNumber(index)); }
 
 void frmMain::ReplaceRow(const std::wstring& name, const DatabaseRecord& record) { table_.Replace(name, record); }
 
-void frmMain::cmdOpen_Click() { Open_DB(table_.SelectedName(), CheckedView(), false); }
+void frmMain::cmdOpen_Click() { Open_DB(table_.SelectedName(), CheckedView(*this), false); }
 
 void frmMain::lblView_Click(int index) {
     for (OptionButton& option : optView) option.Value(option.Index() == index);

@@ -13,16 +13,16 @@ public:
     template <class F>
     CommandButton(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events,
                   ButtonRole role = ButtonRole::Plain)
-        : CommandButton(form, name, place, 0, events.ClickOf(form), role) {}
+        : CommandButton(form, name, place, Action::Plain(events), role) {}
     /// One of several with the same name.
     template <class F>
     CommandButton(F* form, const wchar_t* name, const Placement& place,
                   std::type_identity_t<IndexedClickEvents<F>> events)
-        : CommandButton(form, name, place, events.Index, events.ClickOf(form), ButtonRole::Plain) {}
+        : CommandButton(form, name, place, Action::Indexed(events), events.Index) {}
 
 private:
-    CommandButton(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click,
-                  ButtonRole role);
+    CommandButton(Form* form, const wchar_t* name, const Placement& place, Action::Plain click, ButtonRole role);
+    CommandButton(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index);
     int Identifier(int ordinal) const override;
     void OnCommand(WORD notification) override;
 
@@ -38,17 +38,18 @@ public:
 
     template <class F>
     CheckBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events = {})
-        : CheckBox(form, name, place, 0, events.ClickOf(form)) {}
+        : CheckBox(form, name, place, Action::Plain(events)) {}
     template <class F>
     CheckBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<IndexedClickEvents<F>> events)
-        : CheckBox(form, name, place, events.Index, events.ClickOf(form)) {}
+        : CheckBox(form, name, place, Action::Indexed(events), events.Index) {}
 
     bool Value() const;
     /// Checks or unchecks and, when that changes it, runs the handler as a click does.
     void Value(bool checked);
 
 private:
-    CheckBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
+    CheckBox(Form* form, const wchar_t* name, const Placement& place, Action::Plain click);
+    CheckBox(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index);
     void OnCommand(WORD notification) override;
 
     Action click_;
@@ -63,14 +64,14 @@ public:
     template <class F>
     OptionButton(F* form, const wchar_t* name, const Placement& place,
                  std::type_identity_t<IndexedClickEvents<F>> events)
-        : OptionButton(form, name, place, events.Index, events.ClickOf(form)) {}
+        : OptionButton(form, name, place, Action::Indexed(events), events.Index) {}
 
     bool Value() const;
     /// Checks or unchecks without running a handler and without touching the others of the group.
     void Value(bool checked);
 
 private:
-    OptionButton(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
+    OptionButton(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index);
     void OnCommand(WORD notification) override;
 
     Action click_;

@@ -1,8 +1,16 @@
 #include "ui/ComboBox.h"
 
-ComboBox::ComboBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click)
-    : Control(form, name, place, {L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP}, index),
-      click_(click) {}
+namespace {
+
+constexpr ControlKind kKind{L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP};
+
+} // namespace
+
+ComboBox::ComboBox(Form* form, const wchar_t* name, const Placement& place, Action::Plain click)
+    : Control(form, name, place, kKind), click_(form, click) {}
+
+ComboBox::ComboBox(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index)
+    : Control(form, name, place, kKind, index), click_(form, click, index) {}
 
 void ComboBox::AddItem(const std::wstring& text) {
     SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));

@@ -13,10 +13,10 @@ public:
     /// A click is a choice by the user.
     template <class F>
     ComboBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events = {})
-        : ComboBox(form, name, place, 0, events.ClickOf(form)) {}
+        : ComboBox(form, name, place, Action::Plain(events)) {}
     template <class F>
     ComboBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<IndexedClickEvents<F>> events)
-        : ComboBox(form, name, place, events.Index, events.ClickOf(form)) {}
+        : ComboBox(form, name, place, Action::Indexed(events), events.Index) {}
 
     void AddItem(const std::wstring& text);
     /// The selected entry, from 0; -1 for none.
@@ -28,7 +28,8 @@ public:
     std::wstring SelectedText() const;
 
 private:
-    ComboBox(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
+    ComboBox(Form* form, const wchar_t* name, const Placement& place, Action::Plain click);
+    ComboBox(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index);
     Twips WindowPlace() const override;
     void OnCommand(WORD notification) override;
     std::wstring Item(int index) const;

@@ -4,7 +4,7 @@
 
 #include <array>
 #include <cstddef>
-#include <utility>
+#include <optional>
 
 /// Places of equal size in columns from the first place on, filled from above; all in twips.
 template <std::size_t N>
@@ -36,24 +36,34 @@ template <class T, std::size_t N>
 class ControlArray {
 public:
     template <class F>
-    ControlArray(F* form, const wchar_t* name, const Places<N>& places, typename T::template Indexed<F> events = {})
-        : ControlArray(form, name, places, events, std::make_index_sequence<N>()) {}
-
-    T& operator[](std::size_t index) { return controls_.at(index); }
-    const T& operator[](std::size_t index) const { return controls_.at(index); }
-    auto begin() { return controls_.begin(); }
-    auto end() { return controls_.end(); }
-
-private:
-    template <class F, std::size_t... Index>
-    ControlArray(F* form, const wchar_t* name, const Places<N>& places, const typename T::template Indexed<F>& events,
-                 std::index_sequence<Index...>)
-        : controls_{T{form, name, {places.All[Index], places.Container}, At(events, static_cast<int>(Index))}...} {}
-    template <class Events>
-    static Events At(Events events, int index) {
-        events.Index += index;
-        return events;
+    ControlArray(F* form, const wchar_t* name, const Places<N>& places, typename T::template Indexed<F> events = {}) {
+        for (std::size_t index = 0; index < N; ++index, ++events.Index)
+            controls_[index].emplace(form, name, Placement{places.All[index], places.Container}, events);
     }
 
-    std::array<T, N> controls_;
+    T& operator[](std::size_t index) { return controls_.at(index).value(); }
+    const T& operator[](std::size_t index) const { return controls_.at(index).value(); }
+    auto begin() { return Iterator<std::optional<T>*>{controls_.data()}; }
+    auto end() { return Iterator<std::optional<T>*>{controls_.data() + N}; }
+    auto begin() const { return Iterator<const std::optional<T>*>{controls_.data()}; }
+    auto end() const { return Iterator<const std::optional<T>*>{controls_.data() + N}; }
+
+private:
+    template <class Pointer>
+    struct Iterator {
+        using value_type = T;
+        using difference_type = std::ptrdiff_t;
+
+        Pointer At;
+
+        auto& operator*() const { return **At; }
+        Iterator& operator++() {
+            ++At;
+            return *this;
+        }
+        Iterator operator++(int) { return {At++}; }
+        bool operator==(const Iterator&) const = default;
+    };
+
+    std::array<std::optional<T>, N> controls_; // made one after another; they cannot be moved
 };

@@ -5,20 +5,17 @@ class Form;
 /// A handler of a form: a member function without arguments, or one that gets a fixed index. An empty one does nothing.
 class Action {
 public:
+    using Plain = void (Form::*)();
+    using Indexed = void (Form::*)(int);
+
     Action() = default;
-    template <class F>
-    Action(F* form, void (F::*handler)()) : form_(form), plain_(static_cast<Plain>(handler)) {}
-    template <class F>
-    Action(F* form, void (F::*handler)(int), int index)
-        : form_(form), indexed_(static_cast<Indexed>(handler)), index_(index) {}
+    Action(Form* form, Plain handler) : form_(form), plain_(handler) {}
+    Action(Form* form, Indexed handler, int index) : form_(form), indexed_(handler), index_(index) {}
 
     explicit operator bool() const { return plain_ != nullptr || indexed_ != nullptr; }
     void operator()() const;
 
 private:
-    using Plain = void (Form::*)();
-    using Indexed = void (Form::*)(int);
-
     Form* form_ = nullptr;
     Plain plain_ = nullptr;
     Indexed indexed_ = nullptr;
@@ -48,7 +45,7 @@ template <class F>
 struct ClickEvents {
     void (F::*Click)() = nullptr;
 
-    Action ClickOf(F* form) const { return {form, Click}; }
+    operator Action::Plain() const { return static_cast<Action::Plain>(Click); }
 };
 
 /// The same for one of several controls with one name and handler, which gets the index.
@@ -57,5 +54,5 @@ struct IndexedClickEvents {
     int Index = 0;
     void (F::*Click)(int index) = nullptr;
 
-    Action ClickOf(F* form) const { return {form, Click, Index}; }
+    operator Action::Indexed() const { return static_cast<Action::Indexed>(Click); }
 };

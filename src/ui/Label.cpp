@@ -3,9 +3,17 @@
 #include <cstdlib>
 #include <utility>
 
-Label::Label(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click)
-    : Control(form, name, place, {L"Static", static_cast<DWORD>(click ? SS_LEFT | SS_NOTIFY : SS_LEFT)}, index),
-      click_(click) {}
+namespace {
+
+ControlKind KindOf(bool isClicked) { return {L"Static", isClicked ? DWORD{SS_LEFT | SS_NOTIFY} : DWORD{SS_LEFT}}; }
+
+} // namespace
+
+Label::Label(Form* form, const wchar_t* name, const Placement& place, Action::Plain click)
+    : Control(form, name, place, KindOf(click != nullptr)), click_(form, click) {}
+
+Label::Label(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index)
+    : Control(form, name, place, KindOf(click != nullptr), index), click_(form, click, index) {}
 
 void Label::OnCommand(WORD notification) {
     // The second click of a double click is one too: two quick clicks on a label are two clicks.

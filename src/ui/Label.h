@@ -11,13 +11,14 @@ public:
 
     template <class F>
     Label(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ClickEvents<F>> events = {})
-        : Label(form, name, place, 0, events.ClickOf(form)) {}
+        : Label(form, name, place, Action::Plain(events)) {}
     template <class F>
     Label(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<IndexedClickEvents<F>> events)
-        : Label(form, name, place, events.Index, events.ClickOf(form)) {}
+        : Label(form, name, place, Action::Indexed(events), events.Index) {}
 
 private:
-    Label(Form* form, const wchar_t* name, const Placement& place, int index, const Action& click);
+    Label(Form* form, const wchar_t* name, const Placement& place, Action::Plain click);
+    Label(Form* form, const wchar_t* name, const Placement& place, Action::Indexed click, int index);
     void OnCommand(WORD notification) override;
 
     Action click_;

@@ -19,7 +19,7 @@ public:
     template <class F>
     ListBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ListBoxEvents<F>> events)
         : ListBox(static_cast<Form*>(form), name, place) {
-        click_ = {form, events.Click};
+        click_ = {form, static_cast<Action::Plain>(events.Click)};
         rightClick_ = {form, events.RightClick};
         drop_ = {form, events.Drop};
     }

@@ -25,9 +25,9 @@ public:
     template <class F>
     ListView(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<ListViewEvents<F>> events = {})
         : ListView(static_cast<Form*>(form), name, place) {
-        dblClick_ = {form, events.DblClick};
+        dblClick_ = {form, static_cast<Action::Plain>(events.DblClick)};
         columnClick_ = {form, events.ColumnClick};
-        rightClick_ = {form, events.RightClick};
+        rightClick_ = {form, static_cast<Action::Plain>(events.RightClick)};
         tip_ = {form, events.Tip};
     }
 

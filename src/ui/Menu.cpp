@@ -37,8 +37,8 @@ void Menu::PopUp(POINT position, UINT flags) {
     TrackPopupMenu(menu_, flags, position.x, position.y, 0, form_->Handle(), nullptr);
 }
 
-MenuItem::MenuItem(Form* form, Menu& menu, const wchar_t* name, const Action& click)
-    : form_(form), menu_(&menu), name_(name), click_(click), identifier_(form->Register(*this)) {
+MenuItem::MenuItem(Form* form, Menu& menu, const wchar_t* name, Action::Plain click)
+    : form_(form), menu_(&menu), name_(name), click_(form, click), identifier_(form->Register(*this)) {
     AppendMenuW(menu.menu_, MF_STRING, static_cast<UINT_PTR>(identifier_), name);
 }
 

@@ -41,7 +41,7 @@ class MenuItem {
 public:
     template <class F>
     MenuItem(F* form, Menu& menu, const wchar_t* name, std::type_identity_t<ClickEvents<F>> events)
-        : MenuItem(form, menu, name, events.ClickOf(form)) {}
+        : MenuItem(form, menu, name, Action::Plain(events)) {}
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 
@@ -54,7 +54,7 @@ public:
     void Click() const;
 
 private:
-    MenuItem(Form* form, Menu& menu, const wchar_t* name, const Action& click);
+    MenuItem(Form* form, Menu& menu, const wchar_t* name, Action::Plain click);
 
     Form* form_;
     Menu* menu_;

@@ -6,15 +6,17 @@
 
 namespace {
 
-ControlKind KindOf(bool hasKeys, bool isClicked) {
-    if (hasKeys) return {L"Button", BS_OWNERDRAW | WS_TABSTOP};
-    return {L"Static", SS_OWNERDRAW | (isClicked ? SS_NOTIFY : 0UL)};
+ControlKind KindOf(const PictureBoxEvents<Form>& events) {
+    if (events.KeyDown) return {L"Button", BS_OWNERDRAW | WS_TABSTOP};
+    return {L"Static", SS_OWNERDRAW | (events.Click ? SS_NOTIFY : 0UL)};
 }
 
 } // namespace
 
-PictureBox::PictureBox(Form* form, const wchar_t* name, const Placement& place, int index, bool hasKeys, bool isClicked)
-    : Control(form, name, place, KindOf(hasKeys, isClicked), index) {}
+PictureBox::PictureBox(Form* form, const wchar_t* name, const Placement& place, const PictureBoxEvents<Form>& events)
+    : Control(form, name, place, KindOf(events), events.Index),
+      number_(events.Number != 0 ? events.Number : events.Index), draw_(form, events.Draw),
+      click_(form, events.Click, number_), hover_(form, events.Hover), keyDown_(form, events.KeyDown) {}
 
 void PictureBox::Refresh() {
     InvalidateRect(Handle(), nullptr, FALSE);

@@ -25,13 +25,11 @@ public:
 
     template <class F>
     PictureBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<PictureBoxEvents<F>> events)
-        : PictureBox(form, name, place, events.Index, events.KeyDown != nullptr, events.Click != nullptr) {
-        number_ = events.Number != 0 ? events.Number : events.Index;
-        draw_ = {form, events.Draw};
-        click_ = {form, events.Click, number_};
-        hover_ = {form, events.Hover};
-        keyDown_ = {form, events.KeyDown};
-    }
+        : PictureBox(form, name, place,
+                     PictureBoxEvents<Form>{events.Index, events.Number, static_cast<Drawing>(events.Draw),
+                                            static_cast<Action::Indexed>(events.Click),
+                                            static_cast<Hovering>(events.Hover), static_cast<Keys>(events.KeyDown)}) {}
+    PictureBox(Form* form, const wchar_t* name, const Placement& place, const PictureBoxEvents<Form>& events);
 
     void Refresh();
     /// Takes the pointer for gone, until it moves over the box again.
@@ -40,7 +38,10 @@ public:
     void Press() const { Raise(L"Click", click_); }
 
 private:
-    PictureBox(Form* form, const wchar_t* name, const Placement& place, int index, bool hasKeys, bool isClicked);
+    using Drawing = void (Form::*)(int, HDC, const RECT&, bool);
+    using Hovering = void (Form::*)(int, bool);
+    using Keys = bool (Form::*)(int, int);
+
     void OnCreated() override;
     void OnCommand(WORD notification) override;
     void OnDraw(const DRAWITEMSTRUCT& draw) override;
@@ -49,7 +50,7 @@ private:
     void OnMouseMove();
     void Hover(bool isOver);
 
-    int number_ = 0;
+    int number_;
     Handler<void, int, HDC, const RECT&, bool> draw_;
     Action click_;
     Handler<void, int, bool> hover_;

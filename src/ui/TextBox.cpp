@@ -13,9 +13,9 @@ DWORD StyleOf(TextBox::Kind kind) {
 
 } // namespace
 
-TextBox::TextBox(Form* form, const wchar_t* name, const Placement& place, const Action& change, Kind kind)
+TextBox::TextBox(Form* form, const wchar_t* name, const Placement& place, Kind kind, Action::Plain change)
     : Control(form, name, place, {L"Edit", StyleOf(kind), kind == Kind::Notice ? DWORD{0} : WS_EX_CLIENTEDGE}),
-      change_(change) {}
+      change_(form, change) {}
 
 void TextBox::OnCreated() {
     // The longest line that a settings file can hold.

@@ -15,12 +15,12 @@ public:
     template <class F>
     TextBox(F* form, const wchar_t* name, const Placement& place, std::type_identity_t<Events<F>> events = {},
             Kind kind = Kind::Plain)
-        : TextBox(form, name, place, Action{form, events.Change}, kind) {}
+        : TextBox(form, name, place, kind, static_cast<Action::Plain>(events.Change)) {}
 
     void SelectAll();
 
 private:
-    TextBox(Form* form, const wchar_t* name, const Placement& place, const Action& change, Kind kind);
+    TextBox(Form* form, const wchar_t* name, const Placement& place, Kind kind, Action::Plain change);
     void OnCreated() override;
     void OnCommand(WORD notification) override;
 

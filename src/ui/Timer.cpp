@@ -3,8 +3,8 @@
 #include "ui/Form.h"
 #include "ui/Guard.h"
 
-Timer::Timer(Form* form, const wchar_t* name, const Action& timer)
-    : form_(form), name_(name), timer_(timer), identifier_(form->Register(*this)) {}
+Timer::Timer(Form* form, const wchar_t* name, Action::Plain timer)
+    : form_(form), name_(name), timer_(form, timer), identifier_(form->Register(*this)) {}
 
 void Timer::Interval(unsigned milliseconds) {
     const auto identifier = static_cast<UINT_PTR>(identifier_);

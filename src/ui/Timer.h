@@ -16,7 +16,7 @@ public:
 
     template <class F>
     Timer(F* form, const wchar_t* name, std::type_identity_t<Events<F>> events)
-        : Timer(form, name, Action{form, events.Timer}) {}
+        : Timer(form, name, static_cast<Action::Plain>(events.Timer)) {}
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
@@ -26,7 +26,7 @@ public:
     void Tick() const;
 
 private:
-    Timer(Form* form, const wchar_t* name, const Action& timer);
+    Timer(Form* form, const wchar_t* name, Action::Plain timer);
 
     Form* form_;
     const wchar_t* name_;
