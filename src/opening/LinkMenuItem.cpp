@@ -26,7 +26,7 @@ private:
 };
 
 std::string LinkLine(const std::wstring& title) {
-    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", title, L" "}));
+    return ToAnsi(Text::Concat({L"]", Vendor::Site, L" ", title, L"\r\n"}));
 }
 
 } // namespace

@@ -8,7 +8,9 @@
 /// What the windows share by name for as long as the process lives. The main window owns it: its start fills it, its
 /// end empties it, and the others change what is said of them here.
 struct ProgramState : ActConnection {
-    std::wstring DefaultDatabaseLocation;    ///< ACT!'s default folder for databases
+    /// ACT!'s default folder for databases as it was at the start. No window reads it: dialogs ask for that of the
+    /// moment.
+    std::wstring DefaultDatabaseLocation;
     std::wstring FriendlyName;               ///< the database being edited or opened
     std::vector<std::wstring> DatabaseNames; ///< the list, in the order of "Sort"
     std::wstring OpenDatabaseNames;          ///< the databases that ACT! has open, each as "|" + name + "|"
