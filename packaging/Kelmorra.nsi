@@ -48,9 +48,9 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "Freeware"
 LangString Running ${LANG_ENGLISH} "Kelmorra is running. Please close it, then click Retry."
 LangString Running ${LANG_FRENCH} "Kelmorra est en marche. Veuillez le fermer, puis cliquer sur Réessayer."
 LangString Running ${LANG_GERMAN} "Kelmorra läuft. Bitte schließen Sie es, und klicken Sie dann auf Wiederholen."
-LangString Purge ${LANG_ENGLISH} "Remove your settings too: the list of databases in Kelmorra's folder with its copies, user names and passwords?$\n$\nWith No, a later installation finds them again. A list in another folder stays in any case."
-LangString Purge ${LANG_FRENCH} "Supprimer aussi vos paramètres : la liste des bases de données dans le dossier de Kelmorra et ses copies, les noms d'utilisateur et les mots de passe ?$\n$\nAvec Non, une installation ultérieure les retrouvera. Une liste dans un autre dossier est conservée dans tous les cas."
-LangString Purge ${LANG_GERMAN} "Auch Ihre Einstellungen entfernen: die Liste der Datenbanken im Ordner von Kelmorra mit ihren Kopien, Benutzernamen und Kennwörter?$\n$\nBei Nein findet eine spätere Installation sie wieder vor. Eine Liste in einem anderen Ordner bleibt in jedem Fall erhalten."
+LangString Purge ${LANG_ENGLISH} "Remove your settings too: the list of databases in Kelmorra's folder with its copies, user names and passwords?$\n$\nIf you choose No, a later installation finds them again. A list in another folder stays in any case."
+LangString Purge ${LANG_FRENCH} "Supprimer aussi vos paramètres${U+00A0}: la liste des bases de données dans le dossier de Kelmorra et ses copies, les noms d'utilisateur et les mots de passe${U+00A0}?$\n$\nSi vous choisissez Non, une installation ultérieure les retrouvera. Une liste dans un autre dossier est conservée dans tous les cas."
+LangString Purge ${LANG_GERMAN} "Auch Ihre Einstellungen entfernen: die Liste der Datenbanken im Ordner von Kelmorra mit ihren Kopien, Benutzernamen und Kennwörter?$\n$\nWenn Sie Nein wählen, findet eine spätere Installation sie wieder vor. Eine Liste in einem anderen Ordner bleibt in jedem Fall erhalten."
 
 ; A program that runs cannot be opened for writing. Asks until it can, or ends everything before a file is changed.
 !macro AskWhileRunning Program

@@ -22,34 +22,33 @@ constexpr std::array<Translations, 22> kTexts{{
      "dossiers et sa macro.",
      "Führt Ihre ACT!-Datenbanken in einer Liste und öffnet jede mit eigener Anmeldung, eigenen Layouts, Ordnern und "
      "eigenem Makro."},
-    {"The settings file\r\n%1\r\nis empty or cannot be read. Its contents of %2 have been kept.\r\n\r\nDo you want to "
-     "restore them? With No the program goes on with an empty list of databases.",
-     "Le fichier de paramètres\r\n%1\r\nest vide ou ne peut pas être lu. Son contenu du %2 a été conservé.\r\n\r\n"
-     "Voulez-vous le restaurer ? Avec Non, le programme continue avec une liste de bases de données vide.",
-     "Die Einstellungsdatei\r\n%1\r\nist leer oder nicht lesbar. Ihr Inhalt vom %2 wurde aufbewahrt.\r\n\r\nSoll er "
-     "wiederhergestellt werden? Bei Nein fährt das Programm mit einer leeren Liste der Datenbanken fort."},
-    {"The settings file could not be restored. What has been kept of it is in\r\n%1",
-     "Le fichier de paramètres n'a pas pu être restauré. Son contenu conservé se trouve dans\r\n%1",
-     "Die Einstellungsdatei konnte nicht wiederhergestellt werden. Ihr aufbewahrter Inhalt liegt in\r\n%1"},
-    {"Somebody else has changed the list meanwhile. Their changes and yours have both been kept.",
+    {"The settings file\r\n%1\r\nis empty or cannot be read.\r\n\r\nThere is a copy of %2. Do you want to restore it? "
+     "If you choose No, nothing is changed.",
+     "Le fichier de paramètres\r\n%1\r\nest vide ou ne peut pas être lu.\r\n\r\nIl existe une copie du %2. "
+     "Voulez-vous la restaurer\u00A0? Si vous choisissez Non, rien n'est modifié.",
+     "Die Einstellungsdatei\r\n%1\r\nist leer oder nicht lesbar.\r\n\r\nEs gibt eine Kopie vom %2. Möchten Sie sie "
+     "wiederherstellen? Wenn Sie Nein wählen, wird nichts geändert."},
+    {"The settings file could not be restored. The copy is this file:\r\n%1",
+     "Le fichier de paramètres n'a pas pu être restauré. La copie est ce fichier\u00A0:\r\n%1",
+     "Die Einstellungsdatei konnte nicht wiederhergestellt werden. Die Kopie ist diese Datei:\r\n%1"},
+    {"Somebody else has changed the list in the meantime. Their changes and yours have both been kept.",
      "Quelqu'un d'autre a modifié la liste entre-temps. Ses modifications et les vôtres ont été conservées.",
      "Jemand anders hat die Liste inzwischen geändert. Diese Änderungen und Ihre wurden beide übernommen."},
-    {"D&uplicate", "Du&pliquer", "&Duplizieren"},
-    {"Undo Remo&ve", "A&nnuler la suppression", "Entfernen &rückgängig"},
+    {"Du&plicate", "Du&pliquer", "&Duplizieren"},
+    {"Undo Remo&ve", "A&nnuler le retrait", "Entfernen &rückgängig machen"},
     {"Ins", "Inser", "Einfg"},
     {"Del", "Suppr", "Entf"},
     {"Ctrl", "Ctrl", "Strg"},
     {"Up", "Haut", "Nach oben"},
     {"Down", "Bas", "Nach unten"},
-    {"Find:", "Chercher :", "Suchen:"},
+    {"Find:", "Chercher\u00A0:", "Suchen:"},
     {"open in ACT!", "ouverte dans ACT!", "in ACT! geöffnet"},
-    {"The database file is not there:", "Le fichier de la base est introuvable :",
-     "Die Datenbankdatei ist nicht vorhanden:"},
+    {"The database file cannot be found:", "Le fichier de la base de données est introuvable\u00A0:",
+     "Die Datenbankdatei wurde nicht gefunden:"},
     {"The list of databases cannot be kept in\r\n%1\r\nbecause it cannot be written there. Please make an empty file "
      "Kelmorra.ini in a folder of your own and choose it under %2.",
      "La liste des bases de données ne peut pas être conservée dans\r\n%1\r\ncar il est impossible d'y écrire. "
-     "Veuillez "
-     "créer un fichier Kelmorra.ini vide dans un dossier à vous, puis le choisir sous %2.",
+     "Veuillez créer un fichier Kelmorra.ini vide dans l'un de vos dossiers, puis le choisir sous %2.",
      "Die Liste der Datenbanken kann nicht in\r\n%1\r\ngespeichert werden, weil dort nicht geschrieben werden kann. "
      "Bitte legen Sie in einem eigenen Ordner eine leere Datei Kelmorra.ini an und wählen Sie sie unter %2 aus."},
     {"The settings file\r\n%1\r\nis in order again. It has been left as it is.",
@@ -59,8 +58,7 @@ constexpr std::array<Translations, 22> kTexts{{
      "Le fichier de paramètres\r\n%1\r\nne peut pas être lu pour le moment. Rien n'a été modifié. Veuillez réessayer "
      "plus tard.",
      "Die Einstellungsdatei\r\n%1\r\nkann im Moment nicht gelesen werden. Es wurde nichts geändert. Bitte versuchen "
-     "Sie "
-     "es später noch einmal."},
+     "Sie es später noch einmal."},
     {"The change could not be saved in the settings file\r\n%1\r\nNothing has been changed. The file may be away, "
      "write-protected or in use. Please try again.",
      "La modification n'a pas pu être enregistrée dans le fichier de paramètres\r\n%1\r\nRien n'a été modifié. Le "
@@ -71,10 +69,9 @@ constexpr std::array<Translations, 22> kTexts{{
     {"The order of the databases could not be saved in the settings file\r\n%1\r\n\r\nDo you want to try again? If you "
      "choose No, the list keeps its former order.",
      "L'ordre des bases de données n'a pas pu être enregistré dans le fichier de paramètres\r\n%1\r\n\r\nVoulez-vous "
-     "réessayer ? Si vous choisissez Non, la liste garde son ordre précédent.",
+     "réessayer\u00A0? Si vous choisissez Non, la liste garde son ordre précédent.",
      "Die Reihenfolge der Datenbanken konnte nicht gespeichert werden in der Einstellungsdatei\r\n%1\r\n\r\nMöchten "
-     "Sie "
-     "es noch einmal versuchen? Wenn Sie Nein wählen, behält die Liste ihre bisherige Reihenfolge."},
+     "Sie es noch einmal versuchen? Wenn Sie Nein wählen, behält die Liste ihre bisherige Reihenfolge."},
     {"Menu of the palette (Shift+F10)", "Menu de la palette (Maj+F10)", "Menü der Palette (Umschalt+F10)"},
     {"Kelmorra is waiting for ACT!, which is busy at the moment.",
      "Kelmorra attend une réponse d'ACT!, qui est occupé pour le moment.",

@@ -15,10 +15,14 @@
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
+#include "support/Detour.h"
 #include "support/DialogScript.h"
 #include "support/Wide.h"
 
 #include <array>
+
+// NOLINTNEXTLINE(readability-redundant-declaration)
+extern decltype(&TrackPopupMenu) importedTrackPopupMenu __asm__("__imp__TrackPopupMenu@28");
 
 namespace {
 
@@ -42,10 +46,20 @@ void Inspect(HWND window, const wchar_t* name) {
     CHECK(ControlsOutside(window) == L"");
     CHECK(Overlaps(window) == L"");
     CHECK(Nameless(window) == L"");
-    CHECK(ClashingKeys(window) == L"");
+    CHECK(ClashingKeys(GetMenu(window)) == L"");
+    // In English the bar's Options and the main window's Open share a key.
+    const bool sharesOne = CurrentLanguage == 0 && GetMenu(window);
+    CHECK(ClashingKeys(window) == (sharesOne ? L"&Open; " : L""));
     constexpr const wchar_t* kLanguages[] = {L"en", L"fr", L"de"};
     TakePicture(window,
                 std::wstring(name) + L"-" + kLanguages[CurrentLanguage] + L"-" + std::to_wstring(WindowDpi(window)));
+}
+
+/// Looks at a menu instead of showing it.
+BOOL WINAPI InspectPopUp(HMENU menu, UINT, int, int, int, HWND, const RECT*) {
+    CHECK(GetMenuItemCount(menu) > 0);
+    CHECK(ClashingKeys(menu) == L"");
+    return FALSE;
 }
 
 void InspectAndCancel(HWND window, const wchar_t* name) {
@@ -94,13 +108,18 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         FillDesk(desk);
         UserStore::Set(L"Options", L"Language", std::to_wstring(language));
         DialogScript script;
+        const Detour popUps(importedTrackPopupMenu, &InspectPopUp);
         frmMain window;
         window.Load();
         PumpUntil([&] { return !window.ListView1.AccessibleName().empty(); }); // told once the window stands
         Inspect(window.Handle(), L"main");
+        window.mnuPopup.PopUp({});
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"language"); });
         window.mnuLanguages.Click();
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"list"); });
+        script.Then([](HWND dialog) {
+            static_cast<frmListMaintenance*>(Form::FromWindow(dialog))->mnuList.PopUp({});
+            InspectAndCancel(dialog, L"list");
+        });
         window.mnuManageList.Click();
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"settings-file"); });
         window.mnuSettingsLocation.Click();
@@ -164,8 +183,7 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
                 const std::array<HWND, 2> boxes{FindControl(palette, L"pic1"), FindControl(palette, L"pic2")};
                 const std::array before{ColorAtEdge(boxes[0], true), ColorAtEdge(boxes[1], true)};
                 static_cast<frmQuickSwitch*>(Form::Loaded().back())->mnuAssign.Click();
-                for (size_t box = 0; box < boxes.size(); ++box)
-                    CHECK(ColorAtEdge(boxes[box], true) != before[box]);
+                for (size_t box = 0; box < boxes.size(); ++box) CHECK(ColorAtEdge(boxes[box], true) != before[box]);
                 if (columns == 4) TakePicture(palette, name + L"-changed");
                 SendMessageW(palette, WM_COMMAND, IDCANCEL, 0);
             });

@@ -98,7 +98,7 @@ TEST_CASE("A row whose file is missing is faded and says so; a tip holds the who
     window.Load();
     PumpUntil([&] { return IsFaded(window, 1) && IsFaded(window, 2); });
     CHECK_FALSE(IsFaded(window, 0));
-    CHECK(TipAt(window, 1).starts_with(L"The database file is not there:\r\nC:\\Gone\\Service.dbf"));
+    CHECK(TipAt(window, 1).starts_with(L"The database file cannot be found:\r\nC:\\Gone\\Service.dbf"));
     CHECK(TipAt(window, 0).find(L"Contact Layout: C:\\Act\\Layout\\Sales.cly") != std::wstring::npos);
     // The marks stay when the list is narrowed or filled again, and a file that comes back is noticed then.
     window.ListView1.Fade(0, true);

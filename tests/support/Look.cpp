@@ -142,6 +142,29 @@ std::wstring ServiceName(HWND control) {
     return text;
 }
 
+std::vector<std::wstring> CaptionsOf(HMENU menu) {
+    std::vector<std::wstring> captions;
+    for (int position = 0; position < GetMenuItemCount(menu); ++position) {
+        std::array<wchar_t, 128> caption{};
+        GetMenuStringW(menu, static_cast<UINT>(position), caption.data(), static_cast<int>(caption.size()),
+                       MF_BYPOSITION);
+        captions.emplace_back(caption.data());
+    }
+    return captions;
+}
+
+std::wstring ClashingKeys(const std::vector<std::wstring>& captions) {
+    std::wstring keys, found;
+    for (const std::wstring& text : captions) {
+        const size_t mark = text.find(L'&');
+        if (mark == std::wstring::npos || mark + 1 == text.size()) continue;
+        const wchar_t key = static_cast<wchar_t>(towlower(text[mark + 1]));
+        if (keys.find(key) != std::wstring::npos) found += text + L"; ";
+        keys += key;
+    }
+    return found;
+}
+
 } // namespace
 
 RECT PlaceOf(HWND control) {
@@ -194,16 +217,16 @@ std::wstring Nameless(HWND form) {
 }
 
 std::wstring ClashingKeys(HWND form) {
-    std::wstring keys, found;
-    for (HWND control : VisibleControls(form)) {
-        const std::wstring text = WindowText(control);
-        const bool hasNone = ClassOf(control) == L"Edit" || GetDlgCtrlID(control) == IDCANCEL;
-        const size_t mark = hasNone ? std::wstring::npos : text.find(L'&');
-        if (mark == std::wstring::npos || mark + 1 == text.size()) continue;
-        const wchar_t key = static_cast<wchar_t>(towlower(text[mark + 1]));
-        if (keys.find(key) != std::wstring::npos) found += text + L"; ";
-        keys += key;
-    }
+    std::vector<std::wstring> captions = CaptionsOf(GetMenu(form));
+    for (HWND control : VisibleControls(form))
+        if (ClassOf(control) != L"Edit" && GetDlgCtrlID(control) != IDCANCEL) captions.push_back(WindowText(control));
+    return ClashingKeys(captions);
+}
+
+std::wstring ClashingKeys(HMENU menu) {
+    std::wstring found = ClashingKeys(CaptionsOf(menu));
+    for (int position = 0; position < GetMenuItemCount(menu); ++position)
+        if (HMENU below = GetSubMenu(menu, position)) found += ClashingKeys(below);
     return found;
 }
 

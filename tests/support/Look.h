@@ -16,8 +16,11 @@ std::wstring Overlaps(HWND form);
 /// Visible controls that assistive tools have no name for. Where the system's own answer can be had, it must be ours.
 std::wstring Nameless(HWND form);
 
-/// Letters that are the access key of more than one visible control. A Cancel button has Esc.
+/// The captions of the menu bar and of visible controls whose access key an earlier one has. A Cancel button has Esc.
 std::wstring ClashingKeys(HWND form);
+
+/// The same of a menu's items, and of the menus below it, each for itself.
+std::wstring ClashingKeys(HMENU menu);
 
 /// Writes the window as it stands on the screen, with its frame, to a bitmap file of that name in the folder that the
 /// environment variable KELMORRA_PICTURES names. Does nothing when there is no such variable.
