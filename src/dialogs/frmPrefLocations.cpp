@@ -1,6 +1,7 @@
 #include "dialogs/frmPrefLocations.h"
 
 #include "i18n/Caption.h"
+#include "i18n/MoreText.h"
 #include "i18n/modLangues.h"
 #include "program/SettingsNotice.h"
 #include "support/MsgBox.h"
@@ -10,7 +11,7 @@
 
 namespace {
 
-constexpr int kTypeColumn = 2100; // twips
+constexpr int kTypeColumn = 2500; // twips
 
 } // namespace
 
@@ -29,7 +30,7 @@ void frmPrefLocations::Form_Load() {
     lvwPref.AccessibleName(LangText[Caption::EditLocations]);
     cmdOK.Text(LangText[Caption::OK]);
     cmdCancel.Text(LangText[Caption::Cancel]);
-    cmdEditlocation.Text(Caption::WithDots(LangText[Caption::Edit]));
+    cmdEditlocation.Text(Translated(MoreText::EditFolder));
     cmdClear.Text(L"Clear");
     lvwPref.AddColumn(LangText[Caption::FileType], kTypeColumn);
     lvwPref.AddColumn(LangText[Caption::Location], lvwPref.Place().Width - kTypeColumn - 120);

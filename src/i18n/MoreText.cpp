@@ -10,7 +10,7 @@ namespace {
 // UTF-8, like the numbered table: English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const char*, 3>;
 
-constexpr std::array<Translations, 22> kTexts{{
+constexpr std::array<Translations, 23> kTexts{{
     {"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      "file.",
      "La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -76,6 +76,7 @@ constexpr std::array<Translations, 22> kTexts{{
     {"Kelmorra is waiting for ACT!, which is busy at the moment.",
      "Kelmorra attend une réponse d'ACT!, qui est occupé pour le moment.",
      "Kelmorra wartet auf ACT!, das im Moment beschäftigt ist."},
+    {"Edit...", "Modifier...", "Bearbeiten..."},
 }};
 
 } // namespace

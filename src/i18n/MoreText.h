@@ -28,6 +28,7 @@ enum class MoreText {
     OrderNotSaved,
     PaletteMenu,
     WaitingForAct,
+    EditFolder,
 };
 
 /// A text in the current language.

@@ -77,7 +77,7 @@ TEST_CASE("In French a no-break space stands before every mark that has one, but
     for (const LangTextRow& row : LangTextTable)
         if (std::ranges::find(kFixed, row.Index) == kFixed.end()) texts.push_back(FromUtf8(row.French));
     modLangues::Init_Language(short{1});
-    const auto last = texts.size() + static_cast<size_t>(MoreText::WaitingForAct);
+    const auto last = texts.size() + static_cast<size_t>(MoreText::EditFolder);
     try {
         for (int text = 0;; ++text) texts.push_back(Translated(static_cast<MoreText>(text)));
     } catch (const Error&) {
