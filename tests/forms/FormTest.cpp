@@ -1,7 +1,6 @@
 // The form layer itself, on forms of the tests' own.
 
 #include "ui/Form.h"
-#include "support/Busy.h"
 #include "support/DialogScript.h"
 #include "support/Error.h"
 #include "support/Wide.h"
@@ -93,22 +92,4 @@ TEST_CASE("A modal form disables its owner and gives it back, enabled and active
     CHECK(wasDisabled);
     CHECK(IsWindowEnabled(owner.Handle()));
     CHECK(GetActiveWindow() == owner.Handle());
-}
-
-TEST_CASE("Commands are ignored while a call into ACT! runs") {
-    frmSample form;
-    form.Load();
-    const auto press = [&] {
-        SendMessageW(form.Handle(), WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED),
-                     reinterpret_cast<LPARAM>(form.cmdOK.Handle()));
-    };
-    {
-        const Busy busy;
-        press();
-        SendMessageW(form.Handle(), WM_CLOSE, 0, 0);
-    }
-    CHECK(form.Pressed == 0);
-    CHECK_FALSE(form.Cancelled);
-    press();
-    CHECK(form.Pressed == 1);
 }

@@ -94,8 +94,7 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         FillDesk(desk);
         UserStore::Set(L"Options", L"Language", std::to_wstring(language));
         DialogScript script;
-        frmMain window;
-        window.Load();
+        Main window;
         PumpUntil([&] { return !window.ListView1.AccessibleName().empty(); }); // told once the window stands
         Inspect(window.Handle(), L"main");
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"language"); });
@@ -121,7 +120,6 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
             Form::Loaded().back()->Unload();
         });
         frmWaiting().ShowModal();
-        End(window);
     }
     modLangues::Init_Language(short{0});
 }
@@ -139,17 +137,19 @@ TEST_CASE("The first run's language dialog has nothing cut off") {
 
 TEST_CASE("The palette is drawn in every scheme and width, its strip in the colour of active and inactive captions") {
     const std::wstring names[] = {L"Sales;Service", L";Staff;A very long name indeed", L";;Sales", L";;Staff"};
+    std::array<wchar_t, 2> setting{};
+    const bool takesPictures = GetEnvironmentVariableW(L"KELMORRA_PICTURES", setting.data(), 2) != 0;
     for (int scheme = 0; scheme < Artwork::SchemeCount; ++scheme) {
         std::wstring assigned;
         for (int columns = 1; columns <= 4; ++columns) {
+            assigned += names[columns - 1];
+            if (!takesPictures && columns != 1 + scheme % 4) continue; // each scheme and width once
             ActDesk desk;
             FillDesk(desk);
-            assigned += names[columns - 1];
             IniLib::WriteKeyValue(L"General", L"QuickSwitch", assigned);
             IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", std::to_wstring(scheme));
             DialogScript script;
-            frmMain window;
-            window.Load();
+            Main window;
             script.Then([&](HWND palette) {
                 const std::wstring name = L"palette-scheme" + std::to_wstring(scheme) + L"-" +
                                           std::to_wstring(columns * 2) + L"-buttons-" +
@@ -164,8 +164,7 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
                 const std::array<HWND, 2> boxes{FindControl(palette, L"pic1"), FindControl(palette, L"pic2")};
                 const std::array before{ColorAtEdge(boxes[0], true), ColorAtEdge(boxes[1], true)};
                 static_cast<frmQuickSwitch*>(Form::Loaded().back())->mnuAssign.Click();
-                for (size_t box = 0; box < boxes.size(); ++box)
-                    CHECK(ColorAtEdge(boxes[box], true) != before[box]);
+                for (size_t box = 0; box < boxes.size(); ++box) CHECK(ColorAtEdge(boxes[box], true) != before[box]);
                 if (columns == 4) TakePicture(palette, name + L"-changed");
                 SendMessageW(palette, WM_COMMAND, IDCANCEL, 0);
             });

@@ -18,8 +18,7 @@ bool HoldsBitmap(const frmMain& window) {
 
 TEST_CASE("Growing the window grows the list and keeps the distances to the right and lower edge") {
     ActDesk desk;
-    frmMain window;
-    window.Load();
+    Main window;
     window.Show();
     CHECK_FALSE(HoldsBitmap(window)); // a start needs none
     const RECT list = PlaceOf(window.ListView1.Handle());
@@ -41,14 +40,12 @@ TEST_CASE("Growing the window grows the list and keeps the distances to the righ
     CHECK(ToPixels(window.OuterSize().Width, window.Dpi()) == ToPixels(8475, window.Dpi()));
     CHECK(ToPixels(window.OuterSize().Height, window.Dpi()) == ToPixels(5190, window.Dpi()));
     CHECK(PlaceOf(window.ListView1.Handle()).bottom == list.bottom);
-    End(window);
 }
 
 TEST_CASE("The label of a view checks its option, only that one, and the list gets the focus back") {
     ActDesk desk;
     desk.AddDatabase(L"Sales", {});
-    frmMain window;
-    window.Load();
+    Main window;
     window.Show();
     CHECK(window.optView[0].Value());
     SendMessageW(window.Handle(), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window.lblView[5].Handle()), STN_CLICKED),
@@ -56,5 +53,4 @@ TEST_CASE("The label of a view checks its option, only that one, and the list ge
     CHECK(window.optView[5].Value());
     CHECK(std::ranges::count_if(window.optView, [](const OptionButton& option) { return option.Value(); }) == 1);
     CHECK(FocusIn(window.Handle()) == window.ListView1.Handle());
-    End(window);
 }

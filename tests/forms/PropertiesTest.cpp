@@ -14,9 +14,6 @@
 
 namespace {
 
-std::wstring Ini(const wchar_t* section, const wchar_t* key) { return IniLib::GetKeyValue(section, key, L"(none)"); }
-std::wstring Stored(const wchar_t* section, const wchar_t* key) { return UserStore::Get(section, key, L"(none)"); }
-
 /// Opens the dialog for a database ("" for a new one), types into its boxes, and presses OK. What then happens to
 /// message boxes and to the dialog itself is up to the script.
 struct Session {
@@ -33,7 +30,19 @@ struct Session {
     void Run() { Dialog.ShowModal(); }
 };
 
-void Type(HWND dialog, const wchar_t* box, const wchar_t* text) { SetWindowTextW(FindControl(dialog, box), text); }
+constexpr const wchar_t* kFolders[] = {L"Attached Email",
+                                       L"Database",
+                                       L"Document",
+                                       L"Document Template",
+                                       L"Email Root Folder",
+                                       L"Layout",
+                                       L"Macro",
+                                       L"NetLinks",
+                                       L"Query",
+                                       L"Synchronize",
+                                       L"Report, Label, Envelope",
+                                       L"Spelling Dictionary"};
+
 void PressOK(HWND dialog) { Click(FindControl(dialog, L"cmdOK")); }
 
 void FillNew(HWND dialog, const wchar_t* name) {
@@ -61,12 +70,12 @@ TEST_CASE("A new database gets its section, its log-on values and its place at t
     });
     session.Run();
     CHECK_FALSE(session.Dialog.Cancelled());
-    CHECK(Ini(L"General", L"Sort") == L"Sales;Team A");
-    CHECK(Ini(L"Team A", L"Path") == L"C:\\Data\\New.dbf");
-    CHECK(Ini(L"Team A", L"UseLocationsFrom") == L"(none)");
-    CHECK(Stored(L"Team A", L"Username") == L"Chris");
-    CHECK(Stored(L"Team A", L"UsePassword") == L"0");
-    CHECK(Stored(L"Team A", L"Password") == L"(none)");
+    CHECK(IniValue(L"General", L"Sort") == L"Sales;Team A");
+    CHECK(IniValue(L"Team A", L"Path") == L"C:\\Data\\New.dbf");
+    CHECK(IniValue(L"Team A", L"UseLocationsFrom") == L"(none)");
+    CHECK(UserValue(L"Team A", L"Username") == L"Chris");
+    CHECK(UserValue(L"Team A", L"UsePassword") == L"0");
+    CHECK(UserValue(L"Team A", L"Password") == L"(none)");
     CHECK(session.Row.Replaced.empty());
 }
 
@@ -79,8 +88,8 @@ TEST_CASE("No longer name can be typed than the log-on can be stored under") {
         PressOK(dialog);
     });
     session.Run();
-    CHECK(Ini(L"General", L"Sort") == std::wstring(255, L'n'));
-    CHECK(Stored(std::wstring(255, L'n').c_str(), L"Username") == L"Chris");
+    CHECK(IniValue(L"General", L"Sort") == std::wstring(255, L'n'));
+    CHECK(UserValue(std::wstring(255, L'n'), L"Username") == L"Chris");
 }
 
 TEST_CASE("Input that is refused names the reason, shows its tab, and writes nothing") {
@@ -117,7 +126,7 @@ TEST_CASE("Input that is refused names the reason, shows its tab, and writes not
         CHECK(FocusIn(dialog) == FindControl(dialog, test.box));
         CHECK_FALSE(session.Dialog.Unloaded());
         CHECK(desk.SettingsBytes() == before);
-        CHECK(Stored(L"Sales", L"UsePassword") == L"(none)");
+        CHECK(UserValue(L"Sales", L"UsePassword") == L"(none)");
         if (test.messageRow == 121) CHECK(WindowText(FindControl(dialog, L"txtName")) == L"Sales");
     }
 }
@@ -137,7 +146,7 @@ TEST_CASE("Leaving the first tab checks the name; a missing path is reported but
     REQUIRE(session.Script.All().size() == 3);
     CHECK(session.Script.All()[1].Text == LangText[123]);
     CHECK(session.Script.All()[2].Text == LangText[123]);
-    CHECK(Ini(L"Sales", L"Path") == L"(none)"); // an empty value reads as none
+    CHECK(IniValue(L"Sales", L"Path") == L"(none)"); // an empty value reads as none
     CHECK(session.Row.Replaced == L"Sales");
 }
 
@@ -157,9 +166,9 @@ TEST_CASE("A password is enciphered whatever its bytes, comes back, and goes whe
         });
         session.Run();
     }
-    CHECK(Stored(L"Sales", L"UsePassword") == L"1");
-    CHECK(Stored(L"Sales", L"Password").starts_with(std::wstring(L"\0\r\n", 3)));
-    CHECK(modEnCrypt::DecryptText(Stored(L"Sales", L"Password"), L"Kelmorra") == password);
+    CHECK(UserValue(L"Sales", L"UsePassword") == L"1");
+    CHECK(UserValue(L"Sales", L"Password").starts_with(std::wstring(L"\0\r\n", 3)));
+    CHECK(modEnCrypt::DecryptText(UserValue(L"Sales", L"Password"), L"Kelmorra") == password);
     {
         Session session;
         session.Open(L"Sales", [&](HWND dialog) {
@@ -170,8 +179,8 @@ TEST_CASE("A password is enciphered whatever its bytes, comes back, and goes whe
         });
         session.Run();
     }
-    CHECK(Stored(L"Sales", L"Password") == L"(none)");
-    CHECK(Stored(L"Sales", L"UsePassword") == L"0");
+    CHECK(UserValue(L"Sales", L"Password") == L"(none)");
+    CHECK(UserValue(L"Sales", L"UsePassword") == L"0");
 }
 
 TEST_CASE("A rename replaces the text in the list, whole elements on the buttons, and takes everything along") {
@@ -179,7 +188,7 @@ TEST_CASE("A rename replaces the text in the list, whole elements on the buttons
     AddSales(desk, L"BigSales");
     AddSales(desk, L"Sales");
     desk.AddDatabase(L"Staff", {{L"UseLocationsFrom", L"Sales"}, {L"Path", L"x"}});
-    IniLib::WriteKeyValue(L"Sales", L"Document", L"C:\\Letters");
+    for (const wchar_t* folder : kFolders) IniLib::WriteKeyValue(L"Sales", folder, std::wstring(L"C:\\") + folder);
     IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"Sales;Sales;BigSales;;;;;");
     UserStore::Set(L"Sales", L"NoPasswordAtACTStartup", L"1");
     Session session;
@@ -188,15 +197,15 @@ TEST_CASE("A rename replaces the text in the list, whole elements on the buttons
         PressOK(dialog);
     });
     session.Run();
-    CHECK(Ini(L"General", L"Sort") == L"BigLeads;Leads;Staff");
-    CHECK(Ini(L"General", L"QuickSwitch") == L"Leads;Leads;BigSales;;;;;");
-    CHECK(Ini(L"Leads", L"Path") == L"C:\\Data\\Sales.dbf");
-    CHECK(Ini(L"Leads", L"Document") == L"C:\\Letters");
-    CHECK(Ini(L"Sales", L"Path") == L"(none)");
-    CHECK(Ini(L"Staff", L"UseLocationsFrom") == L"Leads");
-    CHECK(Stored(L"Leads", L"Username") == L"Chris");
-    CHECK(Stored(L"Leads", L"NoPasswordAtACTStartup") == L"1");
-    CHECK(Stored(L"Sales", L"Username") == L"(none)");
+    CHECK(IniValue(L"General", L"Sort") == L"BigLeads;Leads;Staff");
+    CHECK(IniValue(L"General", L"QuickSwitch") == L"Leads;Leads;BigSales;;;;;");
+    CHECK(IniValue(L"Leads", L"Path") == L"C:\\Data\\Sales.dbf");
+    for (const wchar_t* folder : kFolders) CHECK(IniValue(L"Leads", folder) == std::wstring(L"C:\\") + folder);
+    CHECK(IniValue(L"Sales", L"Path") == L"(none)");
+    CHECK(IniValue(L"Staff", L"UseLocationsFrom") == L"Leads");
+    CHECK(UserValue(L"Leads", L"Username") == L"Chris");
+    CHECK(UserValue(L"Leads", L"NoPasswordAtACTStartup") == L"1");
+    CHECK(UserValue(L"Sales", L"Username") == L"(none)");
     CHECK(session.Row.Replaced == L"Leads");
 }
 
@@ -210,9 +219,9 @@ TEST_CASE("A rename that changes letter case only keeps what the two names share
         PressOK(dialog);
     });
     session.Run();
-    CHECK(Ini(L"General", L"Sort") == L"SALES");
-    CHECK(Ini(L"SALES", L"Query") == L"C:\\Q");
-    CHECK(Stored(L"SALES", L"Username") == L"Chris");
+    CHECK(IniValue(L"General", L"Sort") == L"SALES");
+    CHECK(IniValue(L"SALES", L"Query") == L"C:\\Q");
+    CHECK(UserValue(L"SALES", L"Username") == L"Chris");
 }
 
 TEST_CASE("Locations borrowed from another database replace the own ones, and back") {
@@ -234,8 +243,8 @@ TEST_CASE("Locations borrowed from another database replace the own ones, and ba
         });
         session.Run();
     }
-    CHECK(Ini(L"Sales", L"UseLocationsFrom") == L"Service");
-    CHECK(Ini(L"Sales", L"Query") == L"(none)");
+    CHECK(IniValue(L"Sales", L"UseLocationsFrom") == L"Service");
+    CHECK(IniValue(L"Sales", L"Query") == L"(none)");
     {
         Session session;
         session.Open(L"Sales", [&](HWND dialog) {
@@ -246,7 +255,7 @@ TEST_CASE("Locations borrowed from another database replace the own ones, and ba
         });
         session.Run();
     }
-    CHECK(Ini(L"Sales", L"UseLocationsFrom") == L"(none)");
+    CHECK(IniValue(L"Sales", L"UseLocationsFrom") == L"(none)");
 }
 
 TEST_CASE("Cancel, Esc and the close box write nothing") {
@@ -256,6 +265,8 @@ TEST_CASE("Cancel, Esc and the close box write nothing") {
         Session session;
         session.Open(L"", [&](HWND dialog) {
             FillNew(dialog, L"Team");
+            SendMessageW(dialog, WM_SETCURSOR, reinterpret_cast<WPARAM>(dialog), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+            CHECK(IsWindowVisible(dialog)); // the mouse over its bare parts does nothing
             if (byCloseBox)
                 PostMessageW(dialog, WM_CLOSE, 0, 0);
             else
@@ -264,6 +275,6 @@ TEST_CASE("Cancel, Esc and the close box write nothing") {
         session.Run();
         CHECK(session.Dialog.Cancelled());
         CHECK(desk.SettingsBytes() == before);
-        CHECK(Stored(L"Team", L"Username") == L"(none)");
+        CHECK(UserValue(L"Team", L"Username") == L"(none)");
     }
 }

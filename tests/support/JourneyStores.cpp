@@ -65,16 +65,6 @@ void DeleteTree(const std::wstring& path) {
     RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
 }
 
-void WriteTree(const Snapshot& snapshot) {
-    for (const auto& [place, value] : snapshot) {
-        const size_t bar = place.find(L'|');
-        const RegistryKey key = Create(place.substr(0, bar));
-        if (bar == std::wstring::npos) continue;
-        RegSetValueExW(key.Get(), place.substr(bar + 1).c_str(), 0, value.Type, value.Data.data(),
-                       static_cast<DWORD>(value.Data.size()));
-    }
-}
-
 std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
     const RegistryKey key = Open(path, KEY_READ);
     DWORD size = 0;

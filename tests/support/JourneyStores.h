@@ -23,8 +23,6 @@ using Snapshot = std::map<std::wstring, Value>;
 
 Snapshot ReadTree(const std::wstring& path);
 void DeleteTree(const std::wstring& path);
-/// Puts the keys and values of a snapshot back where they were read.
-void WriteTree(const Snapshot& snapshot);
 std::optional<Value> Read(const std::wstring& path, const std::wstring& name);
 void Write(const std::wstring& path, const std::wstring& name, const std::wstring& text);
 

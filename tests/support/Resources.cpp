@@ -2,8 +2,6 @@
 
 #include "win32/Owner.h"
 
-#include <array>
-
 namespace {
 
 using BitmapHandle = Owner<owners::Gdi<HBITMAP>>;
@@ -59,31 +57,6 @@ int CountUser() {
     return found;
 }
 
-size_t CountHeap() {
-    std::array<HANDLE, 64> heaps{};
-    const DWORD count = GetProcessHeaps(heaps.size(), heaps.data());
-    size_t bytes = 0;
-    for (DWORD index = 0; index < count && index < heaps.size(); ++index) {
-        PROCESS_HEAP_ENTRY entry{};
-        HeapLock(heaps.at(index));
-        while (HeapWalk(heaps.at(index), &entry))
-            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
-        HeapUnlock(heaps.at(index));
-    }
-    return bytes;
-}
-
-size_t CountBytes() {
-    size_t bytes = 0;
-    MEMORY_BASIC_INFORMATION region{};
-    for (UINT_PTR address = 0; VirtualQuery(Value<void*>(address), &region, sizeof region) != 0;
-         address += region.RegionSize) {
-        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) bytes += region.RegionSize;
-        if (address + region.RegionSize < address) break;
-    }
-    return bytes;
-}
-
 } // namespace
 
-Resources Resources::Now() { return {CountHandles(), CountGdi(), CountUser(), CountHeap(), CountBytes()}; }
+Resources Resources::Now() { return {CountHandles(), CountGdi(), CountUser()}; }
