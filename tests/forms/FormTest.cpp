@@ -2,7 +2,6 @@
 
 #include "ui/Form.h"
 #include "support/DialogScript.h"
-#include "support/Error.h"
 #include "support/Wide.h"
 #include "ui/Button.h"
 #include "ui/Label.h"
@@ -15,19 +14,13 @@ public:
 
     int Pressed = 0;
     bool Cancelled = false;
-    int ThrowingLine = 0;
 
     Label Label1{this, L"Label1", {120, 120, 2700, 255}};
     CommandButton cmdOK{this, L"cmdOK", {120, 600, 900, 345}, &frmSample::cmdOK_Click, Default};
-    CommandButton cmdFail{this, L"cmdFail", {1080, 600, 900, 345}, &frmSample::cmdFail_Click};
     CommandButton cmdCancel{this, L"cmdCancel", {2040, 600, 900, 345}, &frmSample::cmdCancel_Click, Cancel};
 
 private:
     void cmdOK_Click() { ++Pressed; }
-    void cmdFail_Click() {
-        ThrowingLine = __LINE__ + 1;
-        throw Error(13, L"Type mismatch");
-    }
     void cmdCancel_Click() {
         Cancelled = true;
         Unload();
@@ -58,21 +51,6 @@ TEST_CASE("Enter presses the default button or the one that has the focus; Esc a
         form.ShowModal();
         CHECK(form.Cancelled);
     }
-}
-
-TEST_CASE("An error in a handler is reported with the handler's name and line, and the form lives on") {
-    frmSample form;
-    DialogScript script;
-    script.Then([&](HWND window) { Click(FindControl(window, L"cmdFail")); }).Answer(IDOK);
-    form.Load();
-    form.Show();
-    PumpUntil([&] { return script.All().size() >= 2; });
-    PumpUntil([&] { return IsWindowEnabled(form.Handle()) != FALSE; });
-    CHECK(script.All()[1].Title == L"Kelmorra error");
-    const std::wstring expected =
-        L"Error 13: 'Type mismatch'\rin frmSample: Sub cmdFail_Click - Line # " + std::to_wstring(form.ThrowingLine);
-    CHECK(script.All()[1].Text.starts_with(expected));
-    CHECK_FALSE(form.Unloaded());
 }
 
 TEST_CASE("A modal form disables its owner and gives it back, enabled and active") {

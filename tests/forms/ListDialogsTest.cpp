@@ -4,7 +4,6 @@
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
 #include "i18n/modLangues.h"
-#include "program/Program.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
@@ -73,16 +72,6 @@ TEST_CASE("Moves are written when the dialog closes, in any way, and the moved l
     });
     CHECK(Sort() == L"C;A;B");
     CHECK(selected == 0);
-}
-
-TEST_CASE("Moves that nobody confirmed are not written when ACT! closes") {
-    ActDesk desk;
-    Maintain(desk, 0, [](HWND dialog) {
-        Press(dialog, L"cmdDown");
-        Program().ActIsClosing = true;
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    CHECK(Sort() == L"A;B;C");
 }
 
 TEST_CASE("Removing clears both stores and the buttons at once and selects the line that moved up, or the first") {
@@ -221,26 +210,6 @@ TEST_CASE("Locations load and clear under the opened name and are written under 
     CHECK(IniLib::GetKeyValue(L"Sales", L"Spelling Dictionary") == L"C:\\Words");
     CHECK(IniLib::GetKeyValue(L"Leads", L"Spelling Dictionary") == L"C:\\Words");
     CHECK(desk.SettingsBytes().find("Attached Email=\r\n") != std::string::npos); // written, though empty
-}
-
-TEST_CASE("Clear followed by Cancel stays cleared; No and a database without a name change nothing") {
-    ActDesk desk;
-    desk.AddDatabase(L"Sales", {{L"Attached Email", L"C:\\Mail"}});
-    for (const int answer : {IDNO, IDYES}) {
-        DialogScript script;
-        script.Then([](HWND dialog) {
-            Press(dialog, L"cmdClear");
-            Click(FindControl(dialog, L"cmdCancel"));
-        });
-        script.Answer(answer);
-        frmPrefLocations(L"Sales", L"Sales").ShowModal();
-        CHECK(IniLib::GetKeyValue(L"Sales", L"Attached Email").empty() == (answer == IDYES));
-    }
-    const std::string before = desk.SettingsBytes();
-    DialogScript script;
-    script.Then([](HWND dialog) { Click(FindControl(dialog, L"cmdOK")); });
-    frmPrefLocations(L"", L"").ShowModal();
-    CHECK(desk.SettingsBytes() == before);
 }
 
 TEST_CASE("Another settings file is taken over only when it exists and differs, letter case included") {

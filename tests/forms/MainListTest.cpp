@@ -92,24 +92,6 @@ TEST_CASE("Where ACT! does not answer, all rows are there with full paths and no
     }
 }
 
-TEST_CASE("A double-click beside the rows is one for none, and a right click on the titles is none on a row") {
-    ActDesk desk;
-    desk.AddDatabase(L"Sales", {});
-    Main window;
-    HWND list = window.ListView1.Handle();
-    RECT titles{};
-    GetWindowRect(reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)), &titles);
-    SendMessageW(window.Handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list),
-                 MAKELPARAM(titles.left + 5, titles.top + 5)); // would wait for its menu
-    NMITEMACTIVATE click{};
-    click.hdr = {list, 0, NM_DBLCLK};
-    click.iItem = -1;
-    DialogScript script;
-    script.Answer(IDOK);
-    SendMessageW(window.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&click));
-    CHECK(script.All()[0].Text == L"No database selected!");
-}
-
 TEST_CASE("A click on a column sorts, a second one reverses; the selection counts in list order all the same") {
     ActDesk desk;
     for (const wchar_t* name : {L"Mike", L"Zulu", L"alpha"}) desk.AddDatabase(name, {});

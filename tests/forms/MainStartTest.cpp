@@ -77,19 +77,6 @@ TEST_CASE("A refused start tells why and leaves sizes, columns and selection as 
     }
 }
 
-TEST_CASE("ACT! failing before the list is due ends the program with one report") {
-    for (const wchar_t* member : {L"Views", L"GetCurrentUserName"}) {
-        ActDesk desk;
-        desk.Act.Failures[member] = {.Plain = DISP_E_MEMBERNOTFOUND};
-        const DialogScript::Seen seen = RefusedStart();
-        CHECK(seen.Title == L"Kelmorra error");
-        CHECK(seen.Text.starts_with(L"Error 438: '"));
-        const wchar_t* place =
-            member[0] == L'V' ? L"in Module1: Sub Create_object - " : L"in frmMain: Sub Form_Load - ";
-        CHECK(seen.Text.find(place) != std::wstring::npos);
-    }
-}
-
 TEST_CASE("From the settings file on, a failure is told once and leaves a usable window") {
     for (const bool isDenied : {false, true}) {
         CAPTURE(isDenied);

@@ -209,21 +209,6 @@ TEST_CASE("A rename replaces the text in the list, whole elements on the buttons
     CHECK(session.Row.Replaced == L"Leads");
 }
 
-TEST_CASE("A rename that changes letter case only keeps what the two names share") {
-    ActDesk desk;
-    AddSales(desk);
-    IniLib::WriteKeyValue(L"Sales", L"Query", L"C:\\Q");
-    Session session;
-    session.Open(L"Sales", [](HWND dialog) {
-        Type(dialog, L"txtName", L"SALES");
-        PressOK(dialog);
-    });
-    session.Run();
-    CHECK(IniValue(L"General", L"Sort") == L"SALES");
-    CHECK(IniValue(L"SALES", L"Query") == L"C:\\Q");
-    CHECK(UserValue(L"SALES", L"Username") == L"Chris");
-}
-
 TEST_CASE("Locations borrowed from another database replace the own ones, and back") {
     ActDesk desk;
     AddSales(desk);

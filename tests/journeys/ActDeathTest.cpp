@@ -8,25 +8,13 @@ namespace {
 
 constexpr wchar_t kNotAccessible[] = L"This database is not accessible. Please choose another database.";
 
-struct Death {
-    const wchar_t* member;
-    const wchar_t* told; ///< the beginning of what the user is told first
-    bool isAlwaysTried;
-};
-constexpr Death kDeaths[] = {{L"OpenFile", L"Error 462: ", false},
-                             {L"Views", L"Error 462: ", false},
-                             {L"Preferences", L"Error 462: ", true},
-                             {L"GetCurrentUserName", L"Error 462: ", false},
-                             {L"DefaultContactLayout", L"Error 462: ", false},
-                             {L"DefaultGroupLayout", L"Error 462: ", false},
-                             {L"StartupMacro", L"Error 462: ", false},
-                             {L"GetDefaultLocation", L"Error 462: ", true},
-                             {L"GetOpenDBName", L"Error 462: ", false},
-                             {L"openDB", kNotAccessible, true},
-                             {L"Create", L"Error 462: ", true},
-                             {L"SetCalendarMode", L"Error 462: ", false},
-                             {L"RunMacro", L"Error 462: ", false},
-                             {L"UseLastDBonStartup", L"Error 462: ", false}};
+/// By the kind of call: on the program's objects, of the start, of the open itself, and behind it.
+constexpr const wchar_t* kCalls[] = {L"Preferences", L"GetDefaultLocation", L"openDB", L"Create"};
+constexpr const wchar_t* kFurtherCalls[] = {L"OpenFile",           L"Views",
+                                            L"GetCurrentUserName", L"DefaultContactLayout",
+                                            L"DefaultGroupLayout", L"GetOpenDBName",
+                                            L"SetCalendarMode",    L"StartupMacro",
+                                            L"RunMacro",           L"UseLastDBonStartup"};
 
 /// Starts the program and lets it open the database once its window is there; answers every box. What they told, up to
 /// the end of the program or until it is at rest.
@@ -58,22 +46,22 @@ std::vector<std::wstring> StartOpenAndAnswer(Journey& journey) {
 } // namespace
 
 TEST_CASE("an ACT! that dies in any call of the start or of an open is told of, and nobody is left waiting") {
-    for (const Death& death : kDeaths) {
-        if (!death.isAlwaysTried && !Setting("KELMORRA_SOAK_DEATHS", 0)) continue;
-        CAPTURE(std::wstring(death.member));
+    std::vector<std::wstring> calls(std::begin(kCalls), std::end(kCalls));
+    if (Setting("KELMORRA_SOAK_DEATHS", 0))
+        calls.insert(calls.end(), std::begin(kFurtherCalls), std::end(kFurtherCalls));
+    for (const std::wstring& call : calls) {
+        CAPTURE(call);
         Journey journey; // its end checks that no process is left, and none invisible
         journey.StartAct(journey.ListRealDatabase(L"Customers"));
         journey.Ini(L"Customers", L"StartupMacro", journey.File(L"Morning.mpr"));
         JourneyStores::User(L"Display", L"Selected", L"0");
-        JourneyStores::User(L"Customers", L"Username", L"Pat");
         const std::string before = JourneyStores::FileBytes(journey.SettingsFile());
-        journey.Act(L"Faults", death.member, L"die");
+        journey.Act(L"Faults", call, L"die");
         const std::vector<std::wstring> told = StartOpenAndAnswer(journey);
         REQUIRE_FALSE(told.empty());
-        CHECK(told.front().starts_with(death.told));
+        CHECK(told.front().starts_with(call == L"openDB" ? kNotAccessible : L"Error 462: "));
         CHECK(told.size() <= 2); // an open that fails after a start with a report
         CHECK(journey.ActHasEnded());
         CHECK(JourneyStores::FileBytes(journey.SettingsFile()) == before);
-        CHECK(JourneyStores::User(L"Customers", L"Username") == L"Pat");
     }
 }

@@ -4,6 +4,8 @@
 #include "support/JourneyDialogs.h"
 #include "win32/AnsiText.h"
 
+#include <filesystem>
+
 namespace {
 
 using namespace JourneyDialogs;
@@ -56,4 +58,7 @@ TEST_CASE_FIXTURE(Journey, "a new user chooses a language, builds a list from no
     CHECK(Program().ExitCode() == 0u);
     CHECK(Calls().find(L"APPOBJECT openDB METHOD VT_BSTR \"" + second + L'"') != std::wstring::npos);
     CHECK(User(L"Logon", L"Username") == L"Chris");
+    size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(File(L"Kelmorra"))) files += entry.is_regular_file();
+    CHECK(files == 2); // the program and its settings file
 }

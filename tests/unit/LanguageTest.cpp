@@ -77,17 +77,3 @@ TEST_CASE("Access keys exist where English has them and do not clash within a me
             }
         }
 }
-
-TEST_CASE("A language is taken whole, and an unknown one changes nothing") {
-    for (const short language : {short{1}, short{2}, short{0}}) {
-        modLangues::Init_Language(language);
-        CHECK(CurrentLanguage == language);
-        for (int index = 1; index <= 152; ++index) CHECK(LangText[index] == TextAt(index, kColumns[language]));
-        short unknown = 3;
-        modLangues::Init_Language(unknown);
-        CHECK(CurrentLanguage == language);
-        CHECK(LangText[82] == TextAt(82, kColumns[language]));
-    }
-    CHECK_THROWS(static_cast<void>(LangText[0]));
-    CHECK_THROWS(static_cast<void>(LangText[153]));
-}
