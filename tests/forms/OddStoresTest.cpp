@@ -61,19 +61,3 @@ TEST_CASE("Sizes, columns, positions, language, scheme and selection may be any 
         CHECK(IniLib::GetKeyValue(L"Sales", L"Path") == L"C:\\Sales.dbf");
     }
 }
-
-TEST_CASE("A place of the settings file that is none gives one report and a usable window") {
-    for (const std::wstring& place : {std::wstring(L"::?*|\""), std::wstring(L"Q:\\none\\x.ini"),
-                                      L"C:\\" + std::wstring(30'000, L'x'), std::wstring(L"C:\\windows")}) {
-        CAPTURE(place.substr(0, 40));
-        ActDesk desk;
-        UserStore::Set(L"Settings", L"IniLocation", place);
-        DialogScript script;
-        script.Otherwise(Leave);
-        Main window;
-        CHECK(window.Visible());
-        CHECK(script.All().size() <= 1);
-        End(window);
-        CHECK(UserStore::Get(L"Settings", L"IniLocation") == place);
-    }
-}

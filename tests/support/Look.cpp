@@ -2,10 +2,7 @@
 
 #include "support/DialogScript.h"
 #include "ui/Control.h"
-#include "win32/ComPtr.h"
 #include "win32/Owner.h"
-
-#include <oleacc.h>
 
 #include <array>
 #include <cstdlib>
@@ -129,19 +126,6 @@ std::wstring PlainName(HWND control) {
     return name;
 }
 
-std::wstring ServiceName(HWND control) {
-    ComPtr<IAccessible> accessible;
-    constexpr GUID kAccessible{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-    AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), kAccessible, accessible.ReceiveVoid());
-    VARIANT self{};
-    self.vt = VT_I4;
-    BSTR name = nullptr;
-    if (!accessible || accessible->get_accName(self, &name) != S_OK || !name) return {};
-    const std::wstring text = name;
-    SysFreeString(name);
-    return text;
-}
-
 } // namespace
 
 RECT PlaceOf(HWND control) {
@@ -186,9 +170,6 @@ std::wstring Nameless(HWND form) {
         const auto* ours = reinterpret_cast<const Control*>(GetWindowLongPtrW(control, GWLP_USERDATA));
         const std::wstring name = ours->AccessibleName().empty() ? PlainName(control) : ours->AccessibleName();
         if (name.empty() || name == L"...") found += ours->Name() + std::wstring(L"; ");
-        // Wine's service knows buttons and text boxes, and no annotations.
-        const bool isKnown = (kind == L"Button" || kind == L"Edit") && ours->AccessibleName().empty();
-        if (isKnown && ServiceName(control) != name) found += ours->Name() + (L" is " + ServiceName(control)) + L"; ";
     }
     return found;
 }

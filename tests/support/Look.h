@@ -13,7 +13,7 @@ std::wstring ControlsOutside(HWND form);
 /// Pairs of a form's visible controls that cover each other; frames and pages lie below their contents.
 std::wstring Overlaps(HWND form);
 
-/// Visible controls that assistive tools have no name for. Where the system's own answer can be had, it must be ours.
+/// Visible controls that assistive tools have no name for.
 std::wstring Nameless(HWND form);
 
 /// Letters that are the access key of more than one visible control. A Cancel button has Esc.
