@@ -14,11 +14,72 @@
 #include "stores/IniLib.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
-#include "support/Resources.h"
 #include "support/Setting.h"
 #include "support/Wide.h"
+#include "win32/Owner.h"
 
 namespace {
+
+using BitmapHandle = Owner<owners::Gdi<HBITMAP>>;
+
+template <class Handle>
+Handle Value(UINT_PTR number) {
+    return reinterpret_cast<Handle>(number); // NOLINT(performance-no-int-to-ptr)
+}
+
+int CountHandles() {
+    DWORD count = 0;
+    if (GetProcessHandleCount(GetCurrentProcess(), &count) && count > 0) return static_cast<int>(count);
+    constexpr UINT_PTR kLast = 0x8000;
+    int found = 0;
+    for (UINT_PTR number = 4; number < kLast; number += 4) {
+        DWORD flags = 0;
+        if (GetHandleInformation(Value<HANDLE>(number), &flags)) ++found;
+    }
+    return found;
+}
+
+int CountGdi() {
+    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return static_cast<int>(count);
+    int found = 0;
+    for (UINT_PTR number = 1; number <= 0xFFFF; ++number)
+        if (GetObjectType(Value<HGDIOBJ>(number))) ++found;
+    return found;
+}
+
+bool IsIcon(HICON icon) {
+    ICONINFO info{};
+    if (!GetIconInfo(icon, &info)) return false;
+    const BitmapHandle mask(info.hbmMask), color(info.hbmColor);
+    return true;
+}
+
+BOOL CALLBACK CountChild(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK CountWindow(HWND window, LPARAM count) {
+    EnumChildWindows(window, &CountChild, count);
+    return CountChild(window, count);
+}
+
+int CountUser() {
+    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)) return static_cast<int>(count);
+    int found = 0;
+    EnumThreadWindows(GetCurrentThreadId(), &CountWindow, reinterpret_cast<LPARAM>(&found));
+    for (UINT_PTR number = 0x20; number <= 0xFFFF; number += 2)
+        if (IsMenu(Value<HMENU>(number)) || IsIcon(Value<HICON>(number))) ++found;
+    return found;
+}
+
+/// What this process holds at a moment. Where the system does not count for its own process, handles are found by
+/// trying every value that one can have.
+struct Resources {
+    int Handles = CountHandles(); ///< files, keys, events, threads
+    int Gdi = CountGdi();         ///< fonts, brushes, bitmaps, device contexts
+    int User = CountUser();       ///< windows, menus, icons
+};
 
 /// Opens and leaves everything that can be opened over a main window, whose ACT! cannot open databases.
 void OpenAll(frmMain& window) {
@@ -52,10 +113,10 @@ TEST_CASE("Dialogs, palette and failed opens leave no handle, GDI or USER object
     const unsigned long cycles = kWarmUp + Setting("KELMORRA_SOAK_CYCLES", 3);
     Resources before;
     for (unsigned long cycle = 0; cycle < cycles; ++cycle) {
-        if (cycle == kWarmUp) before = Resources::Now();
+        if (cycle == kWarmUp) before = Resources();
         OpenAll(window);
     }
-    const Resources after = Resources::Now();
+    const Resources after = Resources();
     MESSAGE("after " << cycles << " cycles: " << after.Handles << " handles, " << after.Gdi << " GDI and " << after.User
                      << " USER objects");
     CHECK(after.Handles <= before.Handles);
@@ -64,7 +125,7 @@ TEST_CASE("Dialogs, palette and failed opens leave no handle, GDI or USER object
 }
 
 TEST_CASE("The measure sees two objects of each kind") {
-    const Resources before = Resources::Now();
+    const Resources before = Resources();
     const KernelHandle event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
     RegistryKey key;
     RegOpenKeyExW(HKEY_CURRENT_USER, L"Software", 0, KEY_READ, key.Receive());
@@ -73,7 +134,7 @@ TEST_CASE("The measure sees two objects of each kind") {
     const MenuHandle menu(CreatePopupMenu());
     Form window({L"frmLeak", 1000, 1000});
     window.Load();
-    const Resources during = Resources::Now();
+    const Resources during = Resources();
     CHECK(during.Handles >= before.Handles + 2);
     CHECK(during.Gdi >= before.Gdi + 2);
     CHECK(during.User >= before.User + 2);

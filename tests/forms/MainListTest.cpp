@@ -125,13 +125,17 @@ TEST_CASE("A change of language keeps rows, size and the sort marker, and does n
     desk.Act.Calls.clear();
     {
         DialogScript script;
-        script.Then([](HWND dialog) {
+        script.Then([&](HWND dialog) {
+            CHECK_FALSE(IsWindowEnabled(window.Handle()));
+            CHECK(GetWindow(dialog, GW_OWNER) == window.Handle());
             SendMessageW(FindControl(dialog, L"cmbLanguage"), CB_SETCURSEL, 2, 0);
             Click(FindControl(dialog, L"cmdOK"));
         });
         window.mnuLanguages.Click();
     }
     CHECK(window.ListView1.RowCount() == 2);
+    CHECK(IsWindowEnabled(window.Handle()));
+    CHECK(GetActiveWindow() == window.Handle());
     CHECK(window.ListView1.ColumnCount() == 5);
     CHECK(ColumnTitle(window, 4).starts_with(L"> "));
     CHECK(ColumnTitle(window, 4) != L"> Database Path");

@@ -110,13 +110,6 @@ std::vector<HWND> VisibleControls(HWND form) {
     return controls;
 }
 
-bool LiesBelow(HWND control) {
-    const std::wstring kind = ClassOf(control);
-    const auto style = GetWindowLongPtrW(control, GWL_STYLE);
-    return kind == WC_TABCONTROLW || (kind == L"Button" && (style & BS_TYPEMASK) == BS_GROUPBOX) ||
-           (kind == L"Static" && (style & WS_CLIPSIBLINGS) != 0 && WindowText(control).empty());
-}
-
 /// A control's name as the rules have it: a button's text without its access key, else the label before it.
 std::wstring PlainName(HWND control) {
     HWND before = GetWindow(control, GW_HWNDPREV);
@@ -145,20 +138,6 @@ std::wstring ControlsOutside(HWND form) {
     std::wstring found;
     for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
         CheckEdges(child, reinterpret_cast<LPARAM>(&found));
-    return found;
-}
-
-std::wstring Overlaps(HWND form) {
-    std::wstring found;
-    const std::vector<HWND> controls = VisibleControls(form);
-    for (size_t first = 0; first < controls.size(); ++first)
-        for (size_t second = first + 1; second < controls.size(); ++second) {
-            const RECT one = PlaceOf(controls[first]);
-            const RECT other = PlaceOf(controls[second]);
-            RECT common{};
-            if (!LiesBelow(controls[first]) && !LiesBelow(controls[second]) && IntersectRect(&common, &one, &other))
-                found += WindowText(controls[first]) + L" and " + WindowText(controls[second]) + L"; ";
-        }
     return found;
 }
 

@@ -10,9 +10,6 @@ std::wstring CutCaptions(HWND form);
 /// The controls of a form that reach over its edge, by caption; "" when none does.
 std::wstring ControlsOutside(HWND form);
 
-/// Pairs of a form's visible controls that cover each other; frames and pages lie below their contents.
-std::wstring Overlaps(HWND form);
-
 /// Visible controls that assistive tools have no name for.
 std::wstring Nameless(HWND form);
 

@@ -75,22 +75,18 @@ TEST_CASE_FIXTURE(SettingsDesk, "The list of databases keeps empty names, and an
 }
 
 TEST_CASE_FIXTURE(SettingsDesk, "What a list too long to be read whole holds behind the cut is kept by who writes it") {
-    struct Row {
-        size_t length;   ///< of each name
-        size_t seen;     ///< names that 998 bytes show whole
-        const char* cut; ///< where the read ends
-    };
-    constexpr Row rows[] = {{99, 9, "within a name"}, {998, 1, "at the end of a name"}, {997, 1, "behind a separator"}};
-    for (const Row& row : rows) {
-        CAPTURE(row.cut);
-        Names names = LongList(20, row.length);
+    // The length of each name, and how many 998 bytes show whole: the cut is in a name, at its end, behind a separator.
+    const std::pair<size_t, size_t> rows[] = {{99, 9}, {998, 1}, {997, 1}};
+    for (const auto& [length, seen] : rows) {
+        CAPTURE(length);
+        Names names = LongList(20, length);
         List(names);
         auto list = EditedList::Load();
         Names shown = list->Shown();
-        CHECK(shown == Names(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(row.seen)));
+        CHECK(shown == Names(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(seen)));
         std::ranges::reverse(shown);
         CHECK(list->Save(shown));
-        std::reverse(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(row.seen));
+        std::reverse(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(seen));
         CHECK(Sort() == Text::Join(names, L';'));
         CHECK_FALSE(list->HaveOthersChanged());
 
