@@ -6,6 +6,7 @@
 #include "program/Program.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
+#include "stores/SafeFile.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/BusyWait.h"
@@ -16,8 +17,6 @@
 #include "win32/Owner.h"
 
 #include <shlwapi.h>
-
-#include <fstream>
 
 extern decltype(&CreateFileW) importedCreateFile __asm__("__imp__CreateFileW@28");
 
@@ -224,8 +223,7 @@ TEST_CASE("A web link is put into ACT!'s folder of links, when ACT! has one") {
     CHECK(std::filesystem::is_empty(act.Folder()));
     std::filesystem::create_directory(act.Folder() + L"\\NetLinks");
     Create_LinkMenuItem(act.Path());
-    std::ifstream link(std::filesystem::path(act.Folder()) / L"NetLinks" / L"1010it_Varnholtine.web", std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(link), {}};
+    const std::string bytes = SafeFile::Read(act.Folder() + L"\\NetLinks\\1010it_Varnholtine.web").Bytes;
     CHECK(bytes.starts_with("]https://www.varnholtine.example/ "));
     CHECK(bytes.ends_with("\r\n"));
 }

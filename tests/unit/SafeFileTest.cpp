@@ -204,6 +204,8 @@ TEST_CASE_FIXTURE(Desk, "A try that fails on the way is made again from the orig
     int tries = 0;
     CHECK(SafeFile::Change(file.Path(), [&](const std::wstring& copy, bool) -> DWORD {
         CHECK(SafeFile::Read(copy).Bytes == kBefore);
+        CHECK_FALSE(
+            Hold(file.Path() + L".lock", FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE)); // by nobody else
         REQUIRE(WritePrivateProfileStringA("General", "Sort", "A;B;New", ToAnsi(copy).c_str()));
         return ++tries < 3 ? ERROR_SHARING_VIOLATION : ERROR_SUCCESS;
     }));
