@@ -30,25 +30,6 @@ TEST_CASE_FIXTURE(SettingsDesk, "Reading cuts a value at 998 bytes; the whole va
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk, "Numeric and Boolean values that are no numbers are replaced") {
-    struct Row {
-        const char* stored;
-        const wchar_t* kind;
-        const wchar_t* replacement;
-        const wchar_t* expected;
-    };
-    constexpr Row rows[] = {
-        {"12a", L"Numeric", L"0", L"0"},  {"-12", L"Numeric", L"0", L"-12"}, {"1e3", L"Numeric", L"0", L"1e3"},
-        {"True", L"Boolean", L"0", L"0"}, {"1", L"Boolean", L"0", L"1"},     {"12a", L"Numeric", L"", L"12a"},
-    };
-    for (const Row& row : rows) {
-        CAPTURE(row.stored);
-        file.Bytes(std::string("[S]\r\nK=") + row.stored + "\r\n");
-        std::wstring fileName;
-        CHECK(IniLib::GetKeyValue(L"S", L"K", L"default", row.kind, row.replacement, fileName) == row.expected);
-    }
-}
-
 TEST_CASE_FIXTURE(SettingsDesk, "Outer blanks and quotes survive; other values keep their bytes") {
     struct Row {
         const wchar_t* value;
