@@ -159,11 +159,10 @@ void Drag(HWND window, POINT place, SIZE distance) {
     command += L" sleep 0.1 mouseup 1";
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    PROCESS_INFORMATION started{};
+    // A program of the host has no handles here: what stands in for them may be those of something else.
+    PROCESS_INFORMATION unused{};
     CreateProcessW(L"Z:\\usr\\bin\\xdotool", command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                   &started);
-    const KernelHandle process(started.hProcess);
-    const KernelHandle thread(started.hThread);
+                   &unused);
 }
 
 POINT Middle(HWND window) {
