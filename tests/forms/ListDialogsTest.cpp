@@ -3,7 +3,6 @@
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
-#include "i18n/modLangues.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
@@ -11,7 +10,6 @@
 #include "support/FakeMainWindow.h"
 #include "support/SettingsDesk.h"
 #include "support/Wide.h"
-#include "win32/Owner.h"
 
 #include <algorithm>
 

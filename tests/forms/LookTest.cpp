@@ -9,7 +9,6 @@
 #include "dialogs/frmProperties.h"
 #include "i18n/frmLanguage.h"
 #include "i18n/modLangues.h"
-#include "program/Program.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
 #include "stores/IniLib.h"

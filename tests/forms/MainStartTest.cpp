@@ -2,8 +2,6 @@
 
 #include "app/LinkMenuItem.h"
 #include "app/frmWaiting.h"
-#include "i18n/modLangues.h"
-#include "program/Program.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
 #include "stores/SafeFile.h"

@@ -1,7 +1,6 @@
 // Whatever the stores hold, the windows come up in sound sizes, on the screen, and the choices fall back on defaults.
 
 #include "i18n/modLangues.h"
-#include "program/Program.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
 #include "stores/IniLib.h"

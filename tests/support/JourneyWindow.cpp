@@ -1,7 +1,6 @@
 #include "support/JourneyWindow.h"
 
 #include "support/JourneyProcess.h"
-#include "win32/Owner.h"
 
 #include <array>
 #include <utility>

@@ -1,6 +1,5 @@
 #include "i18n/modLangues.h"
 
-#include "support/Text.h"
 #include "support/Vendor.h"
 #include "support/Wide.h"
 #include "win32/AnsiText.h"
