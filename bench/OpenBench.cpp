@@ -23,9 +23,8 @@ double OpenByProgram(const Workplace& workplace) {
     const ProcessGroup group;
     const Process program(group, workplace.ProgramFile(L"Kelmorra.exe"));
     HWND list = JourneyDialogs::ListOf(WaitUntilReady(program, Workplace::MainClass));
-    const RECT row = ForeignList(list).CellPlace(1, 0);
-    const double time = TimeToOpen(workplace.File(L"act.log"), list, WM_LBUTTONDBLCLK,
-                                   MAKELPARAM((row.left + row.right) / 2, (row.top + row.bottom) / 2));
+    const POINT row = JourneyDialogs::MiddleOfRow(list, 1);
+    const double time = TimeToOpen(workplace.File(L"act.log"), list, WM_LBUTTONDBLCLK, MAKELPARAM(row.x, row.y));
     REQUIRE(program.ExitCode() == 0u);
     return time;
 }

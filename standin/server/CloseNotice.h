@@ -11,8 +11,8 @@ public:
 
     enum class Urgency { WhenIdle, InCalls };
 
-    /// Asks every component; they answer `window` with Protocol::Answer(). In a client that waits for a call of its own,
-    /// only a sent question arrives; neither kind waits for the client.
+    /// Asks every component; they answer `window` with Protocol::Answer(). In a client that waits for a call of its
+    /// own, only a sent question arrives; neither kind waits for the client.
     Outcome Ask(HWND window, Urgency urgency);
     /// Takes an answer.
     Outcome Take(HWND component, bool mayClose);

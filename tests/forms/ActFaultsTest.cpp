@@ -1,7 +1,6 @@
 // An ACT! that misbehaves at any one call of the start and of an open. An ordinary run tries a part of all pairs of a
 // call and a fault; with KELMORRA_SOAK_FAULTS=1 in the environment it is every pair.
 
-#include "i18n/modLangues.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
@@ -23,50 +22,27 @@ void PutText(VARIANT& result, const std::wstring& text) {
     result.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
 }
 
-void PutBytes(VARIANT& result) {
-    result.vt = VT_ARRAY | VT_UI1;
-    result.parray = SafeArrayCreateVector(VT_UI1, 0, 3);
-}
-
 constexpr HRESULT Code(unsigned long code) { return static_cast<HRESULT>(code); }
 
 const Fault kFaults[] = {
     {"E_FAIL", E_FAIL, nullptr},
-    {"E_UNEXPECTED", E_UNEXPECTED, nullptr},
     {"E_NOTIMPL", E_NOTIMPL, nullptr},
-    {"E_OUTOFMEMORY", E_OUTOFMEMORY, nullptr},
-    {"E_ACCESSDENIED", E_ACCESSDENIED, nullptr},
     {"an exception without any information", DISP_E_EXCEPTION, nullptr},
     {"no such member", DISP_E_MEMBERNOTFOUND, nullptr},
-    {"type mismatch", DISP_E_TYPEMISMATCH, nullptr},
-    {"number of arguments", DISP_E_BADPARAMCOUNT, nullptr},
     {"RPC_E_DISCONNECTED", RPC_E_DISCONNECTED, nullptr},
-    {"RPC_E_SERVERFAULT", RPC_E_SERVERFAULT, nullptr},
-    {"CO_E_OBJNOTCONNECTED", CO_E_OBJNOTCONNECTED, nullptr},
     {"the server is unavailable", Code(0x800706BA), nullptr},
-    {"the call failed", Code(0x800706BE), nullptr},
     {"a Basic error", Code(0x800A005B), nullptr},
     {"an unknown code", Code(0x87654321), nullptr},
     {"S_FALSE and no result", S_FALSE, [](VARIANT&) {}},
     {"no result", S_OK, [](VARIANT&) {}},
-    {"null", S_OK, [](VARIANT& result) { result.vt = VT_NULL; }},
     {"a null text", S_OK, [](VARIANT& result) { result.vt = VT_BSTR; }},
-    {"an empty text", S_OK, [](VARIANT& result) { PutText(result, {}); }},
     {"a huge text", S_OK, [](VARIANT& result) { PutText(result, std::wstring(1'000'000, L'x')); }},
-    {"a text of zeros", S_OK, [](VARIANT& result) { PutText(result, std::wstring(300, L'\0')); }},
     {"a null object", S_OK, [](VARIANT& result) { result.vt = VT_DISPATCH; }},
-    {"a null interface", S_OK, [](VARIANT& result) { result.vt = VT_UNKNOWN; }},
     {"a number", S_OK,
      [](VARIANT& result) {
          result.vt = VT_R8;
          result.dblVal = 1e300;
      }},
-    {"an error", S_OK,
-     [](VARIANT& result) {
-         result.vt = VT_ERROR;
-         result.scode = DISP_E_PARAMNOTFOUND;
-     }},
-    {"bytes", S_OK, PutBytes},
 };
 
 /// A desk with one database that has everything an open can need.
@@ -86,8 +62,7 @@ size_t StartAndOpen(const Desk& desk) {
     const std::string before = desk.SettingsBytes();
     DialogScript script;
     script.Otherwise(Leave);
-    frmMain window;
-    window.Load();
+    Main window;
     CHECK(window.Visible() != window.Unloaded());
     if (window.Visible()) window.Open_DB(L"Sales", kCalendarView, false);
     CHECK(window.Visible() != window.Unloaded());
@@ -108,7 +83,7 @@ size_t CallsOfARun() {
 }
 
 bool IsTried(size_t pair) {
-    constexpr size_t kPart = 27; // has no divisor in common with the number of faults
+    constexpr size_t kPart = 13; // has no divisor in common with the number of faults
     return pair % Setting("KELMORRA_SOAK_FAULTS", kPart) == 0;
 }
 
@@ -156,8 +131,7 @@ TEST_CASE("When ACT!'s user closes it during any call of the start or of an open
             return E_FAIL;
         };
         DialogScript script; // fails on any box
-        frmMain window;
-        window.Load();
+        Main window;
         if (!window.Unloaded()) window.Open_DB(L"Sales", kCalendarView, false);
         CAPTURE(at);
         RunToEnd(window);

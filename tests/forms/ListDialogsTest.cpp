@@ -3,29 +3,19 @@
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
-#include "i18n/modLangues.h"
-#include "program/Program.h"
 #include "stores/IniLib.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
-#include "support/Text.h"
-#include "support/Whole.h"
+#include "support/SettingsDesk.h"
 #include "support/Wide.h"
-#include "win32/Owner.h"
 
 #include <algorithm>
 
 namespace {
 
 std::wstring Sort() { return IniLib::GetKeyValue(L"General", L"Sort"); }
-
-void Press(HWND dialog, const wchar_t* name) {
-    HWND button = FindControl(dialog, name);
-    SendMessageW(GetParent(button), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(button), BN_CLICKED),
-                 reinterpret_cast<LPARAM>(button));
-}
 
 bool IsEnabled(HWND dialog, const wchar_t* name) { return IsWindowEnabled(FindControl(dialog, name)) != FALSE; }
 
@@ -66,23 +56,6 @@ int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
 
 } // namespace
 
-TEST_CASE("Names that come into sight when a long list gets shorter stay in it") {
-    ActDesk desk;
-    std::vector<std::wstring> names;
-    for (int number = 100; number < 180; ++number) names.push_back(std::to_wstring(number) + L" with a long name");
-    REQUIRE(IniLib::WriteKeyValue(L"General", L"Sort", Text::Join(names, L';')));
-    FakeMainWindow row(0);
-    DialogScript script;
-    script.Then([](HWND dialog) {
-        for (int count = 0; count < 3; ++count) Press(dialog, L"cmdRemove");
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    frmListMaintenance(row).ShowModal();
-    names.erase(names.begin(), names.begin() + 3);
-    CHECK(Whole(L"General", L"Sort") == Text::Join(names, L';'));
-    CHECK(script.All().size() == 1); // nobody is told of others' changes
-}
-
 TEST_CASE("Moves are written when the dialog closes, in any way, and the moved line stays selected") {
     ActDesk desk;
     const int selected = Maintain(desk, 2, [](HWND dialog) {
@@ -97,16 +70,6 @@ TEST_CASE("Moves are written when the dialog closes, in any way, and the moved l
     });
     CHECK(Sort() == L"C;A;B");
     CHECK(selected == 0);
-}
-
-TEST_CASE("Moves that nobody confirmed are not written when ACT! closes") {
-    ActDesk desk;
-    Maintain(desk, 0, [](HWND dialog) {
-        Press(dialog, L"cmdDown");
-        Program().ActIsClosing = true;
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    CHECK(Sort() == L"A;B;C");
 }
 
 TEST_CASE("Removing clears both stores and the buttons at once and selects the line that moved up, or the first") {
@@ -224,9 +187,7 @@ TEST_CASE("An addition keeps the moves made before it and is selected") {
             Click(FindControl(dialog, L"cmdClose"));
         },
         [](HWND properties) {
-            const std::pair<const wchar_t*, const wchar_t*> texts[] = {
-                {L"txtName", L"New"}, {L"txtPath", L"p"}, {L"txtCL", L"c"}, {L"txtUsername", L"u"}};
-            for (const auto& [box, text] : texts) SetWindowTextW(FindControl(properties, box), text);
+            for (const wchar_t* box : {L"txtName", L"txtPath", L"txtCL", L"txtUsername"}) Type(properties, box, L"New");
             Click(FindControl(properties, L"cmdOK"));
         });
     CHECK(Sort() == L"B;A;C;New");
@@ -249,26 +210,6 @@ TEST_CASE("Locations load and clear under the opened name and are written under 
     CHECK(desk.SettingsBytes().find("Attached Email=\r\n") != std::string::npos); // written, though empty
 }
 
-TEST_CASE("Clear followed by Cancel stays cleared; No and a database without a name change nothing") {
-    ActDesk desk;
-    desk.AddDatabase(L"Sales", {{L"Attached Email", L"C:\\Mail"}});
-    for (const int answer : {IDNO, IDYES}) {
-        DialogScript script;
-        script.Then([](HWND dialog) {
-            Press(dialog, L"cmdClear");
-            Click(FindControl(dialog, L"cmdCancel"));
-        });
-        script.Answer(answer);
-        frmPrefLocations(L"Sales", L"Sales").ShowModal();
-        CHECK(IniLib::GetKeyValue(L"Sales", L"Attached Email").empty() == (answer == IDYES));
-    }
-    const std::string before = desk.SettingsBytes();
-    DialogScript script;
-    script.Then([](HWND dialog) { Click(FindControl(dialog, L"cmdOK")); });
-    frmPrefLocations(L"", L"").ShowModal();
-    CHECK(desk.SettingsBytes() == before);
-}
-
 TEST_CASE("Another settings file is taken over only when it exists and differs, letter case included") {
     struct Case {
         std::wstring typed;
@@ -287,7 +228,7 @@ TEST_CASE("Another settings file is taken over only when it exists and differs, 
         frmLocations dialog;
         DialogScript script;
         script.Then([&](HWND window) {
-            SetWindowTextW(FindControl(window, L"txtPath"), test.typed.c_str());
+            Type(window, L"txtPath", test.typed);
             Press(window, L"cmdOK");
             if (test.isRefused) Click(FindControl(window, L"cmdCancel"));
         });

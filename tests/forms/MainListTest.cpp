@@ -26,6 +26,17 @@ void ClickColumn(const frmMain& window, int column) {
     SendMessageW(window.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&click));
 }
 
+/// The colour in which the row is drawn.
+COLORREF DrawnColor(const frmMain& window, int row) {
+    NMLVCUSTOMDRAW draw{};
+    draw.nmcd.hdr = {window.ListView1.Handle(), 0, NM_CUSTOMDRAW};
+    draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
+    draw.nmcd.lItemlParam = row;
+    draw.clrText = CLR_DEFAULT;
+    SendMessageW(window.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&draw));
+    return draw.clrText;
+}
+
 std::wstring FirstShown(const frmMain& window) {
     std::wstring text(100, L'\0');
     LVITEMW query{};
@@ -46,8 +57,7 @@ TEST_CASE("Rows show bare names for files in ACT!'s own folders and mark the ope
                                 {L"StartupMacro", L"C:\\Act\\Macro\\Hello.mpr"}});
     desk.AddDatabase(L"Service", {{L"Path", L"C:\\Data\\Service.dbf"}, {L"CLY", L"C:\\Act\\Layouts\\x.cly"}});
     desk.AddDatabase(L"Nothing", {});
-    frmMain window;
-    window.Load();
+    Main window;
     const ListView& list = window.ListView1;
     REQUIRE(list.RowCount() == 3);
     CHECK(list.Cell(0, 1) == L"Sales.cly");
@@ -55,11 +65,10 @@ TEST_CASE("Rows show bare names for files in ACT!'s own folders and mark the ope
     CHECK(list.Cell(0, 3) == L"Hello.mpr");
     CHECK(list.Cell(0, 4) == L"C:\\Data\\Sales.dbf");
     CHECK(list.Cell(1, 1) == L"C:\\Act\\Layouts\\x.cly");
-    CHECK(list.RowColor(0) == RGB(255, 0, 0));
-    CHECK(list.RowColor(1) == CLR_DEFAULT);
-    CHECK(list.RowColor(2) == CLR_DEFAULT);
+    CHECK(DrawnColor(window, 0) == RGB(255, 0, 0));
+    CHECK(DrawnColor(window, 1) == CLR_DEFAULT);
+    CHECK(DrawnColor(window, 2) == CLR_DEFAULT);
     CHECK(Program().OpenDatabaseNames == L"|Sales|");
-    End(window);
 }
 
 TEST_CASE("Where ACT! does not answer, all rows are there with full paths and none in red, and one report") {
@@ -72,8 +81,7 @@ TEST_CASE("Where ACT! does not answer, all rows are there with full paths and no
         desk.Act.Failures[member] = {.Plain = E_FAIL};
         DialogScript script;
         script.Answer(IDOK);
-        frmMain window;
-        window.Load();
+        Main window;
         const bool knowsFolders = member[3] == L'O';
         CHECK(window.ListView1.RowCount() == 2);
         CHECK(window.ListView1.Selected() == 1);
@@ -81,36 +89,14 @@ TEST_CASE("Where ACT! does not answer, all rows are there with full paths and no
         CHECK((window.ListView1.RowColor(1) == CLR_DEFAULT) == knowsFolders);
         CHECK(window.ListView1.RowColor(0) == CLR_DEFAULT);
         CHECK(script.All()[0].Text.find(L"in frmMain: Sub Form_Load - Line # ") != std::wstring::npos);
-        End(window);
     }
-}
-
-TEST_CASE("A double-click beside the rows is one for none, and a right click on the titles is none on a row") {
-    ActDesk desk;
-    desk.AddDatabase(L"Sales", {});
-    frmMain window;
-    window.Load();
-    HWND list = window.ListView1.Handle();
-    RECT titles{};
-    GetWindowRect(reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)), &titles);
-    SendMessageW(window.Handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list),
-                 MAKELPARAM(titles.left + 5, titles.top + 5)); // would wait for its menu
-    NMITEMACTIVATE click{};
-    click.hdr = {list, 0, NM_DBLCLK};
-    click.iItem = -1;
-    DialogScript script;
-    script.Answer(IDOK);
-    SendMessageW(window.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&click));
-    CHECK(script.All()[0].Text == L"No database selected!");
-    End(window);
 }
 
 TEST_CASE("A click on a column sorts, a second one reverses; the selection counts in list order all the same") {
     ActDesk desk;
     for (const wchar_t* name : {L"Mike", L"Zulu", L"alpha"}) desk.AddDatabase(name, {});
     UserStore::Set(L"Display", L"Selected", L"1");
-    frmMain window;
-    window.Load();
+    Main window;
     CHECK(FirstShown(window) == L"Mike");
     CHECK(ColumnTitle(window, 0) == L"Database");
     ClickColumn(window, 0);
@@ -133,20 +119,23 @@ TEST_CASE("A change of language keeps rows, size and the sort marker, and does n
     ActDesk desk;
     desk.AddDatabase(L"Sales", {});
     desk.AddDatabase(L"Service", {});
-    frmMain window;
-    window.Load();
+    Main window;
     window.OuterSize(9990, 6000);
     ClickColumn(window, 4);
     desk.Act.Calls.clear();
     {
         DialogScript script;
-        script.Then([](HWND dialog) {
+        script.Then([&](HWND dialog) {
+            CHECK_FALSE(IsWindowEnabled(window.Handle()));
+            CHECK(GetWindow(dialog, GW_OWNER) == window.Handle());
             SendMessageW(FindControl(dialog, L"cmbLanguage"), CB_SETCURSEL, 2, 0);
             Click(FindControl(dialog, L"cmdOK"));
         });
         window.mnuLanguages.Click();
     }
     CHECK(window.ListView1.RowCount() == 2);
+    CHECK(IsWindowEnabled(window.Handle()));
+    CHECK(GetActiveWindow() == window.Handle());
     CHECK(window.ListView1.ColumnCount() == 5);
     CHECK(ColumnTitle(window, 4).starts_with(L"> "));
     CHECK(ColumnTitle(window, 4) != L"> Database Path");
@@ -154,5 +143,4 @@ TEST_CASE("A change of language keeps rows, size and the sort marker, and does n
     CHECK(window.OuterSize().Width == 9990);
     CHECK(window.OuterSize().Height == 6000);
     CHECK(desk.Act.CallsSince(0).find(L"OpenFile") == std::wstring::npos);
-    End(window);
 }

@@ -1,10 +1,10 @@
 // Start-up and shut-down of the main window.
 
 #include "app/frmWaiting.h"
-#include "i18n/modLangues.h"
-#include "program/Program.h"
+#include "opening/LinkMenuItem.h"
 #include "stores/Backup.h"
 #include "stores/IniLib.h"
+#include "stores/SafeFile.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/BusyWait.h"
@@ -13,6 +13,8 @@
 #include "support/MsgBox.h"
 #include "support/Wide.h"
 #include "win32/Owner.h"
+
+#include <shlwapi.h>
 
 extern decltype(&CreateFileW) importedCreateFile __asm__("__imp__CreateFileW@28");
 
@@ -32,8 +34,7 @@ HANDLE WINAPI CreateNone(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATT
 DialogScript::Seen RefusedStart() {
     DialogScript script;
     script.Answer(IDOK);
-    frmMain window;
-    window.Load();
+    Main window;
     RunToEnd(window);
     REQUIRE(script.All().size() == 1);
     return script.All()[0];
@@ -53,6 +54,11 @@ TEST_CASE("A refused start tells why and leaves sizes, columns and selection as 
              act.State[{L"Presets", L"RegistrationFailed"}] = L"1";
          },
          L"Problem registering ACT! event.\r\nPlease run actreg.exe in your ACT! folder and try again."},
+        {[](FakeAct&) {
+             SHDeleteKeyW(HKEY_LOCAL_MACHINE,
+                          L"Software\\Classes\\ACTEVENTLib.ActEvent"); // made again by the next desk
+         },
+         L"Problem registering ACT! event.\r\nPlease run actreg.exe in your ACT! folder and try again."},
         {[](FakeAct& act) { act.User.clear(); },
          L"Please make sure a database is open or ACT! completely closed before running Kelmorra!"}};
     for (const Case& test : cases) {
@@ -68,19 +74,6 @@ TEST_CASE("A refused start tells why and leaves sizes, columns and selection as 
     }
 }
 
-TEST_CASE("ACT! failing before the list is due ends the program with one report") {
-    for (const wchar_t* member : {L"Views", L"GetCurrentUserName"}) {
-        ActDesk desk;
-        desk.Act.Failures[member] = {.Plain = DISP_E_MEMBERNOTFOUND};
-        const DialogScript::Seen seen = RefusedStart();
-        CHECK(seen.Title == L"Kelmorra error");
-        CHECK(seen.Text.starts_with(L"Error 438: '"));
-        const wchar_t* place =
-            member[0] == L'V' ? L"in Module1: Sub Create_object - " : L"in frmMain: Sub Form_Load - ";
-        CHECK(seen.Text.find(place) != std::wstring::npos);
-    }
-}
-
 TEST_CASE("From the settings file on, a failure is told once and leaves a usable window") {
     for (const bool isDenied : {false, true}) {
         CAPTURE(isDenied);
@@ -90,8 +83,7 @@ TEST_CASE("From the settings file on, a failure is told once and leaves a usable
         const Detour denial(importedCreateFile, isDenied ? CreateNone : realCreateFile);
         DialogScript script;
         script.Answer(IDOK);
-        frmMain window;
-        window.Load();
+        Main window;
         REQUIRE(script.All().size() == 1);
         const std::wstring told = script.All()[0].Text;
         const std::wstring hint = L"The list of databases cannot be kept in\r\n" + desk.SettingsFile() +
@@ -102,7 +94,6 @@ TEST_CASE("From the settings file on, a failure is told once and leaves a usable
         CHECK(window.Visible());
         CHECK(window.ListView1.ColumnCount() == 5);
         CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");
-        End(window);
     }
 }
 
@@ -121,22 +112,6 @@ void Leave(const ActDesk& desk, bool isKept, const char* bytes) {
 }
 
 } // namespace
-
-TEST_CASE("A folder whose name the code page lacks holds the settings file as any other does, start after start") {
-    ActDesk desk;
-    const std::wstring folder = desk.SettingsFile().substr(0, desk.SettingsFile().rfind(L'\\')) + L"\\\u0416\u0101";
-    REQUIRE(CreateDirectoryW(folder.c_str(), nullptr));
-    UserStore::Set(L"Settings", L"IniLocation", folder + L"\\Kelmorra.ini");
-    const DialogScript script; // fails on any report
-    for (int start = 0; start < 2; ++start) {
-        frmMain window;
-        window.Load();
-        CHECK(window.ListView1.RowCount() == start);
-        desk.AddDatabase(std::to_wstring(start), {});
-        End(window);
-    }
-    CHECK(UserStore::Get(L"Settings", L"IniLocation") == folder + L"\\Kelmorra.ini");
-}
 
 TEST_CASE("A settings file that is empty or away is restored or not, as the user says, unless somebody mends it") {
     struct Row {
@@ -157,13 +132,11 @@ TEST_CASE("A settings file that is empty or away is restored or not, as the user
             PostMessageW(question, WM_COMMAND, static_cast<WPARAM>(row.answer), 0);
         });
         if (row.isMended && row.answer == IDYES) script.Answer(IDOK);
-        frmMain window;
-        window.Load();
+        Main window;
         CHECK(window.Visible());
         CHECK(script.All()[0].Text.find(desk.SettingsFile() + L"\r\nis empty") != std::wstring::npos);
         CHECK(script.All()[0].Text.find(L'%') == std::wstring::npos);
         CHECK(desk.SettingsBytes() == row.after);
-        End(window);
     }
 }
 
@@ -174,10 +147,8 @@ TEST_CASE("Nobody is asked about a settings file that holds an empty list, or th
         Leave(desk, isKept, bytes);
         REQUIRE(Backup::LastGood(desk.SettingsFile()).has_value() == isKept);
         const DialogScript script; // fails on any question
-        frmMain window;
-        window.Load();
+        Main window;
         CHECK(window.Visible());
-        End(window);
     }
 }
 
@@ -189,8 +160,7 @@ TEST_CASE("A list that cannot be read at the start is told of, and neither it no
         CreateFileW(desk.SettingsFile().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     DialogScript script;
     script.Answer(IDOK).Answer(IDOK);
-    frmMain window;
-    window.Load();
+    Main window;
     window.Open_DB(L"Sales", 0, false);
     for (const DialogScript::Seen& seen : script.All())
         CHECK(seen.Text.find(desk.SettingsFile() + L"\r\ncannot be read at the moment") != std::wstring::npos);
@@ -206,8 +176,7 @@ TEST_CASE("ACT!'s defaults are recorded at every start, and sizes survive in eit
     UserStore::Set(L"Settings", L"Width", L"9990,0");
     UserStore::Set(L"Settings", L"Height", L"rubbish");
     UserStore::Set(L"Settings", L"Column2", L"3000.4");
-    frmMain window;
-    window.Load();
+    Main window;
     CHECK(UserStore::Get(L"Settings", L"OriginalCL") == L"C:\\Act\\Layout\\own.cly");
     CHECK(UserStore::Get(L"Settings", L"OriginalGL") == L"C:\\Act\\Layout\\own.gly");
     CHECK(UserStore::Get(L"Settings", L"OriginalMacro") == L"C:\\Act\\Macro\\own.mpr");
@@ -221,22 +190,67 @@ TEST_CASE("ACT!'s defaults are recorded at every start, and sizes survive in eit
     CHECK(UserStore::Get(L"Settings", L"Column2") == L"1500");
 }
 
-TEST_CASE("Settings of version 200 are wiped but for the settings file's place; log-on values move to the user") {
+TEST_CASE("Settings of an earlier version are upgraded: log-on values move to the user, those of 200 are wiped") {
+    struct Row {
+        const wchar_t* version;
+        bool isUpgraded;
+        bool isWiped; ///< but for the settings file's place: the first run's language dialog comes again
+    };
+    for (const auto& [version, isUpgraded, isWiped] :
+         {Row{L"32", false, false}, Row{L"3", false, false}, Row{L"31", true, false}, Row{L"200", true, true}}) {
+        CAPTURE(std::wstring(version));
+        ActDesk desk;
+        desk.AddDatabase(L"Sales", {{L"Username", L"Chris"}});
+        UserStore::Set(L"Settings", L"Version", version);
+        UserStore::Set(L"Service", L"Username", L"old");
+        DialogScript script;
+        if (isWiped) script.Then([](HWND window) { Click(FindControl(window, L"cmdOK")); });
+        const Main window;
+        CHECK(UserValue(L"Sales", L"Username") == (isUpgraded ? L"Chris" : L"(none)"));
+        CHECK(IniValue(L"Sales", L"Username") == (isUpgraded ? L"(none)" : L"Chris"));
+        CHECK(UserValue(L"Service", L"Username") == (isWiped ? L"(none)" : L"old"));
+        CHECK(UserValue(L"Settings", L"Version") == L"320");
+        CHECK(UserValue(L"Settings", L"IniLocation") == desk.SettingsFile());
+        CHECK(UserValue(L"Settings", L"Installed") == L"1");
+    }
+}
+
+TEST_CASE("A web link is put into ACT!'s folder of links, when ACT! has one") {
+    const TempFile act(L"act.exe");
+    Create_LinkMenuItem(act.Path(), L"Add-ons");
+    CHECK(std::filesystem::is_empty(act.Folder()));
+    std::filesystem::create_directory(act.Folder() + L"\\NetLinks");
+    Create_LinkMenuItem(act.Path(), L"Add-ons");
+    const std::string bytes = SafeFile::Read(act.Folder() + L"\\NetLinks\\1010it_Varnholtine.web").Bytes;
+    CHECK(bytes == "]https://www.varnholtine.example/ Add-ons\r\n");
+}
+
+TEST_CASE("A call that ACT! refuses is made again until somebody has had enough, who is asked after ten seconds") {
     ActDesk desk;
-    desk.AddDatabase(L"Sales", {{L"Username", L"Chris"}});
-    UserStore::Set(L"Settings", L"Version", L"200");
-    UserStore::Set(L"Service", L"Username", L"old");
-    DialogScript script; // wiped: the first run's language dialog comes again
-    script.Then([](HWND window) { Click(FindControl(window, L"cmdOK")); });
-    frmMain window;
-    window.Load();
-    CHECK(UserStore::Get(L"Settings", L"Version") == L"320");
-    CHECK(UserStore::Get(L"Settings", L"IniLocation") == desk.SettingsFile());
-    CHECK(UserStore::Get(L"Service", L"Username", L"gone") == L"gone");
-    CHECK(UserStore::Get(L"Sales", L"Username") == L"Chris");
-    CHECK(IniLib::GetKeyValue(L"Sales", L"Username").empty());
-    CHECK(UserStore::Get(L"Settings", L"Installed") == L"1");
-    End(window);
+    desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Sales.dbf"}});
+    frmWaiting::Serve();
+    Main window;
+    int refusals = 0;
+    DialogScript script;
+    desk.Act.Fault = [&](const std::wstring& member, VARIANT*) -> std::optional<HRESULT> {
+        if (member != L"DefaultContactLayout") return std::nullopt;
+        if (++refusals == 1) { // as after so many seconds of them
+            BusyWait::Now->IsCancelled(9'999);
+            CHECK(Form::Loaded().size() == 1);
+            BusyWait::Now->IsCancelled(10'000);
+            CHECK(Form::Loaded().size() == 2);
+        }
+        return RPC_E_SERVERCALL_RETRYLATER;
+    };
+    script.Then([](HWND waiting) {
+        CHECK(WindowText(FindControl(waiting, L"lblWaiting")).starts_with(L"Kelmorra is waiting for ACT!"));
+        Click(FindControl(waiting, L"cmdCancel"));
+    });
+    script.Answer(IDOK);
+    window.Open_DB(L"Sales", 0, false);
+    CHECK(script.All()[1].Text.find(L"in frmMain: Sub cmdOpen_Click - Line # ") != std::wstring::npos);
+    CHECK(window.Visible());
+    BusyWait::Now = nullptr;
 }
 
 TEST_CASE("Told to close while dialogs are open, the window leaves them one after another, with the moves made") {
@@ -245,77 +259,46 @@ TEST_CASE("Told to close while dialogs are open, the window leaves them one afte
     SUBCASE("by the end of the session") { isSessionOver = true; }
     ActDesk desk;
     for (const wchar_t* name : {L"A", L"B"}) desk.AddDatabase(name, {});
-    frmMain window;
-    window.Load();
+    Main window;
     DialogScript script;
     script.Then([](HWND list) {
         TranslateKey(FindControl(list, L"lstDB"), VK_DOWN, VK_MENU);
         Click(FindControl(list, L"cmdAdd"));
     });
     script.Then([&](HWND) {
-        if (isSessionOver)
-            SendMessageW(window.Handle(), WM_ENDSESSION, TRUE, 0);
-        else
-            PostMessageW(window.Handle(), WM_CLOSE, 0, 0);
+        if (!isSessionOver) return PostMessageW(window.Handle(), WM_CLOSE, 0, 0), void();
+        CHECK(SendMessageW(window.Handle(), WM_QUERYENDSESSION, 0, 0) == TRUE);
+        SendMessageW(window.Handle(), WM_ENDSESSION, FALSE, 0);
+        CHECK(Form::Loaded().size() == 3);
+        SendMessageW(window.Handle(), WM_ENDSESSION, TRUE, 0);
+        CHECK(IniValue(L"General", L"Sort") == L"B;A");
+        CHECK(UserValue(L"Settings", L"Width") == L"8475");
     });
     window.mnuManageList.Click();
-    if (isSessionOver)
-        End(window);
-    else
-        RunToEnd(window);
-    CHECK(IniLib::GetKeyValue(L"General", L"Sort") == L"B;A");
+    if (!isSessionOver) RunToEnd(window);
+    CHECK(IniValue(L"General", L"Sort") == L"B;A");
     SilenceMessages(false);
-}
-
-TEST_CASE("While nothing is to be seen and ACT! refuses a call for ten seconds, a small window can end the waiting") {
-    ActDesk desk;
-    desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Sales.dbf"}});
-    frmWaiting::Serve();
-    frmMain window;
-    window.Load();
-    desk.Act.Fault = [](const std::wstring& member, VARIANT*) -> std::optional<HRESULT> {
-        if (member == L"DefaultContactLayout") return RPC_E_SERVERCALL_RETRYLATER;
-        return std::nullopt;
-    };
-    DialogScript script;
-    script.Then([](HWND waiting) {
-        CHECK(WindowText(FindControl(waiting, L"lblWaiting")).starts_with(L"Kelmorra is waiting for ACT!"));
-        Click(FindControl(waiting, L"cmdCancel"));
-    });
-    script.Answer(IDOK);
-    const DWORD start = GetTickCount();
-    window.Open_DB(L"Sales", 0, false);
-    CHECK(GetTickCount() - start >= 10'000);
-    CHECK(script.All()[1].Text.find(L"in frmMain: Sub cmdOpen_Click - Line # ") != std::wstring::npos);
-    CHECK(window.Visible());
-    End(window);
-    BusyWait::Now = nullptr;
 }
 
 TEST_CASE("When ACT!'s user closes it, the program answers yes and follows, whatever is on screen") {
     ActDesk desk;
-    frmMain window;
+    Main window;
+    DialogScript script;
+    const auto close = [&](HWND) { desk.Act.UserWantsToClose(); };
     SUBCASE("with nothing but the window, and an answer that fails") {
         desk.Act.Failures[L"AnswerUserWantsToClose"] = {.Plain = E_FAIL};
-        window.Load();
-        desk.Act.UserWantsToClose();
-        RunToEnd(window);
+        close(nullptr);
     }
     SUBCASE("with a dialog") {
-        window.Load();
-        DialogScript script;
-        script.Then([&](HWND) { desk.Act.UserWantsToClose(); });
+        script.Then(close);
         window.mnuLanguages.Click();
-        RunToEnd(window);
         CHECK(UserStore::Get(L"Options", L"Language", L"none") == L"none");
     }
     SUBCASE("with a message box") {
-        window.Load();
-        DialogScript script;
-        script.Then([&](HWND) { desk.Act.UserWantsToClose(); });
+        script.Then(close);
         window.Open_DB(L"", 0, false);
-        RunToEnd(window);
     }
+    RunToEnd(window);
     const std::wstring calls = desk.Act.CallsSince(0);
     CHECK(calls.ends_with(L"AnswerUserWantsToClose(VT_BOOL True)\nClose()\n"));
 }

@@ -94,14 +94,6 @@ void CheckNothingLost(Stored before, Stored after, const std::wstring& touched, 
     }
 }
 
-void Press(HWND form, const wchar_t* name) {
-    HWND button = FindControl(form, name);
-    SendMessageW(GetParent(button), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(button), BN_CLICKED),
-                 reinterpret_cast<LPARAM>(button));
-}
-void Type(HWND form, const wchar_t* box, const wchar_t* text) { SetWindowTextW(FindControl(form, box), text); }
-void Key(HWND form, WORD key, WORD held) { TranslateKey(FindControl(form, L"lstDB"), key, held); }
-
 FakeMainWindow row;
 void Maintain() {
     row.Row = 0;
@@ -115,126 +107,52 @@ void Edit() {
     frmProperties(&row).ShowModal();
 }
 
-/// A dialog, what its user does in it, and what may have changed by it.
+/// What the user does, and what becomes of the share meanwhile.
+enum class Act { Away, Back, ReadOnly, Writable, Down, Undo, Remove, Add, Rename, Fill, Ok, Cancel, Close };
+
+void Play(const Office& office, HWND form, Act act) {
+    switch (act) {
+    case Act::Away: return office.Away();
+    case Act::Back: return office.Back();
+    case Act::ReadOnly: return office.Writable(false);
+    case Act::Writable: return office.Writable(true);
+    case Act::Down: return TranslateKey(FindControl(form, L"lstDB"), VK_DOWN, VK_MENU);
+    case Act::Undo: return TranslateKey(FindControl(form, L"lstDB"), 'Z', VK_CONTROL);
+    case Act::Remove: return Press(form, L"cmdRemove");
+    case Act::Add: return Press(form, L"cmdAdd");
+    case Act::Rename: return Type(form, L"txtName", L"New");
+    case Act::Fill: return Type(form, L"txtCL", L"C:\\s.cly"), Type(form, L"txtUsername", L"Chris");
+    case Act::Ok: return Press(form, L"cmdOK");
+    case Act::Cancel: return Press(form, L"cmdCancel");
+    case Act::Close: return Press(form, L"cmdClose");
+    }
+}
+
+/// A dialog, what happens in it, and what may have changed by it. When the first act is Back, the share is away before
+/// the dialog opens.
 struct Row {
     const char* what;
     void (*open)();
-    void (*play)(const Office& office, HWND form);
-    bool isAwayFirst = false; ///< the share is away when the dialog opens
+    std::vector<Act> acts;
     const wchar_t* touched = L"";
     const wchar_t* newName = L"";
 };
 
 const Row kRows[] = {
-    {"Move Up, away at Close", Maintain,
-     [](const Office& office, HWND form) {
-         Key(form, VK_DOWN, VK_MENU);
-         office.Away();
-         Press(form, L"cmdClose");
-         office.Back();
-     }},
-    {"away at Move Down, back at Close", Maintain,
-     [](const Office& office, HWND form) {
-         office.Away();
-         Key(form, VK_DOWN, VK_MENU);
-         office.Back();
-         Press(form, L"cmdClose");
-     }},
-    {"away at Remove, back at Close", Maintain,
-     [](const Office& office, HWND form) {
-         office.Away();
-         Press(form, L"cmdRemove");
-         office.Back();
-         Press(form, L"cmdClose");
-     },
-     false, L"Sales"},
-    {"read-only at Remove, writable at Close", Maintain,
-     [](const Office& office, HWND form) {
-         office.Writable(false);
-         Press(form, L"cmdRemove");
-         office.Writable(true);
-         Press(form, L"cmdClose");
-     },
-     false, L"Sales"},
-    {"away at undo, back at Close", Maintain,
-     [](const Office& office, HWND form) {
-         Press(form, L"cmdRemove");
-         office.Away();
-         Key(form, 'Z', VK_CONTROL);
-         office.Back();
-         Press(form, L"cmdClose");
-     },
-     false, L"Sales"},
-    {"away at undo, undone when back", Maintain,
-     [](const Office& office, HWND form) {
-         Press(form, L"cmdRemove");
-         office.Away();
-         Key(form, 'Z', VK_CONTROL);
-         office.Back();
-         Key(form, 'Z', VK_CONTROL);
-         Press(form, L"cmdClose");
-     }},
-    {"away at Add and its Cancel, back at Close", Maintain,
-     [](const Office& office, HWND form) {
-         office.Away();
-         Press(form, L"cmdAdd");
-         office.Back();
-         Press(form, L"cmdClose");
-     }},
-    {"palette settings opened while away, OK when back", Assign,
-     [](const Office& office, HWND form) {
-         office.Back();
-         Press(form, L"cmdOK");
-     },
-     true},
-    {"palette settings, away at OK", Assign,
-     [](const Office& office, HWND form) {
-         office.Away();
-         Press(form, L"cmdOK");
-         office.Back();
-         Press(form, L"cmdOK");
-     }},
-    {"locations opened while away, OK when back", Locate,
-     [](const Office& office, HWND form) {
-         office.Back();
-         Press(form, L"cmdOK");
-     },
-     true},
-    {"properties opened while away, OK when back", Edit,
-     [](const Office& office, HWND form) {
-         office.Back();
-         Type(form, L"txtCL", L"C:\\s.cly");
-         Type(form, L"txtUsername", L"Chris");
-         Press(form, L"cmdOK");
-     },
-     true},
-    {"rename, read-only at the first OK, writable at the second", Edit,
-     [](const Office& office, HWND form) {
-         Type(form, L"txtName", L"New");
-         office.Writable(false);
-         Press(form, L"cmdOK");
-         office.Writable(true);
-         Press(form, L"cmdOK");
-     },
-     false, L"Sales", L"New"},
-    {"rename, away at OK and back at Cancel", Edit,
-     [](const Office& office, HWND form) {
-         Type(form, L"txtName", L"New");
-         office.Away();
-         Press(form, L"cmdOK");
-         office.Back();
-         Press(form, L"cmdCancel");
-     },
-     false, L"Sales", L"New"},
-    {"rename, away at the first OK and back at the second", Edit,
-     [](const Office& office, HWND form) {
-         Type(form, L"txtName", L"New");
-         office.Away();
-         Press(form, L"cmdOK");
-         office.Back();
-         Press(form, L"cmdOK");
-     },
-     false, L"Sales", L"New"},
+    {"move, away at Close", Maintain, {Act::Down, Act::Away, Act::Close, Act::Back}},
+    {"away at the move", Maintain, {Act::Away, Act::Down, Act::Back, Act::Close}},
+    {"away at Remove", Maintain, {Act::Away, Act::Remove, Act::Back, Act::Close}, L"Sales"},
+    {"read-only at Remove", Maintain, {Act::ReadOnly, Act::Remove, Act::Writable, Act::Close}, L"Sales"},
+    {"away at undo", Maintain, {Act::Remove, Act::Away, Act::Undo, Act::Back, Act::Close}, L"Sales"},
+    {"undone when back", Maintain, {Act::Remove, Act::Away, Act::Undo, Act::Back, Act::Undo, Act::Close}},
+    {"away at Add", Maintain, {Act::Away, Act::Add, Act::Back, Act::Close}},
+    {"buttons, away at first", Assign, {Act::Back, Act::Ok}},
+    {"buttons, away at OK", Assign, {Act::Away, Act::Ok, Act::Back, Act::Ok}},
+    {"locations, away at first", Locate, {Act::Back, Act::Ok}},
+    {"properties, away at first", Edit, {Act::Back, Act::Fill, Act::Ok}},
+    {"rename, read-only", Edit, {Act::Rename, Act::ReadOnly, Act::Ok, Act::Writable, Act::Ok}, L"Sales", L"New"},
+    {"rename, cancelled", Edit, {Act::Rename, Act::Away, Act::Ok, Act::Back, Act::Cancel}, L"Sales", L"New"},
+    {"rename, away", Edit, {Act::Rename, Act::Away, Act::Ok, Act::Back, Act::Ok}, L"Sales", L"New"},
 };
 
 } // namespace
@@ -250,9 +168,9 @@ TEST_CASE("A share that goes away for a moment takes nothing with it") {
                 // Message boxes, and dialogs that open behind the first one, are left.
                 if (isPlayed || GetDlgItem(window, 0xFFFF)) return Leave(window);
                 isPlayed = true;
-                test.play(office, window);
+                for (const Act act : test.acts) Play(office, window, act);
             });
-            if (test.isAwayFirst) office.Away();
+            if (test.acts.front() == Act::Back) office.Away();
             test.open();
         }
         if (!fs::exists(office.Path())) office.Back();

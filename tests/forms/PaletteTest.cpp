@@ -5,40 +5,19 @@
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
 #include "stores/IniLib.h"
-#include "stores/RegistrySubs.h"
 #include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/DialogScript.h"
+#include "support/FakeMainWindow.h"
 #include "support/Wide.h"
 
 namespace {
 
-/// The main window as the palette sees it.
-class NotedOpens : public MainWindow {
-public:
-    void Open_DB(const std::wstring& name, short viewCode, bool mainHidden) override {
-        Opened += name + L"/" + std::to_wstring(viewCode) + (mainHidden ? L"/hidden;" : L"/shown;");
-    }
-    void ShowMain() override { ++Shown; }
-    int SelectedIndex() const override { return -1; }
-    void SelectedIndex(int) override {}
-    void ReplaceRow(const std::wstring&, const DatabaseRecord&) override {}
-
-    std::wstring Opened;
-    int Shown = 0;
-};
-
 void Assign(const wchar_t* buttons) { IniLib::WriteKeyValue(L"General", L"QuickSwitch", buttons); }
 
-/// What a showing of the palette did to the main window.
-struct Outcome {
-    std::wstring Opened;
-    int Shown;
-};
-
-/// Shows the palette and plays one step in it.
-Outcome Show(const std::function<void(frmQuickSwitch&, HWND)>& step) {
-    NotedOpens main;
+/// Shows the palette and plays one step in it. What it let the main window open, and how often it brought it back.
+std::pair<std::wstring, int> Show(const std::function<void(frmQuickSwitch&, HWND)>& step) {
+    FakeMainWindow main;
     frmQuickSwitch palette(main);
     DialogScript script;
     script.Then([&](HWND window) { step(palette, window); });
@@ -46,22 +25,23 @@ Outcome Show(const std::function<void(frmQuickSwitch&, HWND)>& step) {
     return {main.Opened, main.Shown};
 }
 
-void Press(HWND palette, const wchar_t* button) {
-    HWND box = FindControl(palette, button);
-    SendMessageW(palette, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(box), BN_CLICKED), reinterpret_cast<LPARAM>(box));
-}
-
-std::wstring ActText(const wchar_t* key, const wchar_t* name) {
-    const auto value = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, key, name);
-    const auto* text = std::get_if<std::wstring>(&value);
-    return text ? *text : L"(none)";
-}
-
-void MakeActKeys() {
-    for (const wchar_t* name : {L"Software\\Symantec\\ACT!\\Database", L"Software\\Symantec\\ACT!\\General"}) {
-        RegistryKey key;
-        RegCreateKeyExW(HKEY_CURRENT_USER, name, 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(), nullptr);
-    }
+/// How a button is drawn: a number that is another one for every other picture.
+std::uint64_t LookOf(HWND button) {
+    constexpr int kSide = 40;
+    HDC screen = GetDC(button);
+    HDC canvas = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, kSide, kSide);
+    const HGDIOBJ before = SelectObject(canvas, bitmap);
+    DRAWITEMSTRUCT draw{
+        ODT_BUTTON, static_cast<UINT>(GetDlgCtrlID(button)), 0, ODA_DRAWENTIRE, 0, button, canvas, {0, 0, kSide, kSide},
+        0};
+    SendMessageW(GetParent(button), WM_DRAWITEM, draw.CtlID, reinterpret_cast<LPARAM>(&draw));
+    std::uint64_t look = 0;
+    for (int place = 0; place < kSide; ++place) look = look * 31 + GetPixel(canvas, place, kSide / 4);
+    DeleteObject(SelectObject(canvas, before));
+    DeleteDC(canvas);
+    ReleaseDC(button, screen);
+    return look;
 }
 
 } // namespace
@@ -92,7 +72,7 @@ TEST_CASE(
     ActDesk desk;
     Assign(L"Sales;Service");
     Program().OpenDatabaseNames = L"|Service||Sal|";
-    const Outcome main = Show([](frmQuickSwitch&, HWND window) {
+    const auto [opened, shown] = Show([](frmQuickSwitch&, HWND window) {
         CHECK(WindowText(FindControl(window, L"pic1")) == L"Sales");
         CHECK(WindowText(FindControl(window, L"pic2")) == L"(Service)");
         Press(window, L"pic2");
@@ -100,8 +80,8 @@ TEST_CASE(
         Press(window, L"pic1");
         Press(window, L"pic1");
     });
-    CHECK(main.Opened == L"Sales/0/hidden;");
-    CHECK(main.Shown == 0);
+    CHECK(opened == L"Sales/0/hidden;");
+    CHECK(shown == 0);
 }
 
 TEST_CASE("Only closing the palette brings the main window back; Exit, Esc and a button do not") {
@@ -115,35 +95,14 @@ TEST_CASE("Only closing the palette brings the main window back; Exit, Esc and a
           Case{[](frmQuickSwitch&palette, HWND) { palette.mnuExit.Click(); }, 0},
           Case{[](frmQuickSwitch&, HWND window) { PostMessageW(FocusIn(window), WM_KEYDOWN, VK_ESCAPE, 1); }, 0}}) {
         ActDesk desk;
-        CHECK(Show(test.leave).Shown == test.shown);
+        CHECK(Show(test.leave).second == test.shown);
     }
-}
-
-TEST_CASE("The palette comes back where it was left, and onto the screen from a monitor that is gone") {
-    ActDesk desk;
-    NotedOpens main;
-    // Loaded and not shown: under a window manager a shown window's place is not the program's alone.
-    const auto positionAtLoad = [&main] {
-        frmQuickSwitch palette(main);
-        palette.Load();
-        const Twips position = palette.Position();
-        palette.mnuExit.Click();
-        return std::pair{position.Left, position.Top};
-    };
-    UserStore::Set(L"Settings", L"QuickLeft", L"1500");
-    UserStore::Set(L"Settings", L"QuickTop", L"3000");
-    CHECK(positionAtLoad() == std::pair{1500, 3000});
-    CHECK(UserStore::Get(L"Settings", L"QuickLeft") == L"1500");
-    UserStore::Set(L"Settings", L"QuickLeft", L"-90000,5");
-    CHECK(positionAtLoad() == std::pair{0, 3000});
-    CHECK(UserStore::Get(L"Settings", L"QuickLeft") == L"0");
-    CHECK(UserStore::Get(L"Settings", L"QuickTop") == L"3000");
 }
 
 TEST_CASE("Keys move the focus and press buttons") {
     ActDesk desk;
     Assign(L"A;B;C;D");
-    const Outcome main = Show([](frmQuickSwitch&, HWND window) {
+    const auto [opened, shown] = Show([](frmQuickSwitch&, HWND window) {
         CHECK(FocusIn(window) == FindControl(window, L"pic1"));
         SendMessageW(FocusIn(window), WM_KEYDOWN, VK_RIGHT, 1);
         CHECK(FocusIn(window) == FindControl(window, L"pic3"));
@@ -153,7 +112,7 @@ TEST_CASE("Keys move the focus and press buttons") {
         CHECK(FocusIn(window) == FindControl(window, L"pic4"));
         SendMessageW(FocusIn(window), WM_KEYDOWN, VK_NUMPAD2, 1);
     });
-    CHECK(main.Opened == L"B/0/hidden;");
+    CHECK(opened == L"B/0/hidden;");
 }
 
 TEST_CASE("A place from which the control box cannot be reached is moved onto the nearest screen") {
@@ -177,7 +136,7 @@ TEST_CASE("A scheme that is none is reported, and the palette still comes up") {
         ActDesk desk;
         Assign(L"A");
         IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", scheme);
-        NotedOpens main;
+        FakeMainWindow main;
         frmQuickSwitch palette(main);
         DialogScript script;
         script.Answer(IDOK).Then([&](HWND window) {
@@ -214,34 +173,63 @@ TEST_CASE("The settings offer every database, drop a vanished name, and write al
     CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitchStartup") == L"1");
 }
 
-TEST_CASE(
-    "Without a running ACT! the palette's choice goes into ACT!'s own settings; leaving without one writes nothing") {
-    for (const bool isChosen : {true, false}) {
+TEST_CASE("Without a running ACT! the palette's choice goes into ACT!'s own settings; without one nothing is written") {
+    enum class Way { Left, Chosen, ChosenWithoutUser };
+    for (const Way way : {Way::Left, Way::Chosen, Way::ChosenWithoutUser}) {
+        const bool isChosen = way != Way::Left;
         ActDesk desk;
         MakeActKeys();
         desk.Act.InstanceCount = 0;
         desk.AddDatabase(L"Sales",
                          {{L"Path", L"C:\\Data\\Sales.dbf"}, {L"CLY", L"C:\\L\\S.cly"}, {L"Query", L"C:\\Q"}});
-        UserStore::Set(L"Sales", L"Username", L"Chris");
+        if (way != Way::ChosenWithoutUser) UserStore::Set(L"Sales", L"Username", L"Chris");
         UserStore::Set(L"Logon", L"Username", L"before");
         Assign(L"Sales");
         IniLib::WriteKeyValue(L"General", L"QuickSwitchStartup", L"1");
         DialogScript script;
         script.Then([&](HWND window) { Press(window, isChosen ? L"pic1" : L"cmdCancel"); });
+        if (way == Way::ChosenWithoutUser)
+            script.Answer(IDOK).Then([](HWND properties) {
+                Type(properties, L"txtUsername", L"Pat Doe");
+                Click(FindControl(properties, L"cmdOK"));
+            });
         if (isChosen) script.Answer(IDOK); // no program is associated with ".dbf" in this prefix
-        frmMain window;
-        window.Load();
+        Main window;
         RunToEnd(window);
-        const wchar_t* const database = L"Software\\Symantec\\ACT!\\Database";
-        CHECK(ActText(database, L"Last DB Name") == (isChosen ? L"C:\\Data\\Sales.dbf" : L"(none)"));
-        CHECK(ActText(database, L"Contact Layout") == (isChosen ? L"C:\\L\\S.cly" : L"(none)"));
-        CHECK(ActText(database, L"Group Layout") == L"(none)"); // empty: ACT! keeps its own
-        CHECK(ActText(L"Software\\Symantec\\ACT!\\General", L"Macro Name") == (isChosen ? L"" : L"(none)"));
-        CHECK(ActText(L"Software\\Symantec\\ACT!", L"Query File Type") == (isChosen ? L"C:\\Q" : L"(none)"));
-        const auto useLast = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, database, L"Use Last DB");
-        CHECK((std::get_if<std::int32_t>(&useLast) != nullptr) == isChosen);
-        CHECK(UserStore::Get(L"Logon", L"Username") == L"before");
-        if (isChosen) CHECK(script.All()[1].Text == L"Please run ACT! before running Kelmorra");
+        CHECK(ActValue(L"\\Database", L"Last DB Name") == (isChosen ? L"C:\\Data\\Sales.dbf" : L"(none)"));
+        CHECK(ActValue(L"\\Database", L"Contact Layout") == (isChosen ? L"C:\\L\\S.cly" : L"(none)"));
+        CHECK(ActValue(L"\\Database", L"Group Layout") == L"(none)"); // empty: ACT! keeps its own
+        CHECK(ActValue(L"\\Database", L"Use Last DB") == (isChosen ? L"1" : L"(none)"));
+        CHECK(ActValue(L"\\General", L"Macro Name") == (isChosen ? L"" : L"(none)"));
+        CHECK(ActValue(L"", L"Query File Type") == (isChosen ? L"C:\\Q" : L"(none)"));
+        CHECK(UserValue(L"Logon", L"Username") == L"before");
+        CHECK(UserValue(L"Sales", L"Username") == (way == Way::ChosenWithoutUser ? L"Pat Doe" : L"Chris"));
+        if (way == Way::ChosenWithoutUser) CHECK(script.All()[1].Text.starts_with(L"Because it is the first time"));
+        if (isChosen) CHECK(script.All().back().Text == L"Please run ACT! before running Kelmorra");
         CHECK(desk.Act.CallsSince(0) == L"InstanceCount()\nRegistrationFailed()\nClose()\n");
     }
+}
+
+TEST_CASE("A button is lit while the pointer is on it, and no longer when the palette is left by key") {
+    ActDesk desk;
+    Assign(L"A;B;C");
+    Show([](frmQuickSwitch& palette, HWND window) {
+        HWND box = FindControl(window, L"pic2");
+        const std::uint64_t dark = LookOf(box);
+        const auto move = [&](const wchar_t* button) {
+            RECT place{};
+            GetWindowRect(FindControl(window, button), &place);
+            SetCursorPos(place.left + 20, place.top + 20);
+            SendMessageW(FindControl(window, button), WM_MOUSEMOVE, 0, MAKELPARAM(20, 20));
+        };
+        move(L"pic2");
+        CHECK(LookOf(box) != dark);
+        SendMessageW(box, WM_MOUSELEAVE, 0, 0);
+        move(L"pic1");
+        CHECK(LookOf(box) == dark);
+        move(L"pic2");
+        SendMessageW(window, WM_ACTIVATE, WA_INACTIVE, 0);
+        CHECK(LookOf(box) == dark);
+        palette.mnuExit.Click();
+    });
 }

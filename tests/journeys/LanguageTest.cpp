@@ -1,121 +1,64 @@
-// The choice of the language: on the first run, and later.
+// A new user's first session, from the choice of the language to the first open.
 
 #include "i18n/LangText.h"
-#include "support/Journey.h"
-#include "support/Text.h"
+#include "support/JourneyDialogs.h"
 #include "win32/AnsiText.h"
 
 #include <filesystem>
 
 namespace {
 
+using namespace JourneyDialogs;
 using JourneyStores::User;
-using Language = const char* LangTextRow::*;
+using JourneyStores::UserSection;
 
-std::wstring Row(size_t index, Language language) { return FromUtf8(LangTextTable.at(index - 1).*language); }
-
-HWND LanguageList(HWND dialog) { return JourneyWindow::Control(dialog, L"cmbLanguage"); }
-
-void Choose(HWND dialog, int language, const wchar_t* button) {
-    SendMessageW(LanguageList(dialog), CB_SETCURSEL, static_cast<WPARAM>(language), 0);
-    JourneyWindow::Click(dialog, button);
-}
-
-void CheckCaptions(HWND window, Language language) {
-    CHECK(Within([&] { return JourneyWindow::Text(JourneyWindow::Control(window, L"cmdOpen")) == Row(62, language); }));
-    CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"cmdCancel")) == Row(2, language));
-    CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"Frame1")) == Row(46, language));
-    CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"lblView", 6)) == Row(53, language));
-    const ForeignList list(JourneyWindow::Control(window, L"ListView1"));
-    CHECK(list.ColumnTitle(0) == Row(42, language));
-    CHECK(list.ColumnTitle(4) == Row(91, language));
-}
-
-std::vector<std::wstring> FilesIn(const std::wstring& folder) {
-    std::vector<std::wstring> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) names.push_back(entry.path().filename());
-    return names;
-}
+std::wstring German(size_t index) { return FromUtf8(LangTextTable.at(index - 1).German); }
 
 } // namespace
 
-TEST_CASE_FIXTURE(Journey, "on the first run a language must be chosen, and it is in force at once") {
+TEST_CASE_FIXTURE(Journey, "a new user chooses a language, builds a list from nothing and opens its second database") {
+    const std::wstring second = File(L"Suppliers.dbf");
+    JourneyStores::FileBytes(second, "dBASE");
     JourneyStores::DeleteTree(JourneyStores::UserRoot);
-    StartAct(ListRealDatabase(L"Customers"));
+    StartActElsewhere(*this);
     HWND dialog = Window(Start(), L"frmLanguage");
-    CHECK(JourneyWindow::Text(dialog) == L"Kelmorra");
-    CHECK(JourneyWindow::Text(JourneyWindow::Control(dialog, L"Label1")) ==
-          L"Pick your language/Choisissez une langue :");
-    CHECK_FALSE(IsWindowEnabled(JourneyWindow::Control(dialog, L"cmdCancel")));
-    CHECK((GetWindowLongW(dialog, GWL_STYLE) & WS_SYSMENU) == 0);
-
-    PostMessageW(dialog, WM_CLOSE, 0, 0);
-    PostMessageW(LanguageList(dialog), WM_KEYDOWN, VK_ESCAPE, 0);
-    PostMessageW(LanguageList(dialog), CB_SETCURSEL, 2, 0); // arrives behind the two
-    REQUIRE(Within([&] { return SendMessageW(LanguageList(dialog), CB_GETCURSEL, 0, 0) == 2; }));
-    CHECK(IsWindowVisible(dialog));
-    CHECK_FALSE(User(L"Options", L"Language"));
-
+    SendMessageW(JourneyWindow::Control(dialog, L"cmbLanguage"), CB_SETCURSEL, 2, 0);
     JourneyWindow::Click(dialog, L"cmdOK");
-    CheckCaptions(MainWindow(Program()), &LangTextRow::German);
+    HWND window = MainWindow(Program());
+    CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"cmdOpen")) == German(62));
     CHECK(User(L"Options", L"Language") == L"2");
-    CHECK(User(L"Settings", L"Installed") == L"1");
-    CHECK(User(L"Settings", L"Version") == L"320");
-}
 
-TEST_CASE_FIXTURE(Journey, "the web link is put into ACT!'s folder of links, when ACT! has one") {
-    const std::wstring links = ActFile(L"NetLinks");
-    const std::wstring link = links + L"\\1010it_Varnholtine.web";
-    const std::vector<std::wstring> actFiles = FilesIn(ActFile(L"."));
-    StartAct(ListRealDatabase(L"Customers"));
-    for (const bool hasLinks : {false, true}) {
-        CAPTURE(hasLinks);
-        JourneyStores::DeleteTree(JourneyStores::UserRoot);
-        if (hasLinks) std::filesystem::create_directory(links);
-        Choose(Window(Start(), L"frmLanguage"), 1, L"cmdOK");
-        MainWindow(Program());
-        if (!hasLinks) CHECK(FilesIn(ActFile(L".")) == actFiles);
-        if (hasLinks)
-            CHECK(JourneyStores::FileBytes(link) ==
-                  "]https://www.varnholtine.example/ " +
-                      ToAnsi(Text::Replace(Row(12, &LangTextRow::French), L"&", L"")) + "\r\n");
-        CHECK(FilesIn(File(L"Kelmorra")).size() == 2); // the program and its settings file
-        Close();
-    }
-    std::filesystem::remove_all(links);
-}
+    HWND list = OpenByMenu(*this, L"mnuManageList", L"frmListMaintenance");
+    HWND properties = OpenByButton(*this, list, L"cmdAdd", L"frmProperties");
+    Type(properties, {{L"txtName", L"Archive"}, {L"txtPath", L"C:\\A.dbf"}, {L"txtCL", L"C:\\A.cly"}});
+    Type(properties, {{L"txtUsername", L"Pat"}});
+    Leave(properties, L"cmdOK");
+    properties = OpenByButton(*this, list, L"cmdAdd", L"frmProperties");
+    Type(properties, {{L"txtName", L"Suppliers"}, {L"txtPath", second}, {L"txtCL", L"C:\\S.cly"}});
+    ShowTab(properties, 2);
+    Type(properties, {{L"txtUsername", L"Chris"}});
+    Check(properties, L"chkPassword", true);
+    Type(properties, {{L"txtPassword", L"abc"}});
+    Leave(properties, L"cmdOK");
+    REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(list, L"cmdAdd")));
+    JourneyWindow::Press(VK_ESCAPE);
+    REQUIRE(Within([&] { return !IsWindow(list) && SelectedRow(ListOf(window)) == 1; }));
 
-TEST_CASE_FIXTURE(Journey, "a language chosen from the menu changes the captions and nothing else") {
-    const std::wstring open = ListRealDatabase(L"Customers");
-    ListRealDatabase(L"Suppliers");
-    StartAct(open);
-    HWND window = StartToMainWindow();
-    SetWindowPos(window, nullptr, 0, 0, 720, 480, SWP_NOMOVE | SWP_NOZORDER);
-    RECT before{}, after{};
-    GetWindowRect(window, &before);
-    CheckCaptions(window, &LangTextRow::English);
-
-    JourneyWindow::ClickMenu(window, L"mnuLanguages");
-    HWND dialog = Window(Program(), L"frmLanguage");
-    CHECK(JourneyWindow::Text(dialog) == L"Languages");
-    CHECK(JourneyWindow::Text(JourneyWindow::Control(dialog, L"Label1")) == L"Pick your language:");
-    CHECK_FALSE(IsWindowEnabled(window));
-    Choose(dialog, 1, L"cmdOK");
-    CheckCaptions(window, &LangTextRow::French);
-    CHECK(User(L"Options", L"Language") == L"1");
-    CHECK(ForeignList(JourneyWindow::Control(window, L"ListView1")).Rows() == 2);
-    GetWindowRect(window, &after);
-    CHECK(EqualRect(&before, &after));
-    CHECK(Count(L"APPOBJECT", L"OpenFile") == 1);
-    CHECK(Count(L"EVENT", L"Advise") == 1);
-
-    JourneyWindow::ClickMenu(window, L"mnuLanguages");
-    dialog = Window(Program(), L"frmLanguage");
-    CHECK(JourneyWindow::Text(dialog) == Row(65, &LangTextRow::French));
-    Choose(dialog, 2, L"cmdCancel");
-    REQUIRE(Within([&] { return !IsWindow(dialog) && IsWindowEnabled(window); }));
-    CheckCaptions(window, &LangTextRow::French);
-    CHECK(User(L"Options", L"Language") == L"1");
-    Close();
-    CheckCaptions(StartToMainWindow(), &LangTextRow::French);
+    // Whether the blank line stays that a new file is made with is up to the system.
+    const std::string bytes = JourneyStores::FileBytes(SettingsFile());
+    CHECK(bytes.substr(bytes.find_first_not_of(" \r\n")) ==
+          "[General]\r\nSort=Archive;Suppliers\r\n"
+          "[Archive]\r\nPath=C:\\A.dbf\r\nCLY=C:\\A.cly\r\nGLY=\r\nStartupMacro=\r\n"
+          "[Suppliers]\r\nPath=" +
+              ToAnsi(second) + "\r\nCLY=C:\\S.cly\r\nGLY=\r\nStartupMacro=\r\n");
+    CHECK(UserSection(L"Archive") == L"NoPasswordAtACTStartup=0;UsePassword=0;Username=Pat;");
+    CHECK(UserSection(L"Suppliers") ==
+          L"NoPasswordAtACTStartup=0;Password=\u00a6\u00ae\u00b0;UsePassword=1;Username=Chris;");
+    DoubleClickRow(window, 1);
+    CHECK(Program().ExitCode() == 0u);
+    CHECK(Calls().find(L"APPOBJECT openDB METHOD VT_BSTR \"" + second + L'"') != std::wstring::npos);
+    CHECK(User(L"Logon", L"Username") == L"Chris");
+    size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(File(L"Kelmorra"))) files += entry.is_regular_file();
+    CHECK(files == 2); // the program and its settings file
 }

@@ -3,9 +3,11 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "stores/IniLib.h"
+#include "stores/RegistrySubs.h"
 #include "stores/UserStore.h"
 #include "support/MsgBox.h"
 #include "support/Wide.h"
+#include "win32/Owner.h"
 
 ActDesk::ActDesk() : file_(L"Kelmorra.ini") {
     Program() = ProgramState();
@@ -44,5 +46,27 @@ void End(frmMain& window) {
     window.Unload();
     MSG message{};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    }
+}
+
+std::wstring IniValue(const std::wstring& section, const wchar_t* key) {
+    return IniLib::GetKeyValue(section, key, L"(none)");
+}
+
+std::wstring UserValue(const std::wstring& section, const wchar_t* key) {
+    return UserStore::Get(section, key, L"(none)");
+}
+
+std::wstring ActValue(const std::wstring& subkey, const wchar_t* name) {
+    const auto value = RegistrySubs::GetRegistryValue(HKEY_CURRENT_USER, L"Software\\Symantec\\ACT!" + subkey, name);
+    if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_wstring(*number);
+    const auto* text = std::get_if<std::wstring>(&value);
+    return text ? *text : L"(none)";
+}
+
+void MakeActKeys() {
+    for (const wchar_t* name : {L"Software\\Symantec\\ACT!\\Database", L"Software\\Symantec\\ACT!\\General"}) {
+        RegistryKey key;
+        RegCreateKeyExW(HKEY_CURRENT_USER, name, 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(), nullptr);
     }
 }

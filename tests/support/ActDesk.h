@@ -33,3 +33,19 @@ void RunToEnd(frmMain& window);
 
 /// Ends a main window that a test is done with and swallows its WM_QUIT.
 void End(frmMain& window);
+
+/// A main window that has come up. It is ended with the test, unless it has ended by then.
+class Main : public frmMain {
+public:
+    Main() { Load(); }
+    ~Main() {
+        if (!Unloaded()) End(*this);
+    }
+};
+
+/// A value of the settings file, of the user's store, or of ACT!'s own keys; "(none)" when it is missing.
+std::wstring IniValue(const std::wstring& section, const wchar_t* key);
+std::wstring UserValue(const std::wstring& section, const wchar_t* key);
+std::wstring ActValue(const std::wstring& subkey, const wchar_t* name);
+/// Makes the keys that ACT! makes when it runs for the first time.
+void MakeActKeys();

@@ -60,6 +60,16 @@ void Leave(HWND window) {
 
 void Click(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
 
+void Press(HWND form, const wchar_t* name, int index) {
+    HWND button = FindControl(form, name, index);
+    SendMessageW(GetParent(button), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(button), BN_CLICKED),
+                 reinterpret_cast<LPARAM>(button));
+}
+
+void Type(HWND form, const wchar_t* box, const std::wstring& text) {
+    SetWindowTextW(FindControl(form, box), text.c_str());
+}
+
 void TranslateKey(HWND control, WORD key, WORD held) {
     std::array<BYTE, 256> before{}, keys{};
     GetKeyboardState(before.data());

@@ -63,6 +63,12 @@ HWND FocusIn(HWND form);
 /// Clicks a button as a user does: the message is posted.
 void Click(HWND button);
 
+/// Presses a button or a label that is clicked; what it does has been done when this returns.
+void Press(HWND form, const wchar_t* name, int index = 0);
+
+/// Types into a text box.
+void Type(HWND form, const wchar_t* box, const std::wstring& text);
+
 /// Presses a key in a control, with another one held or none (0), and lets the control's form deal with it.
 void TranslateKey(HWND control, WORD key, WORD held = 0);
 

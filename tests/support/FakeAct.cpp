@@ -123,6 +123,7 @@ bool FakeAct::IsListenedTo() const {
 void FakeAct::UserWantsToClose() {
     REQUIRE(IsListenedTo());
     for (EventComponent* component : std::set(Components)) component->UserWantsToClose();
+    CHECK_MESSAGE(IsListenedTo(), "the component was let go inside its own call");
 }
 
 std::wstring FakeAct::CallsSince(size_t first) const {

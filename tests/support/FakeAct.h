@@ -13,7 +13,8 @@
 class EventComponent;
 
 /// An ACT! inside this process: the stand-in's own objects behind the real ProgIDs, without its window, dialogs and
-/// files. It writes down every call, last argument last, as `openDB(VT_BSTR "C:\x.dbf")`, and fails where it is told to.
+/// files. It writes down every call, last argument last, as `openDB(VT_BSTR "C:\x.dbf")`, and fails where it is told
+/// to.
 class FakeAct {
 public:
     /// How a member fails: as an exception with wCode or scode, or (both 0) with a plain failure code.

@@ -53,12 +53,6 @@ std::wstring NewFolder() {
     return folder;
 }
 
-std::wstring ReadProfile(const std::wstring& file, const std::wstring& section, const std::wstring& key) {
-    std::array<wchar_t, 2048> value{};
-    GetPrivateProfileStringW(section.c_str(), key.c_str(), L"", value.data(), value.size(), file.c_str());
-    return value.data();
-}
-
 /// What the stand-in notes about itself and its event component is no call into ACT!.
 bool IsCall(const Journey::Call& call) { return call.Object != L"STANDIN" && call.Object != L"EVENT"; }
 
@@ -80,7 +74,6 @@ Journey::~Journey() {
     CheckNoneInvisible();
     CloseWhatIsLeft();
     EndAct();
-    if (isUnregistered_) Installation::Run(L"/register");
     CHECK_MESSAGE(Within([this] { return group_.Alive() == 0; }), "a program of the journey goes on");
     CHECK_MESSAGE(!FindWindowW(kStandInClass, nullptr), "the program has started an ACT! of its own");
 }
@@ -113,20 +106,14 @@ void Journey::EndAct() const {
     if (!isClosed) act_->Terminate();
 }
 
-std::wstring Journey::ActFile(const std::wstring& name) { return Installation::Folder() + L'\\' + name; }
-
-void Journey::UnregisterAct() {
-    isUnregistered_ = true;
-    Installation::Run(L"/unregister");
-}
-
 void Journey::Ini(const std::wstring& section, const std::wstring& key, const std::wstring& value) const {
     WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), SettingsFile().c_str());
 }
 
 void Journey::List(const std::wstring& name, const std::wstring& path) {
-    const std::wstring before = ReadProfile(SettingsFile(), L"General", L"Sort");
-    Ini(L"General", L"Sort", before.empty() ? name : before + L';' + name);
+    std::array<wchar_t, 2048> before{};
+    GetPrivateProfileStringW(L"General", L"Sort", L"", before.data(), before.size(), SettingsFile().c_str());
+    Ini(L"General", L"Sort", before[0] ? before.data() + (L';' + name) : name);
     Ini(name, L"Path", path);
 }
 
@@ -139,7 +126,7 @@ std::wstring Journey::ListRealDatabase(const std::wstring& name) {
 
 void Journey::StartAct(const std::wstring& database) {
     Act(L"Presets", L"OpenDatabase", database);
-    act_.emplace(group_, ActFile(L"ActStandIn.exe"));
+    act_.emplace(group_, Installation::Folder() + L"\\ActStandIn.exe");
     // Its window answers once its message loop turns, and that is after it has begun to serve.
     REQUIRE(Within([this] {
         HWND window = JourneyWindow::Find(act_->Id(), kStandInClass);
@@ -158,10 +145,6 @@ bool Journey::AdoptAct() {
 
 void Journey::Act(const std::wstring& section, const std::wstring& key, const std::wstring& value) const {
     WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), File(L"act.ini").c_str());
-}
-
-std::wstring Journey::Act(const std::wstring& section, const std::wstring& key) const {
-    return ReadProfile(File(L"act.ini"), section, key);
 }
 
 void Journey::ActUserCloses() const { PostMessageW(JourneyWindow::Find(act_->Id(), kStandInClass), WM_CLOSE, 0, 0); }

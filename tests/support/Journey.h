@@ -33,8 +33,6 @@ public:
     /// Full path of a file in the journey's folder, or in the program's.
     std::wstring File(const std::wstring& name) const { return folder_ + L'\\' + name; }
     std::wstring ProgramFile(const std::wstring& name) const { return File(L"Kelmorra\\" + name); }
-    /// Full path of a file in the folder of ACT!'s program.
-    static std::wstring ActFile(const std::wstring& name);
 
     // The settings file
     std::wstring SettingsFile() const { return ProgramFile(L"Kelmorra.ini"); }
@@ -45,15 +43,12 @@ public:
     std::wstring ListRealDatabase(const std::wstring& name);
 
     // ACT!
-    /// Takes ACT! out of the registry until the end of the journey.
-    void UnregisterAct();
     /// Starts ACT! with a database open, or with none; it serves when this returns.
     void StartAct(const std::wstring& database);
     /// Takes over an ACT! that the program has started, so that the journey ends it. False when none comes.
     bool AdoptAct();
     /// Sets a preset or fault of the stand-in.
     void Act(const std::wstring& section, const std::wstring& key, const std::wstring& value) const;
-    std::wstring Act(const std::wstring& section, const std::wstring& key) const;
     /// ACT!'s user closes it: the event component is asked first.
     void ActUserCloses() const;
     bool ActHasEnded() const { return !act_ || act_->ExitCode(); }
@@ -94,5 +89,4 @@ private:
     ProcessGroup group_;
     std::list<Process> programs_;
     std::optional<Process> act_;
-    bool isUnregistered_ = false;
 };

@@ -1,8 +1,6 @@
 #include "support/JourneyDialogs.h"
 
-#include "support/Text.h"
-
-#include <array>
+#include <commctrl.h>
 
 namespace JourneyDialogs {
 
@@ -49,32 +47,26 @@ void Leave(HWND dialog, const wchar_t* button) {
     REQUIRE(Within([&] { return !IsWindow(dialog); }));
 }
 
-std::wstring Lines(HWND listMaintenance) {
-    HWND list = JourneyWindow::Control(listMaintenance, L"lstDB");
-    std::vector<std::wstring> lines;
-    const auto count = static_cast<WPARAM>(SendMessageW(list, LB_GETCOUNT, 0, 0));
-    for (WPARAM line = 0; line < count; ++line) {
-        std::array<wchar_t, 256> text{};
-        SendMessageW(list, LB_GETTEXT, line, reinterpret_cast<LPARAM>(text.data()));
-        lines.emplace_back(text.data());
-    }
-    return Text::Join(lines, L';');
-}
-
-std::wstring Rows(HWND mainWindow) {
-    const ForeignList list(ListOf(mainWindow));
-    std::vector<std::wstring> names;
-    for (int row = 0; row < list.Rows(); ++row) names.push_back(list.Cell(row, 0));
-    return Text::Join(names, L';');
-}
-
 HWND ListOf(HWND mainWindow) { return JourneyWindow::Control(mainWindow, L"ListView1"); }
 
+POINT MiddleOfRow(HWND list, int row) {
+    const auto height = [list](int rows) {
+        return HIWORD(SendMessageW(list, LVM_APPROXIMATEVIEWRECT, static_cast<WPARAM>(rows), -1));
+    };
+    RECT titles{};
+    GetClientRect(reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)), &titles);
+    const LONG rowHeight = height(2) - height(1);
+    return {20, titles.bottom + row * rowHeight + rowHeight / 2};
+}
+
+int SelectedRow(HWND list) {
+    return static_cast<int>(SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
 void DoubleClickRow(HWND mainWindow, int row) {
-    HWND control = ListOf(mainWindow);
-    REQUIRE(JourneyWindow::InFront(control));
-    const RECT place = ForeignList(control).CellPlace(row, 0);
-    JourneyWindow::DoubleClick(control, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    HWND list = ListOf(mainWindow);
+    REQUIRE(JourneyWindow::InFront(list));
+    JourneyWindow::DoubleClick(list, MiddleOfRow(list, row));
 }
 
 } // namespace JourneyDialogs

@@ -26,10 +26,10 @@ void ShowTab(HWND dialog, int tab, const wchar_t* tabs = L"mstOptions");
 /// Clicks a button and waits until the dialog is gone. The window below it may still have work to do.
 void Leave(HWND dialog, const wchar_t* button);
 
-/// The lines of list maintenance, or the names in the main window, joined with ";".
-std::wstring Lines(HWND listMaintenance);
-std::wstring Rows(HWND mainWindow);
 HWND ListOf(HWND mainWindow);
+/// A place in a row of that list, and the selected row.
+POINT MiddleOfRow(HWND list, int row);
+int SelectedRow(HWND list);
 
 /// Double-clicks a row of the main window's list with a real mouse.
 void DoubleClickRow(HWND mainWindow, int row);

@@ -3,47 +3,23 @@
 #include "win32/Owner.h"
 
 #include <shlobj.h>
+#include <shlwapi.h>
 
 #include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <numeric>
+#include <set>
 
 namespace JourneyStores {
 
 namespace {
 
-constexpr size_t kLongestName = 512;
-
 RegistryKey Open(const std::wstring& path, REGSAM access) {
     RegistryKey key;
     if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.Receive()) != ERROR_SUCCESS) return {};
     return key;
-}
-
-std::vector<std::wstring> Subkeys(const std::wstring& path) {
-    std::vector<std::wstring> names;
-    const RegistryKey key = Open(path, KEY_READ);
-    std::array<wchar_t, kLongestName> name{};
-    for (DWORD index = 0; key; ++index) {
-        DWORD length = name.size();
-        if (RegEnumKeyExW(key.Get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr)) break;
-        names.emplace_back(name.data(), length);
-    }
-    return names;
-}
-
-void ReadInto(Snapshot& snapshot, const std::wstring& path) {
-    const RegistryKey key = Open(path, KEY_READ);
-    if (!key) return;
-    snapshot[path];
-    std::array<wchar_t, kLongestName> name{};
-    for (DWORD index = 0;; ++index) {
-        DWORD length = name.size();
-        if (RegEnumValueW(key.Get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr)) break;
-        snapshot[path + L"|" + name.data()] = Read(path, name.data()).value_or(Value{});
-    }
-    for (const std::wstring& subkey : Subkeys(path)) ReadInto(snapshot, path + L'\\' + subkey);
 }
 
 RegistryKey Create(const std::wstring& path) {
@@ -54,26 +30,7 @@ RegistryKey Create(const std::wstring& path) {
 
 } // namespace
 
-Snapshot ReadTree(const std::wstring& path) {
-    Snapshot snapshot;
-    ReadInto(snapshot, path);
-    return snapshot;
-}
-
-void DeleteTree(const std::wstring& path) {
-    for (const std::wstring& subkey : Subkeys(path)) DeleteTree(path + L'\\' + subkey);
-    RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
-}
-
-void WriteTree(const Snapshot& snapshot) {
-    for (const auto& [place, value] : snapshot) {
-        const size_t bar = place.find(L'|');
-        const RegistryKey key = Create(place.substr(0, bar));
-        if (bar == std::wstring::npos) continue;
-        RegSetValueExW(key.Get(), place.substr(bar + 1).c_str(), 0, value.Type, value.Data.data(),
-                       static_cast<DWORD>(value.Data.size()));
-    }
-}
+void DeleteTree(const std::wstring& path) { SHDeleteKeyW(HKEY_CURRENT_USER, path.c_str()); }
 
 std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
     const RegistryKey key = Open(path, KEY_READ);
@@ -103,15 +60,15 @@ void User(const std::wstring& section, const std::wstring& key, const std::wstri
 }
 
 std::wstring UserSection(const std::wstring& section) {
-    const std::wstring path = std::wstring(UserRoot) + L'\\' + section;
-    const Snapshot values = ReadTree(path);
-    std::wstring text;
-    for (const auto& [place, value] : values) {
-        if (place == path) continue;
-        const std::wstring key = place.substr(path.size() + 1);
-        text += key + L'=' + User(section, key).value_or(L"(no text)") + L';';
-    }
-    return values.empty() ? L"(none)" : text;
+    const RegistryKey key = Open(std::wstring(UserRoot) + L'\\' + section, KEY_READ);
+    if (!key) return L"(none)";
+    std::set<std::wstring> values;
+    std::array<wchar_t, 512> name{};
+    for (DWORD index = 0, length = name.size();
+         RegEnumValueW(key.Get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+         ++index, length = name.size())
+        values.insert(name.data() + (L'=' + User(section, name.data()).value_or(L"(no text)")) + L';');
+    return std::accumulate(values.begin(), values.end(), std::wstring());
 }
 
 void DeleteBackups() {
@@ -132,17 +89,3 @@ void FileBytes(const std::wstring& path, const std::string& bytes) {
 bool FileExists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 } // namespace JourneyStores
-
-HiddenClass::HiddenClass(const wchar_t* key) {
-    RegOpenKeyExW(HKEY_LOCAL_MACHINE, (std::wstring(L"Software\\Classes\\") + key).c_str(), 0, KEY_ALL_ACCESS,
-                  key_.Receive());
-    DWORD size = 0;
-    RegQueryValueExW(key_.Get(), L"", nullptr, nullptr, nullptr, &size);
-    value_.resize(size);
-    RegQueryValueExW(key_.Get(), L"", nullptr, nullptr, value_.data(), &size);
-    RegDeleteValueW(key_.Get(), L"");
-}
-
-HiddenClass::~HiddenClass() {
-    RegSetValueExW(key_.Get(), L"", 0, REG_SZ, value_.data(), static_cast<DWORD>(value_.size()));
-}

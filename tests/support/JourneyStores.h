@@ -2,7 +2,6 @@
 
 #include "win32/Owner.h"
 
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,15 +15,9 @@ inline constexpr wchar_t ActRoot[] = L"Software\\Symantec\\ACT!";
 struct Value {
     DWORD Type = REG_NONE;
     std::vector<BYTE> Data;
-    bool operator==(const Value&) const = default;
 };
-/// Every value below a key of the current user, by "subkey|name"; keys stand there too, with no value.
-using Snapshot = std::map<std::wstring, Value>;
 
-Snapshot ReadTree(const std::wstring& path);
 void DeleteTree(const std::wstring& path);
-/// Puts the keys and values of a snapshot back where they were read.
-void WriteTree(const Snapshot& snapshot);
 std::optional<Value> Read(const std::wstring& path, const std::wstring& name);
 void Write(const std::wstring& path, const std::wstring& name, const std::wstring& text);
 
@@ -42,16 +35,3 @@ void FileBytes(const std::wstring& path, const std::string& bytes);
 bool FileExists(const std::wstring& path);
 
 } // namespace JourneyStores
-
-/// Hides the default value of a key of the machine's classes for as long as it lives, as if it were not registered.
-class HiddenClass {
-public:
-    explicit HiddenClass(const wchar_t* key);
-    ~HiddenClass();
-    HiddenClass(const HiddenClass&) = delete;
-    HiddenClass& operator=(const HiddenClass&) = delete;
-
-private:
-    RegistryKey key_;
-    std::vector<BYTE> value_;
-};

@@ -1,10 +1,8 @@
 #include "support/JourneyWindow.h"
 
 #include "support/JourneyProcess.h"
-#include "win32/Owner.h"
 
 #include <array>
-#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -56,37 +54,6 @@ auto Unchanged(const Question& question) {
     });
     return last;
 }
-
-/// A part of the screen as it looks at this moment.
-class Picture {
-public:
-    Picture(POINT corner, int width, int height) : screen_(GetDC(nullptr)), memory_(CreateCompatibleDC(screen_)) {
-        bitmap_.Reset(CreateCompatibleBitmap(screen_, width, height));
-        old_ = SelectObject(memory_, bitmap_.Get());
-        BitBlt(memory_, 0, 0, width, height, screen_, corner.x, corner.y, SRCCOPY);
-    }
-    ~Picture() {
-        SelectObject(memory_, old_);
-        DeleteDC(memory_);
-        ReleaseDC(nullptr, screen_);
-    }
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
-
-    COLORREF At(int x, int y) const { return GetPixel(memory_, x, y); }
-
-    /// Smoothed letters have a red heart and pale edges.
-    bool IsRed(int x, int y) const {
-        const COLORREF color = At(x, y);
-        return GetRValue(color) > 200 && GetGValue(color) < 60 && GetBValue(color) < 60;
-    }
-
-private:
-    HDC screen_;
-    HDC memory_;
-    Owner<owners::Gdi<HBITMAP>> bitmap_;
-    HGDIOBJ old_ = nullptr;
-};
 
 /// Where the mouse was moved last. A button goes down and up there, whatever the display reports late about the way.
 POINT mousePlace{};
@@ -191,11 +158,10 @@ void Drag(HWND window, POINT place, SIZE distance) {
     command += L" sleep 0.1 mouseup 1";
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    PROCESS_INFORMATION started{};
+    // A program of the host has no handles here: what stands in for them may be those of something else.
+    PROCESS_INFORMATION unused{};
     CreateProcessW(L"Z:\\usr\\bin\\xdotool", command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                   &started);
-    const KernelHandle process(started.hProcess);
-    const KernelHandle thread(started.hThread);
+                   &unused);
 }
 
 POINT Middle(HWND window) {
@@ -220,35 +186,6 @@ void Press(WORD key) {
     }
 }
 
-std::vector<COLORREF> Pixels(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    POINT corner{};
-    ClientToScreen(window, &corner);
-    const Picture picture(corner, client.right, client.bottom);
-    std::vector<COLORREF> pixels;
-    for (int y = 0; y < client.bottom; ++y)
-        for (int x = 0; x < client.right; ++x) pixels.push_back(picture.At(x, y));
-    return pixels;
-}
-
-std::vector<COLORREF> StillPixels(HWND window) {
-    return Unchanged([window] { return Pixels(window); });
-}
-
-int RedPixels(HWND window, const RECT& part) {
-    POINT corner{part.left, part.top};
-    ClientToScreen(window, &corner);
-    const int width = part.right - part.left;
-    const int height = part.bottom - part.top;
-    const Picture picture(corner, width, height);
-    int count = 0;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            if (picture.IsRed(x, y)) ++count;
-    return count;
-}
-
 std::optional<Box> MessageBoxOf(DWORD process) {
     constexpr int kTextId = 0xFFFF;
     for (HWND window : Visible(process)) {
@@ -263,88 +200,3 @@ void Answer(const Box& box, int button) { PostMessageW(box.Window, WM_COMMAND, s
 void Dismiss(const Box& box) { PostMessageW(box.Window, WM_CLOSE, 0, 0); }
 
 } // namespace JourneyWindow
-
-namespace {
-
-constexpr size_t kTextSize = 1024; // characters behind the structure in the foreign memory
-constexpr size_t kTextOffset = 256;
-constexpr size_t kMemorySize = kTextOffset + kTextSize * sizeof(wchar_t);
-
-} // namespace
-
-ForeignList::ForeignList(HWND list)
-    : list_(list),
-      process_(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, ProcessOf(list))),
-      memory_(VirtualAllocEx(process_, nullptr, kMemorySize, MEM_COMMIT, PAGE_READWRITE)) {
-    if (!memory_) throw std::runtime_error("the list's process gives no memory");
-}
-
-ForeignList::~ForeignList() {
-    VirtualFreeEx(process_, memory_, 0, MEM_RELEASE);
-    const KernelHandle closed(process_);
-}
-
-bool ForeignList::Put(const void* data, size_t size) const {
-    return WriteProcessMemory(process_, memory_, data, size, nullptr) != FALSE;
-}
-
-bool ForeignList::Take(void* data, size_t size, size_t offset) const {
-    return ReadProcessMemory(process_, static_cast<char*>(memory_) + offset, data, size, nullptr) != FALSE;
-}
-
-int ForeignList::Rows() const { return static_cast<int>(Ask(list_, LVM_GETITEMCOUNT)); }
-
-std::wstring ForeignList::Cell(int row, int column) const {
-    LVITEMW query{};
-    query.iSubItem = column;
-    query.pszText = reinterpret_cast<wchar_t*>(static_cast<char*>(memory_) + kTextOffset);
-    query.cchTextMax = kTextSize;
-    std::array<wchar_t, kTextSize> text{};
-    if (!Put(&query, sizeof query)) return {};
-    Ask(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory_));
-    Take(text.data(), sizeof text, kTextOffset);
-    return text.data();
-}
-
-std::wstring ForeignList::ColumnTitle(int column) const {
-    LVCOLUMNW query{};
-    query.mask = LVCF_TEXT;
-    query.pszText = reinterpret_cast<wchar_t*>(static_cast<char*>(memory_) + kTextOffset);
-    query.cchTextMax = kTextSize;
-    std::array<wchar_t, kTextSize> text{};
-    if (!Put(&query, sizeof query)) return {};
-    Ask(list_, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(memory_));
-    Take(text.data(), sizeof text, kTextOffset);
-    return text.data();
-}
-
-int ForeignList::ColumnWidth(int column) const {
-    return static_cast<int>(Ask(list_, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
-}
-
-void ForeignList::ColumnWidth(int column, int pixels) const {
-    Ask(list_, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), pixels);
-}
-
-int ForeignList::Selected() const {
-    return static_cast<int>(Ask(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-}
-
-void ForeignList::Select(int row) const {
-    LVITEMW state{};
-    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    state.state = state.stateMask;
-    if (Put(&state, sizeof state))
-        Ask(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory_));
-}
-
-RECT ForeignList::CellPlace(int row, int column) const {
-    RECT place{};
-    place.top = column;
-    place.left = column == 0 ? LVIR_LABEL : LVIR_BOUNDS;
-    if (!Put(&place, sizeof place)) return {};
-    const UINT message = column == 0 ? LVM_GETITEMRECT : LVM_GETSUBITEMRECT;
-    Ask(list_, message, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory_));
-    Take(&place, sizeof place);
-    return place;
-}

@@ -44,16 +44,9 @@ void Drag(HWND window, POINT place, SIZE distance);
 bool LeftButtonIsDown();
 /// The middle of a window in its own client coordinates.
 POINT Middle(HWND window);
-/// What the screen shows of a window's client area, row by row.
-std::vector<COLORREF> Pixels(HWND window);
-/// The same when it has stayed so for a while: a busy display draws late.
-std::vector<COLORREF> StillPixels(HWND window);
 
 /// Presses and releases a key, as a user's keyboard does: it goes to the window in the foreground.
 void Press(WORD key);
-
-/// How many pixels in a part of the window's client area are red on the screen.
-int RedPixels(HWND window, const RECT& part);
 
 /// A message box on the screen.
 struct Box {
@@ -69,30 +62,3 @@ void Dismiss(const Box& box);
 void Answer(const Box& box, int button);
 
 } // namespace JourneyWindow
-
-/// A list view of another process.
-class ForeignList {
-public:
-    explicit ForeignList(HWND list);
-    ~ForeignList();
-    ForeignList(const ForeignList&) = delete;
-    ForeignList& operator=(const ForeignList&) = delete;
-
-    int Rows() const;
-    std::wstring Cell(int row, int column) const;
-    std::wstring ColumnTitle(int column) const;
-    int ColumnWidth(int column) const;
-    void ColumnWidth(int column, int pixels) const;
-    int Selected() const;
-    void Select(int row) const;
-    /// The place of a cell in the list's client area.
-    RECT CellPlace(int row, int column) const;
-
-private:
-    bool Put(const void* data, size_t size) const;
-    bool Take(void* data, size_t size, size_t offset = 0) const;
-
-    HWND list_;
-    HANDLE process_;
-    void* memory_; ///< in the list's process
-};

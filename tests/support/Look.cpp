@@ -2,10 +2,7 @@
 
 #include "support/DialogScript.h"
 #include "ui/Control.h"
-#include "win32/ComPtr.h"
 #include "win32/Owner.h"
-
-#include <oleacc.h>
 
 #include <array>
 #include <cstdlib>
@@ -113,13 +110,6 @@ std::vector<HWND> VisibleControls(HWND form) {
     return controls;
 }
 
-bool LiesBelow(HWND control) {
-    const std::wstring kind = ClassOf(control);
-    const auto style = GetWindowLongPtrW(control, GWL_STYLE);
-    return kind == WC_TABCONTROLW || (kind == L"Button" && (style & BS_TYPEMASK) == BS_GROUPBOX) ||
-           (kind == L"Static" && (style & WS_CLIPSIBLINGS) != 0 && WindowText(control).empty());
-}
-
 /// A control's name as the rules have it: a button's text without its access key, else the label before it.
 std::wstring PlainName(HWND control) {
     HWND before = GetWindow(control, GW_HWNDPREV);
@@ -127,19 +117,6 @@ std::wstring PlainName(HWND control) {
     std::wstring name = isButton ? WindowText(control) : ClassOf(before) == L"Static" ? WindowText(before) : L"";
     std::erase(name, L'&');
     return name;
-}
-
-std::wstring ServiceName(HWND control) {
-    ComPtr<IAccessible> accessible;
-    constexpr GUID kAccessible{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-    AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), kAccessible, accessible.ReceiveVoid());
-    VARIANT self{};
-    self.vt = VT_I4;
-    BSTR name = nullptr;
-    if (!accessible || accessible->get_accName(self, &name) != S_OK || !name) return {};
-    const std::wstring text = name;
-    SysFreeString(name);
-    return text;
 }
 
 std::vector<std::wstring> CaptionsOf(HMENU menu) {
@@ -187,20 +164,6 @@ std::wstring ControlsOutside(HWND form) {
     return found;
 }
 
-std::wstring Overlaps(HWND form) {
-    std::wstring found;
-    const std::vector<HWND> controls = VisibleControls(form);
-    for (size_t first = 0; first < controls.size(); ++first)
-        for (size_t second = first + 1; second < controls.size(); ++second) {
-            const RECT one = PlaceOf(controls[first]);
-            const RECT other = PlaceOf(controls[second]);
-            RECT common{};
-            if (!LiesBelow(controls[first]) && !LiesBelow(controls[second]) && IntersectRect(&common, &one, &other))
-                found += WindowText(controls[first]) + L" and " + WindowText(controls[second]) + L"; ";
-        }
-    return found;
-}
-
 std::wstring Nameless(HWND form) {
     std::wstring found;
     for (HWND control : VisibleControls(form)) {
@@ -209,9 +172,6 @@ std::wstring Nameless(HWND form) {
         const auto* ours = reinterpret_cast<const Control*>(GetWindowLongPtrW(control, GWLP_USERDATA));
         const std::wstring name = ours->AccessibleName().empty() ? PlainName(control) : ours->AccessibleName();
         if (name.empty() || name == L"...") found += ours->Name() + std::wstring(L"; ");
-        // Wine's service knows buttons and text boxes, and no annotations.
-        const bool isKnown = (kind == L"Button" || kind == L"Edit") && ours->AccessibleName().empty();
-        if (isKnown && ServiceName(control) != name) found += ours->Name() + (L" is " + ServiceName(control)) + L"; ";
     }
     return found;
 }
@@ -236,6 +196,7 @@ void TakePicture(HWND window, const std::wstring& name) {
     UpdateWindow(window);
     const DWORD start = GetTickCount();
     PumpUntil([start] { return GetTickCount() - start > 250; }); // the window manager draws its frame
+    HideCaret(nullptr);                                          // it would stand on a letter
     RECT place{};
     GetWindowRect(window, &place);
     BITMAPINFOHEADER info{};
@@ -249,6 +210,7 @@ void TakePicture(HWND window, const std::wstring& name) {
     HBITMAP bitmap = CreateCompatibleBitmap(screen, info.biWidth, info.biHeight);
     const HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, info.biWidth, info.biHeight, screen, place.left, place.top, SRCCOPY);
+    ShowCaret(nullptr);
     SelectObject(memory, before);
     const auto bytesPerLine = (static_cast<size_t>(info.biWidth) * 3 + 3) / 4 * 4;
     std::vector<BYTE> pixels(bytesPerLine * static_cast<size_t>(info.biHeight));

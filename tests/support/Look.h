@@ -10,10 +10,7 @@ std::wstring CutCaptions(HWND form);
 /// The controls of a form that reach over its edge, by caption; "" when none does.
 std::wstring ControlsOutside(HWND form);
 
-/// Pairs of a form's visible controls that cover each other; frames and pages lie below their contents.
-std::wstring Overlaps(HWND form);
-
-/// Visible controls that assistive tools have no name for. Where the system's own answer can be had, it must be ours.
+/// Visible controls that assistive tools have no name for.
 std::wstring Nameless(HWND form);
 
 /// The captions of the menu bar and of visible controls whose access key an earlier one has. A Cancel button has Esc.

@@ -3,16 +3,13 @@
 #include "stores/SafeFile.h"
 #include "stores/Backup.h"
 #include "stores/FileHealth.h"
-#include "stores/IniLib.h"
-#include "support/ScratchRegistry.h"
-#include "support/TempFile.h"
+#include "support/SettingsDesk.h"
 #include "support/Wide.h"
 #include "win32/AnsiText.h"
 #include "win32/Owner.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <set>
 
 namespace fs = std::filesystem;
 
@@ -21,24 +18,14 @@ namespace {
 constexpr char kBefore[] =
     "; office\r\n[General]\n  Sort = A;B\r\n\r\n[A]\r\nPath=C:\\a.dbf\r\nCLY=\r\n[B]\r\nPath=b\r\n";
 
-/// A settings file, and a user whose backups are kept beside it.
-struct Desk : ScratchRegistry {
-    Desk() {
-        LocalData(backups.Folder());
-        IniLib::SettingsFile(file.Path());
-    }
-    ~Desk() { IniLib::SettingsFile({}); }
-
+/// A settings file, and its user's copies.
+struct Desk : SettingsDesk {
     FileHandle Hold(const std::wstring& path, DWORD sharing) const {
         return FileHandle(CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
     }
-    /// What lies in the settings file's folder.
-    std::set<std::wstring> Names() const {
-        std::set<std::wstring> names;
-        for (const auto& entry : fs::directory_iterator(file.Folder())) names.insert(entry.path().filename().wstring());
-        return names;
+    bool IsAlone() const {
+        return fs::exists(file.Path()) && ++fs::directory_iterator(file.Folder()) == fs::directory_iterator();
     }
-    bool IsAlone() const { return Names() == std::set<std::wstring>{L"Kelmorra.ini"}; }
     std::vector<fs::path> Backups() const {
         std::vector<fs::path> paths;
         for (const auto& entry : fs::directory_iterator(backups.Folder() + L"\\Kelmorra\\Backup"))
@@ -46,9 +33,6 @@ struct Desk : ScratchRegistry {
         std::ranges::sort(paths);
         return paths;
     }
-
-    TempFile file{L"Kelmorra.ini"};
-    TempFile backups{L"none"};
 };
 
 bool Write(const wchar_t* value = L"new") { return IniLib::WriteKeyValue(L"A", L"Path", value); }
@@ -117,16 +101,6 @@ TEST_CASE_FIXTURE(Desk, "A change is made as a whole or not at all, and not befo
     CHECK(file.Bytes() == kBefore);
     CHECK(IsAlone());
     SetFileAttributesW(file.Path().c_str(), FILE_ATTRIBUTE_NORMAL);
-}
-
-TEST_CASE_FIXTURE(Desk, "A missing folder or a folder in the file's place is refused and left as it was") {
-    fs::create_directory(file.Path());
-    CHECK_FALSE(Write());
-    CHECK(fs::is_empty(file.Path()));
-    CHECK(IsAlone());
-    IniLib::SettingsFile(file.Folder() + L"\\missing\\Kelmorra.ini");
-    CHECK_FALSE(Write());
-    CHECK(IsAlone());
 }
 
 TEST_CASE_FIXTURE(Desk, "Attributes survive, and a leftover of a killed writer does not") {
@@ -230,6 +204,8 @@ TEST_CASE_FIXTURE(Desk, "A try that fails on the way is made again from the orig
     int tries = 0;
     CHECK(SafeFile::Change(file.Path(), [&](const std::wstring& copy, bool) -> DWORD {
         CHECK(SafeFile::Read(copy).Bytes == kBefore);
+        CHECK_FALSE(
+            Hold(file.Path() + L".lock", FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE)); // by nobody else
         REQUIRE(WritePrivateProfileStringA("General", "Sort", "A;B;New", ToAnsi(copy).c_str()));
         return ++tries < 3 ? ERROR_SHARING_VIOLATION : ERROR_SUCCESS;
     }));
