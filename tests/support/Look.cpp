@@ -193,10 +193,10 @@ std::wstring ClashingKeys(HMENU menu) {
 void TakePicture(HWND window, const std::wstring& name) {
     std::array<wchar_t, MAX_PATH> folder{};
     if (!GetEnvironmentVariableW(L"KELMORRA_PICTURES", folder.data(), MAX_PATH)) return;
+    HideCaret(nullptr); // it would stand on a letter
     UpdateWindow(window);
     const DWORD start = GetTickCount();
     PumpUntil([start] { return GetTickCount() - start > 250; }); // the window manager draws its frame
-    HideCaret(nullptr);                                          // it would stand on a letter
     RECT place{};
     GetWindowRect(window, &place);
     BITMAPINFOHEADER info{};
