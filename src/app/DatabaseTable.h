@@ -29,7 +29,9 @@ public:
     /// Shows the selected row anew, with another name and record.
     void Replace(const std::wstring& name, const DatabaseRecord& record);
 
+    /// In the language in use, with the mark of the sorted column.
     void SetTitles();
+    /// Sorts by a column (from 0), downwards when it was sorted upwards by it.
     void SortBy(int column);
     /// "" when no row is selected.
     std::wstring SelectedName() const;

@@ -7,6 +7,7 @@ class OpenDialogs {
 public:
     explicit OpenDialogs(const Form& mainWindow) : mainWindow_(mainWindow) {}
 
+    /// True while a form other than the main window is loaded.
     bool Any() const;
     /// Remembers the message box that is open now: of later ones each asks its user something.
     void Begin();

@@ -20,11 +20,13 @@ public:
 
     /// A row has got another file. Its mark is what was last found out about that.
     void Set(int row, const std::wstring& path);
+    /// As it was when it was last looked for; false for a path that has not been.
     bool IsMissing(const std::wstring& path) const;
     /// Orders a look at all of them.
     void LookLater() const { PostMessageW(GetParent(list_.Handle()), lookMessage_, 0, 0); }
     /// Begins one. One at a time: another one follows it.
     void Look();
+    /// An answer, as the message's two parameters have it.
     void Take(WPARAM answer, long number);
 
 private:

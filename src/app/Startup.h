@@ -20,9 +20,14 @@ public:
     /// The same after a change of language, with a connection that is there.
     bool Reconnect();
 
+    /// Makes an almost empty settings file where there is none. A folder that may not be written to is told of; any
+    /// other failure throws Error (FileNotAccessible).
     void CreateSettingsFile();
+    /// Notes that a start has come up to its end; does nothing from the second one on.
     void CompleteFirstRun();
+    /// Keeps what is put back after an open. Throws Error when ACT! does not answer.
     void RecordActDefaults();
+    /// True when the palette is to come up instead of the window; false also when the settings file cannot be read.
     static bool OpensQuickSwitch();
     /// Says so when more databases are stored than the list can show.
     static void TellOfUnseen();

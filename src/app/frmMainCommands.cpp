@@ -83,7 +83,10 @@ bool frmMain::OpenFromList(const std::wstring& name, short viewCode, bool mainHi
     const bool isOpen = outcome == OpenInAct::Outcome::Opened || outcome == OpenInAct::Outcome::MacroRefused;
     if (!isOpen && !Program().ActIsClosing) Show();
     Tell(outcome);
-    if (isOpen) return true;
+    if (isOpen) {
+        opening.Finish();
+        return true;
+    }
     ToFront();
     ListView1.SetFocus();
     opening.PutDefaultsBack();

@@ -8,6 +8,8 @@
 /// database with others has been opened.
 namespace ActDefaults {
 
+// Each throws Error when a call into ACT! fails.
+
 void Record(const ActPreferences& preferences);
 /// Makes a database's layouts ACT!'s defaults. An empty one stands for ACT!'s own: the last database's must not stay in
 /// force.

@@ -19,15 +19,17 @@ OpenInAct::Outcome OpenInAct::Run(short viewCode) const {
         return error.Number == BasicError::ObjectNotSet ? Outcome::NotSelected : Outcome::NotAccessible;
     }
     ShowView(viewCode);
-    const bool isMacroFine = RunOpeningMacro(record.OpeningMacro);
+    return RunOpeningMacro(record.OpeningMacro) ? Outcome::Opened : Outcome::MacroRefused;
+}
+
+void OpenInAct::Finish() const {
     if (!act_.Preferences.UseLastDBonStartup()) ActDefaults::PutBack(act_.Preferences);
-    return isMacroFine ? Outcome::Opened : Outcome::MacroRefused;
 }
 
 void OpenInAct::PutDefaultsBack() const noexcept {
     try {
         ActDefaults::PutBack(act_.Preferences);
-    } catch (const Error&) {
+    } catch (...) { // NOLINT(bugprone-empty-catch): see the declaration
     }
 }
 

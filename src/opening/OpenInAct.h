@@ -18,9 +18,12 @@ public:
     OpenInAct(const ActConnection& act, const IniLib::Reading& stored, const std::wstring& name)
         : act_(act), stored_(stored), name_(name) {}
 
-    /// The whole road, in the view of a code from 0 to 6. Where the database was not opened ACT! still has its layouts
-    /// as defaults: PutDefaultsBack ends that. Throws Error when another call into ACT! fails.
+    /// From the layouts to the macro, in the view of a code from 0 to 6. ACT! has the database's layouts as defaults
+    /// then: Finish ends that, or PutDefaultsBack where it was not opened. Throws Error when a call into ACT! other
+    /// than openDB fails.
     Outcome Run(short viewCode) const;
+    /// Gives ACT! its own defaults back, unless it opens its last database at start. Throws Error.
+    void Finish() const;
     /// Gives ACT! its own defaults back. Errors are ignored: the failure that led here has its message.
     void PutDefaultsBack() const noexcept;
 

@@ -29,6 +29,7 @@ struct Placement {
     Frame* Container = nullptr;
 };
 
+/// A place inside a frame.
 inline Placement In(Frame& container, const Twips& place) { return {place, &container}; }
 
 /// One control of a form: the system's own window plus its reflected messages and a few verbs. Declared as a member of

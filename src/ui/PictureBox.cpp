@@ -36,7 +36,7 @@ void PictureBox::OnCommand(WORD notification) {
     if (notification == BN_CLICKED) Press();
 }
 
-LRESULT PictureBox::OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT PictureBox::OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     switch (message) {
     case WM_MOUSEMOVE: OnMouseMove(); break;
     case WM_CAPTURECHANGED:

@@ -45,7 +45,7 @@ private:
     void OnCreated() override;
     void OnCommand(WORD notification) override;
     void OnDraw(const DRAWITEMSTRUCT& draw) override;
-    LRESULT OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept override;
     bool TakesKey(int key);
     void OnMouseMove();
     void Hover(bool isOver);

@@ -7,8 +7,9 @@ class Subclass {
 public:
     class Target {
     public:
-        /// A message of the window. What is not used goes to Subclass::Default.
-        virtual LRESULT OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
+        /// A message of the window. What is not used goes to Subclass::Default. Handlers are called behind their guard:
+        /// nothing may pass through the frames of Windows.
+        virtual LRESULT OnWindowMessage(UINT message, WPARAM wParam, LPARAM lParam) noexcept = 0;
 
     protected:
         ~Target() = default;

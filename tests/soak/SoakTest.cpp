@@ -1,5 +1,5 @@
-// The settings file among writers that are killed and writers that write at once, as processes. The environment's
-// KELMORRA_SOAK_KILLS and _UPDATES set other counts than the small ones of an ordinary run.
+// The settings file among writers that are killed, writers that write at once, and outages of its share, as processes.
+// The environment's KELMORRA_SOAK_KILLS, _UPDATES and _OUTAGES set other counts than the small ones of an ordinary run.
 
 #include "support/JourneyProcess.h"
 #include "support/Setting.h"
@@ -16,6 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWriters = 4;
+constexpr DWORD kSoakPatience = 600'000; // milliseconds, for a writer with all its updates
 
 /// Some 19 KB as an office has them, spelled as the platform writes them.
 std::string OfficeFile() {
@@ -113,6 +114,34 @@ TEST_CASE_FIXTURE(Office, "Of four writers at once none loses an update, and a r
     CHECK(losses.refused == 0);
     CHECK(losses.torn == 0);
     CHECK(IsWhole());
+    CHECK(IsAlone());
+}
+
+TEST_CASE_FIXTURE(Office, "A share that goes away again and again takes nothing with it") {
+    const unsigned long outages = Setting("KELMORRA_SOAK_OUTAGES", 40);
+    const fs::path share = file.Folder(), away = share.wstring() + L" away";
+    std::mt19937 random(4711); // NOLINT(cert-msc51-cpp): the same moments in every run
+    std::uniform_int_distribution<DWORD> moment(0, 40);
+    const unsigned long updates = outages * 3;
+    const Process writer = Writer(L"W", updates, false);
+    unsigned long torn = 0;
+    for (unsigned long outage = 0; outage < outages; ++outage) {
+        Sleep(moment(random));
+        fs::rename(share, away);
+        Sleep(moment(random));
+        fs::rename(away, share);
+        if (!IsWhole()) ++torn;
+    }
+    const unsigned long refused = writer.ExitCode(kSoakPatience).value_or(updates);
+    CHECK(refused < updates); // neither all of them nor the code of a crash
+    unsigned long lost = 0;
+    for (unsigned long update = 0; update < updates; ++update)
+        if (Value("W", "K" + std::to_string(update)).size() != update % 20 + 1) ++lost;
+    MESSAGE(outages << " outages among " << updates << " updates: " << lost - std::min(lost, refused) << " lost, "
+                    << refused << " refused, " << torn << " readings torn");
+    CHECK(IsWhole());
+    CHECK(lost <= refused);
+    CHECK(Writer(L"Last", 1, false).ExitCode() == 0);
     CHECK(IsAlone());
 }
 
