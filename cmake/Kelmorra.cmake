@@ -29,6 +29,23 @@ else()
   add_link_options(-s)
 endif()
 add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
+# The program is compiled as a whole when it is linked, which makes it a fifth smaller. Libraries hold both forms of their
+# code: the tests, and builds that are not given to anybody, link the ordinary one. In one piece: GCC 12 fails with more.
+set(KELMORRA_WHOLE OFF)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND NOT KELMORRA_CHECKED)
+  set(KELMORRA_WHOLE ON)
+endif()
+function(kelmorra_compile_for_whole target)
+  if(KELMORRA_WHOLE)
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-flto> $<$<COMPILE_LANGUAGE:CXX>:-ffat-lto-objects>)
+  endif()
+endfunction()
+function(kelmorra_link_whole target)
+  if(KELMORRA_WHOLE)
+    target_link_options(${target} PRIVATE -flto -flto-partition=one)
+  endif()
+endfunction()
+add_link_options(-fno-lto)
 
 # kelmorra_library(NAME SOURCES ... LINKS ...): a folder of src as one static library.
 function(kelmorra_library name)
@@ -36,6 +53,7 @@ function(kelmorra_library name)
   add_library(${name} STATIC ${arg_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC ${arg_LINKS})
+  kelmorra_compile_for_whole(${name})
 endfunction()
 
 # kelmorra_late(NAME): NAME_late is the system's DLL, loaded when one of its functions is first called: those of
