@@ -20,6 +20,7 @@ constexpr std::array kTitles{Caption::DatabaseColumn, Caption::ContactLayoutColu
 constexpr int kDesignColumn = 1125;    // twips; wider where a title needs it
 constexpr long kWidestColumn = 100000; // twips; more is garbage
 constexpr COLORREF kOpenInAct = RGB(255, 0, 0);
+constexpr WORD kOpenMark = 2; // the icon of that number
 
 /// A file in ACT!'s own folder of its kind goes by its bare name.
 std::wstring ShownName(const std::wstring& path, const std::wstring& actFolder) {
@@ -108,6 +109,7 @@ void DatabaseTable::Mark(int row, const std::wstring& path, const ActPlaces& pla
     files_.Set(row, path);
     const bool isOpen = Text::SamePath(path, places.OpenDatabase);
     list_.RowColor(row, isOpen ? kOpenInAct : CLR_DEFAULT);
+    list_.Overlay(row, isOpen ? kOpenMark : 0);
     list_.Note(row, isOpen ? Translated(MoreText::OpenInAct) : std::wstring());
 }
 
@@ -118,9 +120,10 @@ void DatabaseTable::CollectOpenNames() const {
         if (list_.RowColor(row) == kOpenInAct) names += L"|" + list_.Cell(row, 0) + L"|";
 }
 
-void DatabaseTable::Replace(const std::wstring& name, const DatabaseRecord& record) {
-    const int row = list_.Selected();
-    if (row < 0) return;
+void DatabaseTable::Replace(const std::wstring& oldName, const std::wstring& name, const DatabaseRecord& record) {
+    int row = 0;
+    while (row < list_.RowCount() && list_.Cell(row, 0) != oldName) ++row;
+    if (row == list_.RowCount()) return;
     const ActPlaces places = AskPlaces();
     std::vector<std::wstring> cells = CellsOf(name, record, places);
     cells.back() = name;
@@ -141,6 +144,9 @@ std::wstring DatabaseTable::Title(int column) const {
 
 void DatabaseTable::SetTitles() {
     for (int column = 0; column < list_.ColumnCount(); ++column) list_.ColumnTitle(column, Title(column));
+    const std::wstring hint =
+        Text::Replace(Translated(MoreText::EmptyList), L"%1", Caption::Plain(LangText[Caption::Edit]));
+    list_.EmptyText(Text::Replace(hint, L"%2", Caption::Plain(LangText[Caption::ManageList])));
 }
 
 void DatabaseTable::SortBy(int column) {

@@ -26,8 +26,8 @@ public:
     /// A failure of ACT!'s answers is thrown once the rows are there.
     bool Reload();
     bool IsLoaded() const { return isLoaded_; }
-    /// Shows the selected row anew, with another name and record.
-    void Replace(const std::wstring& name, const DatabaseRecord& record);
+    /// Shows the row of a database anew and selects it, with another name and record.
+    void Replace(const std::wstring& oldName, const std::wstring& name, const DatabaseRecord& record);
 
     /// In the language in use, with the mark of the sorted column.
     void SetTitles();

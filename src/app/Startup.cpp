@@ -42,25 +42,13 @@ void FindSettingsFile() {
     IniLib::SettingsFile(path.empty() ? Application::FileInFolder(L"Kelmorra.ini") : path);
 }
 
-/// The day of a file's last change, as the user writes dates.
-std::wstring DateOf(const std::wstring& path) {
-    WIN32_FILE_ATTRIBUTE_DATA data{};
-    FILETIME local{};
-    SYSTEMTIME time{};
-    std::array<wchar_t, 80> text{};
-    if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) &&
-        FileTimeToLocalFileTime(&data.ftLastWriteTime, &local) && FileTimeToSystemTime(&local, &time))
-        GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, text.data(), text.size());
-    return text.data();
-}
-
 void OfferBackup() {
     const std::wstring& path = IniLib::SettingsFile();
     // One that is missing may have been moved, or its share may not be there yet.
     const bool isMissing = FileHealth::Inspect(path) == FileHealth::State::Missing;
     const auto backup = isMissing || FileHealth::IsDamaged(path) ? Backup::LastGood(path) : std::nullopt;
     if (!backup) return;
-    const std::wstring question = Text::Replace(Translated(MoreText::RestoreBackup), L"%2", DateOf(*backup));
+    const std::wstring question = Text::Replace(Translated(MoreText::RestoreBackup), L"%2", Backup::TimeOf(*backup));
     if (!AskYesNo(Text::Replace(question, L"%1", path))) return;
     const Backup::Restored restored = Backup::Restore(path);
     if (restored == Backup::Restored::NotNeeded)

@@ -27,7 +27,9 @@ public:
     void ShowMain() override;
     int SelectedIndex() const override { return ListView1.Selected(); }
     void SelectedIndex(int index) override;
-    void ReplaceRow(const std::wstring& name, const DatabaseRecord& record) override;
+    void ReplaceRow(const std::wstring& oldName, const std::wstring& name, const DatabaseRecord& record) override {
+        table_.Replace(oldName, name, record);
+    }
 
     static constexpr std::size_t ViewCount = 7;
 

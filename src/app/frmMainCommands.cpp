@@ -95,8 +95,6 @@ bool frmMain::OpenFromList(const std::wstring& name, short viewCode, bool mainHi
 
 void frmMain::SelectedIndex(int index) { UserStore::Set(Keys::Display, Keys::Selected, Text::FromNumber(index)); }
 
-void frmMain::ReplaceRow(const std::wstring& name, const DatabaseRecord& record) { table_.Replace(name, record); }
-
 void frmMain::cmdOpen_Click() { Open_DB(table_.SelectedName(), CheckedView(*this), false); }
 
 void frmMain::lblView_Click(int index) {

@@ -43,8 +43,8 @@ int Run() {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls,
-                                             ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
+    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls, ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES |
+                                                                   ICC_TAB_CLASSES | ICC_PROGRESS_CLASS};
     // A dead drive or share answers with an error, not with a box that asks for a disk.
     SetErrorMode(SEM_FAILCRITICALERRORS);
     InitCommonControlsEx(&kControls);

@@ -65,6 +65,16 @@ void Write(const IniLib::Reading& stored, IniLib::Change& change, const std::wst
     change.WriteKeyValue(Keys::General, Keys::Sort, list);
 }
 
+std::wstring FreeName(const IniLib::Reading& stored, const std::wstring& name, const Names& names) {
+    const auto isTaken = [&](const std::wstring& free) {
+        const auto shares = [&](const std::wstring& other) { return SharesFileSection(other, free); };
+        return shares(Keys::General) || std::ranges::any_of(names, shares) || !stored.Section(free).empty();
+    };
+    std::wstring free = name;
+    for (int number = 2; isTaken(free); ++number) free = Text::Concat({name, L" (", Text::FromNumber(number), L")"});
+    return free;
+}
+
 bool Add(const IniLib::Reading& stored, IniLib::Change& change, const std::wstring& name) {
     NameList::Divided list = Read(stored);
     if (NameList::Has(list.shown, name) || NameList::Has(list.unseen, name)) return false;

@@ -21,6 +21,10 @@ Names ReadAll(const IniLib::Reading& stored);
 /// Writes the list, joined. Refuses the change of a list that is too long to have been read whole.
 void Write(const IniLib::Reading& stored, IniLib::Change& change, const std::wstring& list);
 
+/// The name, or the first of "name (2)" and so on under which nothing is stored and that none of `names` shares a
+/// section with.
+std::wstring FreeName(const IniLib::Reading& stored, const std::wstring& name, const Names& names);
+
 /// Adds a database behind those that are shown. False when the name is taken.
 bool Add(const IniLib::Reading& stored, IniLib::Change& change, const std::wstring& name);
 

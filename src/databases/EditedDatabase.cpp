@@ -9,15 +9,6 @@ namespace {
 
 using NameList::Names;
 
-/// "Sales (2)" or the next number that no database has.
-std::wstring FreeName(const std::wstring& model, const Names& names) {
-    constexpr int kFirst = 2;
-    for (int number = kFirst;; ++number) {
-        std::wstring name = model + L" (" + Text::FromNumber(number) + L')';
-        if (!NameList::Has(names, name)) return name;
-    }
-}
-
 void WriteRecord(IniLib::Change& change, const DatabaseValues& edited) {
     const DatabaseRecord& record = edited.Record;
     change.WriteKeyValue(edited.Name, Keys::Path, record.Path);
@@ -34,10 +25,19 @@ Read<EditedDatabase> EditedDatabase::Load(const std::wstring& name, const std::w
     return EditedDatabase(*stored, name, model);
 }
 
+Read<EditedDatabase> EditedDatabase::LoadNew(DatabaseValues values) {
+    const auto stored = IniLib::ReadFile();
+    if (!stored) return Unreadable();
+    EditedDatabase edited(*stored, {}, {});
+    values.Name = DatabaseList::FreeName(*stored, values.Name, edited.all_);
+    edited.values_ = std::move(values);
+    return edited;
+}
+
 EditedDatabase::EditedDatabase(const IniLib::Reading& stored, const std::wstring& name, std::wstring model)
     : from_(stored.From()), oldName_(name), model_(std::move(model)), all_(DatabaseList::ReadAll(stored)) {
     const std::wstring& source = model_.empty() ? oldName_ : model_;
-    values_.Name = model_.empty() ? name : FreeName(model_, all_);
+    values_.Name = model_.empty() ? name : DatabaseList::FreeName(stored, model_, all_);
     if (source.empty()) return;
     values_.Record = ExtractInfo(stored, source);
     if (std::wstring lender = stored.Value(source, Keys::UseLocationsFrom); !lender.empty())

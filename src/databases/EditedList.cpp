@@ -24,18 +24,20 @@ bool EditedList::Reload() {
     return true;
 }
 
-bool EditedList::Save(const Names& order, const IniLib::Change::Build& also) {
+bool EditedList::Save(const Names& order, const Also& also) {
+    Names wanted;
     std::wstring list;
     IniLib::Change change(from_);
     change.Compose([&](const IniLib::Reading& stored, IniLib::Change& steps) {
-        if (also && !also(stored, steps)) return false;
-        list = NameList::Merged(order, shown_, DatabaseList::Read(stored));
+        wanted = order;
+        if (also) also(stored, steps, wanted);
+        list = NameList::Merged(wanted, shown_, DatabaseList::Read(stored));
         DatabaseList::Write(stored, steps, list);
         return true;
     });
     if (!change.Commit()) return false;
     from_.IsThere = true;
-    NoteStored(order, NameList::Divide(IniLib::Shown(list), list));
+    NoteStored(wanted, NameList::Divide(IniLib::Shown(list), list));
     return true;
 }
 
@@ -54,27 +56,39 @@ void EditedList::NoteStored(const Names& order, const NameList::Divided& stored)
 bool EditedList::Remove(Names order, size_t line) {
     RemovedDatabase removed(order.at(line), line);
     order.erase(order.begin() + static_cast<std::ptrdiff_t>(line));
-    const auto remove = [&](const IniLib::Reading& stored, IniLib::Change& change) {
-        removed.Remove(stored, change);
-        return true;
-    };
-    if (!Save(order, remove)) return false;
+    if (!Save(order,
+              [&](const IniLib::Reading& stored, IniLib::Change& change, Names&) { removed.Remove(stored, change); }))
+        return false;
     removed.RemoveFromUser(stored_);
-    removed_.push_back(std::move(removed));
+    done_.emplace_back(std::move(removed));
     return true;
 }
 
-std::optional<size_t> EditedList::Undo(Names order) {
-    if (removed_.empty()) return std::nullopt;
-    const RemovedDatabase& last = removed_.back();
-    const size_t line = std::min(last.Line(), order.size());
-    order.insert(order.begin() + static_cast<std::ptrdiff_t>(line), last.Name());
-    const auto restore = [&](const IniLib::Reading& stored, IniLib::Change& change) {
-        last.Restore(stored, change);
-        return true;
+bool EditedList::Import(const Names& order, const OtherSettings& other, const std::vector<size_t>& chosen) {
+    AddedDatabases added;
+    if (!Save(order, [&](const IniLib::Reading& stored, IniLib::Change& change, Names& names) {
+            added = other.Add(stored, change, names, chosen);
+        }))
+        return false;
+    done_.emplace_back(std::move(added));
+    return true;
+}
+
+std::optional<size_t> EditedList::Undo(const Names& order) {
+    if (done_.empty()) return std::nullopt;
+    const auto* const removed = std::get_if<RemovedDatabase>(&done_.back());
+    size_t line = 0;
+    const auto undo = [&](const IniLib::Reading& stored, IniLib::Change& change, Names& names) {
+        if (!removed) return std::get<AddedDatabases>(done_.back()).TakeBack(stored, change, names);
+        line = std::min(removed->Line(), names.size());
+        names.insert(names.begin() + static_cast<std::ptrdiff_t>(line), removed->Name());
+        removed->Restore(stored, change);
     };
-    if (!Save(order, restore)) return std::nullopt;
-    last.RestoreToUser();
-    removed_.pop_back();
+    if (!Save(order, undo)) return std::nullopt;
+    if (removed)
+        removed->RestoreToUser();
+    else
+        line = shown_.size();
+    done_.pop_back();
     return line;
 }

@@ -14,6 +14,9 @@ struct DatabaseRecord {
     std::wstring OpeningMacro;
 };
 
+/// A value of a section that was read at once, cut to what is shown; "" when the key is missing.
+std::wstring ValueIn(const IniLib::Reading::Values& section, std::wstring_view key);
+
 /// The record of a database by its name. A database without a section has an empty record.
 DatabaseRecord ExtractInfo(const IniLib::Reading& stored, const std::wstring& name);
 

@@ -1,5 +1,7 @@
 #include "dialogs/frmListMaintenance.h"
 
+#include "dialogs/frmCheck.h"
+#include "dialogs/frmImport.h"
 #include "dialogs/frmProperties.h"
 #include "i18n/Caption.h"
 #include "i18n/MoreText.h"
@@ -30,7 +32,6 @@ void frmListMaintenance::Form_Load() {
     cmdUp.Text(LangText[Caption::MoveUp]);
     cmdDown.Text(LangText[Caption::MoveDown]);
     cmdClose.Text(LangText[Caption::Close]);
-    SetMenuCaptions();
     Create_List();
     if (lstDB.ListCount() > 0) lstDB.ListIndex(0);
     if (const int selected = mainWindow_.SelectedIndex(); selected != -1) lstDB.ListIndex(selected);
@@ -43,11 +44,14 @@ void frmListMaintenance::SetMenuCaptions() {
     };
     const std::wstring ctrl = Translated(MoreText::KeyCtrl);
     set(mnuAdd, LangText[Caption::Add], L"", Translated(MoreText::KeyInsert));
+    set(mnuAddOpen, Translated(MoreText::AddOpenDatabase), ctrl.c_str(), L"+O");
     set(mnuDuplicate, Translated(MoreText::Duplicate), ctrl.c_str(), L"+D");
     set(mnuRemove, LangText[Caption::Remove], L"", Translated(MoreText::KeyDelete));
-    set(mnuUndo, Translated(MoreText::UndoRemoval), ctrl.c_str(), L"+Z");
+    set(mnuUndo, Translated(list_->UndoesImport() ? MoreText::UndoImport : MoreText::UndoRemoval), ctrl.c_str(), L"+Z");
     set(mnuUp, LangText[Caption::MoveUp], L"Alt+", Translated(MoreText::KeyUp));
     set(mnuDown, LangText[Caption::MoveDown], L"Alt+", Translated(MoreText::KeyDown));
+    set(mnuImport, Translated(MoreText::Import), ctrl.c_str(), L"+I");
+    set(mnuCheck, Translated(MoreText::CheckList), L"", L"F5");
 }
 
 void frmListMaintenance::Create_List() { ShowList(-1); }
@@ -99,6 +103,9 @@ bool frmListMaintenance::Form_KeyDown(const KeyPress& press) {
         {{.Key = VK_DOWN, .Alt = true}, &frmListMaintenance::cmdDown_Click},
         {{.Key = 'D', .Ctrl = true}, &frmListMaintenance::mnuDuplicate_Click},
         {{.Key = 'Z', .Ctrl = true}, &frmListMaintenance::mnuUndo_Click},
+        {{.Key = 'O', .Ctrl = true}, &frmListMaintenance::mnuAddOpen_Click},
+        {{.Key = 'I', .Ctrl = true}, &frmListMaintenance::mnuImport_Click},
+        {{.Key = VK_F5}, &frmListMaintenance::mnuCheck_Click},
     };
     const auto* const found = std::ranges::find(kShortcuts, press, &Shortcut::Press);
     if (found == std::end(kShortcuts)) return false;
@@ -119,6 +126,7 @@ void frmListMaintenance::lstDB_Click() { EnableButtons(); }
 
 void frmListMaintenance::lstDB_RightClick(POINT position) {
     const int selected = lstDB.ListIndex();
+    SetMenuCaptions();
     for (MenuItem* item : {&mnuDuplicate, &mnuRemove}) item->Enabled(selected >= 0);
     mnuUndo.Enabled(list_->CanUndo());
     mnuUp.Enabled(selected > 0);
@@ -132,15 +140,16 @@ std::wstring frmListMaintenance::SelectedName() const {
     return lstDB.ListIndex() < 0 ? std::wstring() : lstDB.List(lstDB.ListIndex());
 }
 
-void frmListMaintenance::AddByProperties(const std::wstring& model) {
-    // Moves made so far are written first: the properties dialog adds the new name to what is stored.
-    if (Lines() != list_->Shown() && !Save_List()) {
-        SettingsNotice::NotSaved();
-        return;
-    }
-    frmProperties properties(&mainWindow_);
+/// Moves made so far are written first: what follows works on the list as it is stored.
+bool frmListMaintenance::SaveMoves() {
+    if (Lines() == list_->Shown() || Save_List()) return true;
+    SettingsNotice::NotSaved();
+    return false;
+}
+
+void frmListMaintenance::AddByProperties(frmProperties& properties) {
+    if (!SaveMoves()) return;
     properties.IsNew(true);
-    properties.Model(model);
     properties.ShowModal();
     if (properties.Cancelled()) return;
     if (!list_->Reload()) return SettingsNotice::CannotRead();
@@ -148,10 +157,49 @@ void frmListMaintenance::AddByProperties(const std::wstring& model) {
     lstDB.ListIndex(lstDB.ListCount() - 1);
 }
 
-void frmListMaintenance::cmdAdd_Click() { AddByProperties({}); }
+void frmListMaintenance::cmdAdd_Click() {
+    frmProperties properties(&mainWindow_);
+    AddByProperties(properties);
+}
 
 void frmListMaintenance::mnuDuplicate_Click() {
-    if (lstDB.ListIndex() >= 0) AddByProperties(SelectedName());
+    if (lstDB.ListIndex() < 0) return;
+    frmProperties properties(&mainWindow_);
+    properties.Model(SelectedName());
+    AddByProperties(properties);
+}
+
+void frmListMaintenance::mnuAddOpen_Click() {
+    const ProgramState& act = Program();
+    DatabaseValues values;
+    values.Record.Path = act.Application.GetOpenDBName();
+    if (values.Record.Path.empty()) return MsgBox(Translated(MoreText::NoOpenDatabase), MsgIcon::Exclamation);
+    values.Record.ContactLayout = act.Preferences.DefaultContactLayout();
+    values.Record.GroupLayout = act.Preferences.DefaultGroupLayout();
+    values.Logon.Username = act.Application.GetCurrentUserName();
+    values.Name = Text::AfterLast(values.Record.Path, L'\\');
+    values.Name.resize(std::min(values.Name.size(), values.Name.rfind(L'.')));
+    frmProperties properties(&mainWindow_);
+    properties.Suggest(std::move(values));
+    AddByProperties(properties);
+}
+
+void frmListMaintenance::mnuImport_Click() {
+    if (!SaveMoves()) return;
+    const int count = lstDB.ListCount();
+    frmImport import(*list_, Lines());
+    import.ShowModal();
+    if (import.HasImported()) ShowList(count);
+}
+
+void frmListMaintenance::mnuCheck_Click() {
+    if (!SaveMoves()) return;
+    const int selected = lstDB.ListIndex();
+    frmCheck check(mainWindow_);
+    check.ShowModal();
+    if (!check.HasChanged()) return;
+    if (!list_->Reload()) return SettingsNotice::CannotRead();
+    ShowList(selected);
 }
 
 void frmListMaintenance::cmdRemove_Click() {

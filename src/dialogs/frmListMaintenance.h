@@ -10,9 +10,11 @@
 #include <string>
 #include <vector>
 
-/// Edits the list of databases: adds, removes and orders them. Removals are written at once and can be undone until the
-/// dialog closes; moves are written when it closes, unless it is ACT! that closes. What somebody else has changed in a
-/// shared list meanwhile is kept.
+class frmProperties;
+
+/// Edits the list of databases: adds, removes, imports and orders them. Removals and imports are written at once and
+/// can be undone until the dialog closes; moves are written when it closes, unless it is ACT! that closes. What
+/// somebody else has changed in a shared list meanwhile is kept.
 class frmListMaintenance : public Form {
 public:
     explicit frmListMaintenance(MainWindow& mainWindow);
@@ -34,12 +36,16 @@ public:
 
     Menu mnuList{this, L"mnuList", Menu::Place::PopUp};
     MenuItem mnuAdd{this, mnuList, L"mnuAdd", {.Click = &frmListMaintenance::cmdAdd_Click}};
+    MenuItem mnuAddOpen{this, mnuList, L"mnuAddOpen", {.Click = &frmListMaintenance::mnuAddOpen_Click}};
     MenuItem mnuDuplicate{this, mnuList, L"mnuDuplicate", {.Click = &frmListMaintenance::mnuDuplicate_Click}};
     MenuItem mnuRemove{this, mnuList, L"mnuRemove", {.Click = &frmListMaintenance::cmdRemove_Click}};
     MenuItem mnuUndo{this, mnuList, L"mnuUndo", {.Click = &frmListMaintenance::mnuUndo_Click}};
     MenuSeparator mnuListSep1{mnuList};
     MenuItem mnuUp{this, mnuList, L"mnuUp", {.Click = &frmListMaintenance::cmdUp_Click}};
     MenuItem mnuDown{this, mnuList, L"mnuDown", {.Click = &frmListMaintenance::cmdDown_Click}};
+    MenuSeparator mnuListSep2{mnuList};
+    MenuItem mnuImport{this, mnuList, L"mnuImport", {.Click = &frmListMaintenance::mnuImport_Click}};
+    MenuItem mnuCheck{this, mnuList, L"mnuCheck", {.Click = &frmListMaintenance::mnuCheck_Click}};
 
 private:
     bool Form_Initialize() override;
@@ -52,7 +58,8 @@ private:
     /// Moves one line, the selected one for a negative index, and selects it. Does nothing when the new index lies
     /// outside the list.
     static void MoveListboxItem(ListBox& list, int index, int newIndex);
-    void AddByProperties(const std::wstring& model);
+    bool SaveMoves();
+    void AddByProperties(frmProperties& properties);
     void lstDB_Click();
     void lstDB_RightClick(POINT position);
     void lstDB_Drop(int from, int to);
@@ -63,6 +70,9 @@ private:
     void cmdClose_Click();
     void mnuDuplicate_Click();
     void mnuUndo_Click();
+    void mnuAddOpen_Click();
+    void mnuImport_Click();
+    void mnuCheck_Click();
     bool Save_List();
     std::vector<std::wstring> Lines() const;
     std::wstring SelectedName() const;

@@ -50,7 +50,7 @@ bool frmProperties::Form_Initialize() {
     ProgramState& program = Program();
     if (isNew_) program.FriendlyName.clear();
     OldName_ = program.FriendlyName;
-    database_ = EditedDatabase::Load(OldName_, model_);
+    database_ = suggestion_ ? EditedDatabase::LoadNew(*suggestion_) : EditedDatabase::Load(OldName_, model_);
     if (!database_) SettingsNotice::CannotRead();
     return static_cast<bool>(database_);
 }
@@ -102,7 +102,7 @@ void frmProperties::ShowValues() {
     chkPassword.Value(values.Logon.UsesPassword);
     chkNotAtACTLaunch.Value(values.Logon.IsWithoutPasswordAtStart);
     txtPassword.Enabled(chkPassword.Value());
-    if (!model_.empty()) txtName.SelectAll();
+    if (!model_.empty() || suggestion_) txtName.SelectAll();
 }
 
 void frmProperties::ShowLenders() {
@@ -117,12 +117,11 @@ void frmProperties::ShowLenders() {
 }
 
 void frmProperties::Form_Activate() {
-    if (!asksForUsername_) return;
-    if (!std::exchange(isLogonShown_, true)) {
+    if (firstPage_ != Tab::General && !std::exchange(isFirstPageShown_, true)) {
         SkipTabCheck_ = true;
-        ShowTab(Tab::Logon);
+        ShowTab(firstPage_);
     }
-    txtUsername.SetFocus();
+    if (asksForUsername_) txtUsername.SetFocus();
 }
 
 void frmProperties::ShowTab(int tab) {
@@ -226,7 +225,7 @@ void frmProperties::Save() {
     case EditedDatabase::Outcome::Saved: break;
     }
     Program().FriendlyName = values.Name;
-    if (!isNew_ && mainWindow_) mainWindow_->ReplaceRow(values.Name, values.Record);
+    if (!isNew_ && mainWindow_) mainWindow_->ReplaceRow(OldName_, values.Name, values.Record);
     isNew_ = false;
     Unload();
 }

@@ -12,6 +12,7 @@
 #include "ui/TextBox.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 /// Edits one database: its name and files, where its preference locations come from, and its log-on. Works on the
@@ -24,9 +25,16 @@ public:
     /// Set by the caller before showing: the dialog adds a new database.
     void IsNew(bool isNew) { isNew_ = isNew; }
     /// Set by the caller before showing: the user name is what is missing.
-    void AskForUsername(bool asks) { asksForUsername_ = asks; }
+    void AskForUsername(bool asks) {
+        asksForUsername_ = asks;
+        if (asks) firstPage_ = 2;
+    }
     /// Set by the caller before showing: the new database begins with the values of another one, "" for none.
     void Model(std::wstring name) { model_ = std::move(name); }
+    /// Set by the caller before showing: the new database begins with these values.
+    void Suggest(DatabaseValues values) { suggestion_ = std::move(values); }
+    /// Set by the caller before showing: the page to begin with, 0 to 2.
+    void FirstPage(int page) { firstPage_ = page; }
     /// After showing: the user left without OK, or the dialog could not open.
     bool Cancelled() const { return cancelled_; }
     /// ACT!'s own folder for a preference location, 0 to 11, from ACT!'s registry values; "" when it has none. Any
@@ -109,11 +117,13 @@ private:
     MainWindow* mainWindow_;
     std::wstring OldName_;
     std::wstring model_;                          ///< of a new database: the one whose values it begins with
+    std::optional<DatabaseValues> suggestion_;    ///< of a new database
     Read<EditedDatabase> database_{Unreadable()}; ///< none when the settings file could not be read
     bool isNew_ = false;
     bool asksForUsername_ = false;
     bool cancelled_ = true;
     bool SkipTabCheck_ = false;
-    bool isLogonShown_ = false; ///< for the user name that is asked for
+    int firstPage_ = 0;
+    bool isFirstPageShown_ = false;
     bool NameValid_ = false;
 };

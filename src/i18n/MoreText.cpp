@@ -10,7 +10,7 @@ namespace {
 // UTF-8, like the numbered table: English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const char*, 3>;
 
-constexpr std::array<Translations, 23> kTexts{{
+constexpr std::array<Translations, 43> kTexts{{
     {"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      "file.",
      "La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -77,6 +77,38 @@ constexpr std::array<Translations, 23> kTexts{{
      "Kelmorra attend une réponse d'ACT!, qui est occupé pour le moment.",
      "Kelmorra wartet auf ACT!, das im Moment beschäftigt ist."},
     {"Edit...", "Modifier...", "Bearbeiten..."},
+    {"No databases yet: %1 > %2", "Aucune base de données pour le moment\u00A0: %1 > %2",
+     "Noch keine Datenbanken: %1 > %2"},
+    {"Add What ACT! Has &Open...", "Ajouter la base &ouverte dans ACT!...", "In ACT! &geöffnete hinzufügen..."},
+    {"ACT! has no database open.", "Aucune base de données n'est ouverte dans ACT!.",
+     "In ACT! ist keine Datenbank geöffnet."},
+    {"&Import from Another Settings File...", "&Importer d'un autre fichier de paramètres...",
+     "Aus anderer Einstellungsdatei &importieren..."},
+    {"Choose a settings file above.", "Choisissez un fichier de paramètres ci-dessus.",
+     "Wählen Sie oben eine Einstellungsdatei aus."},
+    {"Copy of %1", "Copie du %1", "Kopie vom %1"},
+    {"in the list already", "déjà dans la liste", "schon in der Liste"},
+    {"Left out, as the list has no room for more: %1", "Laissées de côté, faute de place dans la liste\u00A0: %1",
+     "Weggelassen, weil die Liste nicht mehr aufnimmt: %1"},
+    {"There are no databases to be imported in the file\r\n%1\r\nIt may be no settings file, or cannot be read at the "
+     "moment.",
+     "Aucune base de données à importer dans le fichier\r\n%1\r\nCe n'est peut-être pas un fichier de paramètres, ou "
+     "il ne peut pas être lu pour le moment.",
+     "Es gibt keine Datenbanken zum Importieren in der Datei\r\n%1\r\nVielleicht ist sie keine Einstellungsdatei, oder "
+     "sie kann im Moment nicht gelesen werden."},
+    {"Undo I&mport", "A&nnuler l'importation", "Import &rückgängig machen"},
+    {"Chec&k the List...", "&Vérifier la liste...", "Liste &prüfen..."},
+    {"Files and folders are being looked for.", "Recherche des fichiers et des dossiers en cours.",
+     "Dateien und Ordner werden gesucht."},
+    {"Nothing is missing.", "Il ne manque rien.", "Es fehlt nichts."},
+    {"This is missing, or its drive does not answer:", "Il manque ceci, ou le lecteur ne répond pas\u00A0:",
+     "Das fehlt, oder das Laufwerk antwortet nicht:"},
+    {"Missing", "Élément", "Was fehlt"},
+    {"State", "État", "Zustand"},
+    {"missing", "manquant", "fehlt"},
+    {"no answer", "sans réponse", "keine Antwort"},
+    {"Settings", "Paramètres", "Einstellungen"},
+    {"C&opy", "C&opier", "&Kopieren"},
 }};
 
 } // namespace

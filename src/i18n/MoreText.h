@@ -3,8 +3,9 @@
 #include <string>
 
 /// Texts for situations that the numbered table knows nothing of.
-/// %1 stands for the settings file's path, in `RestoreFailed` for the backup's; %2 in `RestoreBackup` for the backup's
-/// date, in `FolderNotWritable` for the menu item.
+/// %1 stands for the settings file's path, in `RestoreFailed` for the backup's, in `NothingToImport` for another
+/// file's, in `CopyOf` for a date, in `NotOffered` for a number, in `EmptyList` for a menu; %2 in `RestoreBackup` for
+/// the backup's date, in `FolderNotWritable` and `EmptyList` for the menu item.
 enum class MoreText {
     ListTooLong,
     WhatThisIs,
@@ -29,6 +30,26 @@ enum class MoreText {
     PaletteMenu,
     WaitingForAct,
     EditFolder,
+    EmptyList,
+    AddOpenDatabase,
+    NoOpenDatabase,
+    Import,
+    ChooseSettingsFile,
+    CopyOf,
+    AlreadyListed,
+    NotOffered,
+    NothingToImport,
+    UndoImport,
+    CheckList,
+    Checking,
+    NothingMissing,
+    SomeMissing,
+    WhatIsMissing,
+    State,
+    Missing,
+    NoAnswer,
+    Record,
+    Copy,
 };
 
 /// A text in the current language.

@@ -21,6 +21,6 @@ public:
     virtual int SelectedIndex() const = 0;
     /// Names the database to select when the list is filled again.
     virtual void SelectedIndex(int index) = 0;
-    /// Shows the selected row anew, under the given friendly name and with that database's record.
-    virtual void ReplaceRow(const std::wstring& name, const DatabaseRecord& record) = 0;
+    /// Shows the row of a database anew and selects it, under its present name and with its record.
+    virtual void ReplaceRow(const std::wstring& oldName, const std::wstring& name, const DatabaseRecord& record) = 0;
 };

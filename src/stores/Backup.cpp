@@ -46,19 +46,27 @@ std::wstring TimeStamp() {
     return text.data();
 }
 
-/// Full paths of a settings file's copies, oldest first.
-std::vector<std::wstring> Copies(const std::wstring& settingsFile) {
+/// The time stamp in the name of a copy.
+std::wstring_view StampOf(const std::wstring& copy) {
+    constexpr size_t kLength = sizeof "20261121-120000.ini" - 1;
+    return std::wstring_view(copy).substr(copy.size() - std::min(copy.size(), kLength));
+}
+
+/// Full paths of the copies whose names begin so, oldest first.
+std::vector<std::wstring> CopiesOf(const std::wstring& prefix) {
     std::vector<std::wstring> copies;
     const std::wstring folder = BackupFolder();
     WIN32_FIND_DATAW found{};
-    const FindHandle search(FindFirstFileW((folder + Prefix(settingsFile) + L"*.ini").c_str(), &found));
+    const FindHandle search(FindFirstFileW((folder + prefix + L"*.ini").c_str(), &found));
     if (!search) return copies;
     do {
         const std::wstring path = folder + found.cFileName;
-        copies.insert(std::ranges::upper_bound(copies, path), path);
+        copies.insert(std::ranges::upper_bound(copies, StampOf(path), {}, &StampOf), path);
     } while (FindNextFileW(search.Get(), &found));
     return copies;
 }
+
+std::vector<std::wstring> Copies(const std::wstring& settingsFile) { return CopiesOf(Prefix(settingsFile)); }
 
 using SafeFile::Contents;
 
@@ -122,6 +130,26 @@ void KeepAtEnd(const std::wstring& settingsFile) {
     // Nothing is left to be saved, and a thread that hangs would outlive what it works with.
     if (thread && WaitForSingleObject(thread.Get(), kPatience) == WAIT_TIMEOUT)
         TerminateProcess(GetCurrentProcess(), 0);
+}
+
+std::vector<std::wstring> All() {
+    std::vector<std::wstring> copies = CopiesOf(L"Kelmorra-");
+    std::erase_if(copies, [](const std::wstring& copy) { return !HoldsSettings(SafeFile::Read(copy)); });
+    std::ranges::reverse(copies);
+    return copies;
+}
+
+std::wstring TimeOf(const std::wstring& copy) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    FILETIME local{};
+    SYSTEMTIME time{};
+    std::array<wchar_t, 80> date{}, clock{};
+    if (!GetFileAttributesExW(copy.c_str(), GetFileExInfoStandard, &data) ||
+        !FileTimeToLocalFileTime(&data.ftLastWriteTime, &local) || !FileTimeToSystemTime(&local, &time))
+        return {};
+    GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, date.data(), date.size());
+    GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &time, nullptr, clock.data(), clock.size());
+    return std::wstring(date.data()) + L' ' + clock.data();
 }
 
 std::optional<std::wstring> LastGood(const std::wstring& settingsFile) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 /// Copies of settings files in the user's own folder, Kelmorra\Backup of the local application data: the last five of
 /// each settings file, named after the time (UTC) at which they were made.
@@ -14,6 +15,11 @@ void KeepOnce(const std::wstring& settingsFile);
 
 /// The same as the last deed of the program, which it ends when a share takes more than ten seconds to answer.
 void KeepAtEnd(const std::wstring& settingsFile);
+
+/// The copies of all settings files that can be read, newest first, by their full paths.
+std::vector<std::wstring> All();
+/// When the settings of a copy were last changed, as the user writes date and time.
+std::wstring TimeOf(const std::wstring& copy);
 
 /// The newest copy of a settings file that is not empty itself.
 std::optional<std::wstring> LastGood(const std::wstring& settingsFile);

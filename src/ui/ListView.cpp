@@ -1,7 +1,5 @@
 #include "ui/ListView.h"
 
-#include "ui/Accessible.h"
-#include "ui/Contrast.h"
 #include "ui/Form.h"
 
 #include <algorithm>
@@ -42,8 +40,8 @@ void ListView::Insert(int row) {
     item.iItem = RowCount();
     item.lParam = row;
     item.pszText = added.Cells[0].data();
-    item.stateMask = LVIS_CUT;
-    item.state = added.IsFaded ? LVIS_CUT : 0;
+    item.stateMask = LVIS_CUT | LVIS_OVERLAYMASK;
+    item.state = (added.IsFaded ? LVIS_CUT : 0U) | (added.IsOverlaid ? INDEXTOOVERLAYMASK(1) : 0U);
     item.iItem = static_cast<int>(SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
     for (size_t column = 1; column < added.Cells.size(); ++column) {
         item.iSubItem = static_cast<int>(column);
@@ -63,45 +61,11 @@ void ListView::ShowOnly(const std::function<bool(int row)>& isShown) {
     if (!toldItems_.empty()) TellNotes();
 }
 
-void ListView::Icon(WORD resource) {
-    constexpr int kSide = 16;
-    const int side = MulDiv(kSide, Owner().Dpi(), NormalDpi);
-    iconResource_ = resource;
-    const IconHandle icon(static_cast<HICON>(
-        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, side, side, 0)));
-    ImageListHandle icons(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, 1, 0));
-    ImageList_AddIcon(icons.Get(), icon.Get());
-    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons.Get()));
-    icons_ = std::move(icons);
-}
-
 void ListView::OnDpiChanged(int dpi) {
     for (int column = 0; column < ColumnCount(); ++column)
         SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column),
                      MulDiv(ToPixels(ColumnWidth(column), Owner().Dpi()), Owner().Dpi(), dpi));
     if (iconResource_) Icon(iconResource_);
-}
-
-void ListView::Fade(int row, bool isFaded) {
-    if (std::exchange(rows_.at(static_cast<size_t>(row)).IsFaded, isFaded) == isFaded) return;
-    LVITEMW state{};
-    state.stateMask = LVIS_CUT;
-    state.state = isFaded ? LVIS_CUT : 0;
-    if (const int item = ItemOf(row); item >= 0)
-        SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
-}
-
-void ListView::Note(int row, const std::wstring& text) { rows_.at(static_cast<size_t>(row)).Note = text; }
-
-void ListView::TellNotes() {
-    for (const int item : toldItems_) Accessible::ItemName(Handle(), item + 1, {});
-    toldItems_.clear();
-    for (int row = 0; row < RowCount(); ++row) {
-        const int item = ItemOf(row);
-        if (item < 0 || Note(row).empty()) continue;
-        Accessible::ItemName(Handle(), item + 1, Cell(row, 0) + L", " + Note(row));
-        toldItems_.push_back(item);
-    }
 }
 
 int ListView::ItemOf(int row) const {
@@ -136,14 +100,6 @@ void ListView::Cell(int row, int column, const std::wstring& text) {
         SendMessageW(Handle(), LVM_SETITEMTEXTW, static_cast<WPARAM>(shown), reinterpret_cast<LPARAM>(&item));
 }
 
-void ListView::RowColor(int row, COLORREF color) {
-    if (std::exchange(rows_.at(static_cast<size_t>(row)).Color, color) == color) return;
-    const int item = ItemOf(row);
-    SendMessageW(Handle(), LVM_REDRAWITEMS, static_cast<WPARAM>(item), item);
-}
-
-COLORREF ListView::RowColor(int row) const { return rows_.at(static_cast<size_t>(row)).Color; }
-
 int ListView::Selected() const {
     return RowOf(static_cast<int>(SendMessageW(Handle(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)));
 }
@@ -151,10 +107,7 @@ int ListView::Selected() const {
 void ListView::Select(int row) {
     const int item = ItemOf(row);
     if (row < 0 || item < 0) return;
-    LVITEMW state{};
-    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    state.state = state.stateMask;
-    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
+    SetState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
 }
 
@@ -229,15 +182,6 @@ void ListView::OnTip(NMTTDISPINFOW& tip) {
     const int row = RowAt(pointer);
     shownTip_ = row < 0 || !tip_ ? std::wstring() : tip_(row);
     tip.lpszText = shownTip_.data();
-}
-
-LRESULT ListView::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
-    if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
-    if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
-    const auto row = static_cast<size_t>(draw.nmcd.lItemlParam);
-    if (row < rows_.size() && rows_[row].Color != CLR_DEFAULT)
-        draw.clrText = Contrast::IsHigh() ? GetSysColor(COLOR_HOTLIGHT) : rows_[row].Color;
-    return CDRF_NEWFONT;
 }
 
 void ListView::OnContextMenu(POINT position) {

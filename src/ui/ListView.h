@@ -51,6 +51,15 @@ public:
     void ShowOnly(const std::function<bool(int row)>& isShown);
     /// Gives every row an icon (a resource of the program), 16 pixels at 96 DPI.
     void Icon(WORD resource);
+    /// Gives every row a box to check.
+    void CheckBoxes();
+    bool Checked(int row) const;
+    void Checked(int row, bool isChecked);
+    /// Draws an icon (a resource of the program) over the row's own, or takes it away.
+    void Overlay(int row, WORD resource);
+    /// What stands in grey where the rows would be while there are none.
+    void EmptyText(const std::wstring& text);
+    const std::wstring& EmptyText() const { return emptyText_; }
     /// Draws a row's icon faded, or not.
     void Fade(int row, bool isFaded);
     /// A text that a screen reader says behind the row's first cell, "" for none. Told when TellNotes runs, which
@@ -91,6 +100,10 @@ private:
     void OnDpiChanged(int dpi) override;
     void OnTip(NMTTDISPINFOW& tip);
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
+    void DrawEmptyText(HDC canvas) const;
+    void LoadIcon(WORD resource, HIMAGELIST icons) const;
+    UINT StateOf(int row, UINT mask) const;
+    void SetState(int row, UINT mask, UINT state);
     HWND Header() const;
     int ItemOf(int row) const;
     int RowOf(int item) const;
@@ -103,6 +116,7 @@ private:
         std::wstring Note;
         COLORREF Color = CLR_DEFAULT;
         bool IsFaded = false;
+        bool IsOverlaid = false;
     };
     struct Order {
         const std::vector<Row>* Rows;
@@ -115,6 +129,8 @@ private:
     int sortColumn_ = -1;
     bool isDescending_ = false;
     WORD iconResource_ = 0;
+    WORD overlayResource_ = 0;
+    std::wstring emptyText_;
     ImageListHandle icons_;
     std::vector<int> toldItems_;
     Action dblClick_;

@@ -12,7 +12,7 @@ public:
     void ShowMain() override { ++Shown; }
     int SelectedIndex() const override { return Row; }
     void SelectedIndex(int index) override { Row = index; }
-    void ReplaceRow(const std::wstring& name, const DatabaseRecord&) override { Replaced = name; }
+    void ReplaceRow(const std::wstring&, const std::wstring& name, const DatabaseRecord&) override { Replaced = name; }
 
     int Row;
     int Shown = 0;

@@ -13,7 +13,8 @@ std::wstring SupportSentence() { return LangText[Caption::ContactSupport]; }
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls, ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES};
+    constexpr INITCOMMONCONTROLSEX kControls{sizeof kControls,
+                                             ICC_LISTVIEW_CLASSES | ICC_STANDARD_CLASSES | ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&kControls);
     SetSupportSentence(&SupportSentence);
     OleInitialize(nullptr);
