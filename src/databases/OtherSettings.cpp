@@ -55,7 +55,7 @@ bool IsOnButton(const Reading& stored, const std::wstring& name) {
 } // namespace
 
 void AddedDatabases::Add(IniLib::Change& change, const std::wstring& name, Values values) {
-    for (const auto& [key, value] : values) change.WriteKeyValue(name, key, value);
+    change.WriteSection(name, values);
     databases_.emplace_back(name, std::move(values));
 }
 
@@ -63,10 +63,12 @@ void AddedDatabases::TakeBack(const Reading& stored, IniLib::Change& change, Nam
     Names going;
     for (const auto& [name, values] : databases_)
         if (stored.Section(name) == values && !IsOnButton(stored, name)) going.push_back(name);
+    Values lenders; // by the name of who borrows from them
+    for (const std::wstring& name : DatabaseList::ReadAll(stored))
+        lenders.emplace_back(name, stored.Value(name, Keys::UseLocationsFrom));
     const auto isLent = [&](const std::wstring& name) {
-        return std::ranges::any_of(DatabaseList::ReadAll(stored), [&](const std::wstring& other) {
-            return !NameList::Has(going, other) && stored.Value(other, Keys::UseLocationsFrom) == name;
-        });
+        return std::ranges::any_of(
+            lenders, [&](const auto& one) { return one.second == name && !NameList::Has(going, one.first); });
     };
     for (auto lent = std::ranges::find_if(going, isLent); lent != going.end();
          lent = std::ranges::find_if(going, isLent))

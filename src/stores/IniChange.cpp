@@ -55,6 +55,16 @@ void Change::WriteKeyValue(std::wstring_view section, std::wstring_view key, std
     Add(section, std::move(keyBytes), std::move(bytes));
 }
 
+void Change::WriteSection(std::wstring_view section, const Reading::Values& values) {
+    std::string lines;
+    for (const auto& [key, value] : values) {
+        const std::string line = ToAnsi(key) + '=' + Quoted(ToAnsi(value));
+        if (line.size() > LongestLine) isRefused_ = true;
+        lines += line + '\0';
+    }
+    if (!lines.empty()) Add(section, {}, std::move(lines));
+}
+
 void Change::DeleteKey(std::wstring_view section, std::wstring_view key) { Add(section, ToAnsi(key), {}); }
 
 void Change::DeleteSection(std::wstring_view section) { Add(section, {}, {}); }
@@ -92,6 +102,7 @@ DWORD Change::MakeStep(const Step& step, const std::wstring& copy) {
         // The platform would rewrite the file for a key that is not there.
         if (!stored->Whole(ToWide(step.section), ToWide(*step.key))) return ERROR_SUCCESS;
     }
+    if (!key && step.value) return PlatformIni::WriteSection(copy, step.section, *step.value);
     return PlatformIni::Write(copy, step.section, key, step.value ? step.value->c_str() : nullptr);
 }
 

@@ -24,6 +24,9 @@ public:
     explicit Change(Origin origin);
 
     void WriteKeyValue(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+    /// Writes a section that is not there yet. The platform takes the whole file apart for each call, so this is quicker
+    /// than key by key.
+    void WriteSection(std::wstring_view section, const Reading::Values& values);
     void DeleteKey(std::wstring_view section, std::wstring_view key);
     void DeleteSection(std::wstring_view section);
     /// Has steps added when the change is made, of the file as it is then, while other writers are kept out: for lists,
@@ -43,7 +46,7 @@ public:
 private:
     struct Step {
         std::string section;
-        std::optional<std::string> key, value; ///< none: the section, or the key, goes
+        std::optional<std::string> key, value; ///< none: the section, or the key, goes; no key: a section's lines
     };
     void Add(std::wstring_view section, std::optional<std::string> key, std::optional<std::string> value);
     /// These give an error code.

@@ -82,4 +82,10 @@ unsigned long Write(const std::wstring& path, const std::string& section, const 
     return WritePrivateProfileStringA(section.c_str(), key, value, file->c_str()) ? ERROR_SUCCESS : GetLastError();
 }
 
+unsigned long WriteSection(const std::wstring& path, const std::string& section, const std::string& lines) {
+    const auto file = AnsiName(path);
+    if (!file) return ERROR_INVALID_NAME;
+    return WritePrivateProfileSectionA(section.c_str(), lines.c_str(), file->c_str()) ? ERROR_SUCCESS : GetLastError();
+}
+
 } // namespace PlatformIni

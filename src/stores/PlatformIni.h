@@ -28,4 +28,7 @@ std::string SectionNames(const std::wstring& path, unsigned long size);
 /// Writes a value, or removes a key (no value) or a section (no key). An error code.
 unsigned long Write(const std::wstring& path, const std::string& section, const char* key, const char* value);
 
+/// Writes all lines of a section, each with a zero behind. An error code.
+unsigned long WriteSection(const std::wstring& path, const std::string& section, const std::string& lines);
+
 } // namespace PlatformIni
