@@ -92,13 +92,13 @@ void Form::CreateFrame(HWND owner) {
 }
 
 void Form::CreateMenuBar() {
+    for (const MenuItem* item : items_)
+        SetPropW(window_, item->Name(), reinterpret_cast<HANDLE>(static_cast<INT_PTR>(item->Identifier()))); // NOLINT
     if (std::ranges::none_of(menus_, &Menu::InBar)) return;
     MenuHandle bar(CreateMenu());
     for (Menu* menu : menus_)
         if (menu->InBar()) menu->AppendTo(bar.Get());
     if (SetMenu(window_, bar.Get())) bar.Release();
-    for (const MenuItem* item : items_)
-        SetPropW(window_, item->Name(), reinterpret_cast<HANDLE>(static_cast<INT_PTR>(item->Identifier()))); // NOLINT
 }
 
 void Form::ApplyFont() {

@@ -63,7 +63,7 @@ Journey::Journey() {
     folder_ = NewFolder();
     JourneyStores::DeleteTree(JourneyStores::UserRoot);
     JourneyStores::DeleteTree(L"Software\\Symantec");
-    JourneyStores::DeleteBackups();
+    std::filesystem::remove_all(JourneyStores::BackupFolder());
     SetEnvironmentVariableW(L"ACT_STANDIN_LOG", File(L"act.log").c_str());
     SetEnvironmentVariableW(L"ACT_STANDIN_STATE", File(L"act.ini").c_str());
     JourneyStores::User(L"Settings", L"Installed", L"1");

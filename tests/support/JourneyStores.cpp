@@ -71,10 +71,10 @@ std::wstring UserSection(const std::wstring& section) {
     return std::accumulate(values.begin(), values.end(), std::wstring());
 }
 
-void DeleteBackups() {
+std::wstring BackupFolder() {
     std::array<wchar_t, MAX_PATH> local{};
-    if (SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, local.data()) == S_OK)
-        std::filesystem::remove_all(std::filesystem::path(local.data()) / L"Kelmorra" / L"Backup");
+    SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, local.data());
+    return std::wstring(local.data()) + L"\\Kelmorra\\Backup";
 }
 
 std::string FileBytes(const std::wstring& path) {

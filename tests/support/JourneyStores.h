@@ -27,8 +27,8 @@ void User(const std::wstring& section, const std::wstring& key, const std::wstri
 /// A whole section of the per-user store: "key=text;" for each value, in the order of the keys. "(none)" without one.
 std::wstring UserSection(const std::wstring& section);
 
-/// Deletes the copies of settings files that the program keeps for the user.
-void DeleteBackups();
+/// Where the program keeps copies of settings files for the user.
+std::wstring BackupFolder();
 
 std::string FileBytes(const std::wstring& path);
 void FileBytes(const std::wstring& path, const std::string& bytes);
