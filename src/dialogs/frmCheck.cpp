@@ -62,7 +62,7 @@ void frmCheck::Form_Load() {
     Caption(Caption::Plain(Translated(MoreText::CheckList)));
     lvwMissing.AccessibleName(Translated(MoreText::SomeMissing));
     barProgress.AccessibleName(Translated(MoreText::Checking));
-    cmdProperties.Text(Caption::WithDots(LangText[Caption::DatabaseProperties]));
+    cmdProperties.Text(Caption::WithDots(LangText[Caption::Properties]));
     cmdCopy.Text(Translated(MoreText::Copy));
     Begin();
 }
@@ -73,8 +73,8 @@ void frmCheck::Form_Resize() {
     for (Control* wide : {static_cast<Control*>(&lblState), static_cast<Control*>(&barProgress)})
         wide->Move({120, wide->Place().Top, inner.Width - 240, wide->Place().Height});
     lvwMissing.Move({120, 660, inner.Width - 240, bottom - 780});
-    cmdProperties.Move({120, bottom, 2775, 345});
-    cmdCopy.Move({3030, bottom, 1215, 345});
+    cmdProperties.Move({120, bottom, 1815, 345});
+    cmdCopy.Move({2070, bottom, 1215, 345});
     cmdClose.Move({inner.Width - 1335, bottom, 1215, 345});
 }
 

@@ -24,8 +24,8 @@ public:
     ProgressBar barProgress{this, L"barProgress", {120, 375, 8160, 180}};
     ListView lvwMissing{this, L"lvwMissing", {120, 660, 8160, 3000}, {.DblClick = &frmCheck::cmdProperties_Click}};
     CommandButton cmdProperties{
-        this, L"cmdProperties", {120, 3780, 2775, 345}, {.Click = &frmCheck::cmdProperties_Click}, Default};
-    CommandButton cmdCopy{this, L"cmdCopy", {3030, 3780, 1215, 345}, {.Click = &frmCheck::cmdCopy_Click}};
+        this, L"cmdProperties", {120, 3780, 1815, 345}, {.Click = &frmCheck::cmdProperties_Click}, Default};
+    CommandButton cmdCopy{this, L"cmdCopy", {2070, 3780, 1215, 345}, {.Click = &frmCheck::cmdCopy_Click}};
     CommandButton cmdClose{this, L"cmdClose", {7065, 3780, 1215, 345}, {.Click = &frmCheck::cmdClose_Click}, Cancel};
     Timer tmrPatience{this, L"tmrPatience", {.Timer = &frmCheck::Finish}};
 

@@ -19,7 +19,7 @@ void frmImport::Form_Load() {
     constexpr int kColumns[] = {2000, 3000, 1600}; // twips
     Caption(Caption::Plain(Translated(MoreText::Import)));
     Label1.Text(LangText[Caption::SettingsFileLocation] + L":");
-    Label2.Text(LangText[Caption::DatabasesListed] + L":");
+    Label2.Text(Translated(MoreText::ToImport));
     cmdBrowse.Text(L"...");
     cmdBrowse.AccessibleName(Caption::WithDots(LangText[Caption::SettingsFileLocation]));
     cmdOK.Text(LangText[Caption::OK]);

@@ -44,14 +44,14 @@ void frmListMaintenance::SetMenuCaptions() {
     };
     const std::wstring ctrl = Translated(MoreText::KeyCtrl);
     set(mnuAdd, LangText[Caption::Add], L"", Translated(MoreText::KeyInsert));
-    set(mnuAddOpen, Translated(MoreText::AddOpenDatabase), ctrl.c_str(), L"+O");
+    set(mnuAddOpen, Caption::WithDots(Translated(MoreText::AddOpenDatabase)), ctrl.c_str(), L"+O");
     set(mnuDuplicate, Translated(MoreText::Duplicate), ctrl.c_str(), L"+D");
     set(mnuRemove, LangText[Caption::Remove], L"", Translated(MoreText::KeyDelete));
     set(mnuUndo, Translated(list_->UndoesImport() ? MoreText::UndoImport : MoreText::UndoRemoval), ctrl.c_str(), L"+Z");
     set(mnuUp, LangText[Caption::MoveUp], L"Alt+", Translated(MoreText::KeyUp));
     set(mnuDown, LangText[Caption::MoveDown], L"Alt+", Translated(MoreText::KeyDown));
-    set(mnuImport, Translated(MoreText::Import), ctrl.c_str(), L"+I");
-    set(mnuCheck, Translated(MoreText::CheckList), L"", L"F5");
+    set(mnuImport, Caption::WithDots(Translated(MoreText::Import)), ctrl.c_str(), L"+I");
+    set(mnuCheck, Caption::WithDots(Translated(MoreText::CheckList)), L"", L"F5");
 }
 
 void frmListMaintenance::Create_List() { ShowList(-1); }

@@ -10,7 +10,7 @@ namespace {
 // UTF-8, like the numbered table: English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const char*, 3>;
 
-constexpr std::array<Translations, 43> kTexts{{
+constexpr std::array<Translations, 44> kTexts{{
     {"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      "file.",
      "La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -79,13 +79,14 @@ constexpr std::array<Translations, 43> kTexts{{
     {"Edit...", "Modifier...", "Bearbeiten..."},
     {"No databases yet: %1 > %2", "Aucune base de données pour le moment\u00A0: %1 > %2",
      "Noch keine Datenbanken: %1 > %2"},
-    {"Add What ACT! Has &Open...", "Ajouter la base &ouverte dans ACT!...", "In ACT! &geöffnete hinzufügen..."},
+    {"Add What ACT! Has &Open", "Ajouter la base &ouverte dans ACT!", "In ACT! &geöffnete hinzufügen"},
     {"ACT! has no database open.", "Aucune base de données n'est ouverte dans ACT!.",
      "In ACT! ist keine Datenbank geöffnet."},
-    {"&Import from Another Settings File...", "&Importer d'un autre fichier de paramètres...",
-     "Aus anderer Einstellungsdatei &importieren..."},
+    {"&Import from Another Settings File", "&Importer d'un autre fichier de paramètres",
+     "Aus anderer Einstellungsdatei &importieren"},
     {"Choose a settings file above.", "Choisissez un fichier de paramètres ci-dessus.",
      "Wählen Sie oben eine Einstellungsdatei aus."},
+    {"Databases to import:", "Bases de données à importer\u00A0:", "Zu importierende Datenbanken:"},
     {"Copy of %1", "Copie du %1", "Kopie vom %1"},
     {"in the list already", "déjà dans la liste", "schon in der Liste"},
     {"Left out, as the list has no room for more: %1", "Laissées de côté, faute de place dans la liste\u00A0: %1",
@@ -97,7 +98,7 @@ constexpr std::array<Translations, 43> kTexts{{
      "Es gibt keine Datenbanken zum Importieren in der Datei\r\n%1\r\nVielleicht ist sie keine Einstellungsdatei, oder "
      "sie kann im Moment nicht gelesen werden."},
     {"Undo I&mport", "A&nnuler l'importation", "Import &rückgängig machen"},
-    {"Chec&k the List...", "&Vérifier la liste...", "Liste &prüfen..."},
+    {"Chec&k the List", "&Vérifier la liste", "Liste &prüfen"},
     {"Files and folders are being looked for.", "Recherche des fichiers et des dossiers en cours.",
      "Dateien und Ordner werden gesucht."},
     {"Nothing is missing.", "Il ne manque rien.", "Es fehlt nichts."},

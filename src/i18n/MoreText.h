@@ -35,6 +35,7 @@ enum class MoreText {
     NoOpenDatabase,
     Import,
     ChooseSettingsFile,
+    ToImport,
     CopyOf,
     AlreadyListed,
     NotOffered,

@@ -101,6 +101,7 @@ private:
     void OnTip(NMTTDISPINFOW& tip);
     LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
     void DrawEmptyText(HDC canvas) const;
+    void DrawOverlay(HDC canvas, int item) const;
     void LoadIcon(WORD resource, HIMAGELIST icons) const;
     UINT StateOf(int row, UINT mask) const;
     void SetState(int row, UINT mask, UINT state);

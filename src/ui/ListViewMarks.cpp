@@ -115,9 +115,18 @@ LRESULT ListView::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
     if (draw.nmcd.dwDrawStage == CDDS_PREPAINT)
         return CDRF_NOTIFYITEMDRAW | (rows_.empty() && !emptyText_.empty() ? CDRF_NOTIFYPOSTPAINT : 0);
     if (draw.nmcd.dwDrawStage == CDDS_POSTPAINT) DrawEmptyText(draw.nmcd.hdc);
-    if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
     const auto row = static_cast<size_t>(draw.nmcd.lItemlParam);
-    if (row < rows_.size() && rows_[row].Color != CLR_DEFAULT)
+    if (draw.nmcd.dwDrawStage == CDDS_ITEMPOSTPAINT) DrawOverlay(draw.nmcd.hdc, static_cast<int>(draw.nmcd.dwItemSpec));
+    if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || row >= rows_.size()) return CDRF_DODEFAULT;
+    if (rows_[row].Color != CLR_DEFAULT)
         draw.clrText = Contrast::IsHigh() ? GetSysColor(COLOR_HOTLIGHT) : rows_[row].Color;
-    return CDRF_NEWFONT;
+    return CDRF_NEWFONT | (rows_[row].IsOverlaid ? CDRF_NOTIFYPOSTPAINT : 0);
+}
+
+void ListView::DrawOverlay(HDC canvas, int item) const {
+    RECT icon{};
+    icon.left = LVIR_ICON;
+    // Wine leaves the overlay of an icon out that has half transparent edges. Where it has been drawn, nothing changes.
+    if (SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&icon)))
+        ImageList_Draw(icons_.Get(), 1, canvas, icon.left, icon.top, ILD_TRANSPARENT);
 }

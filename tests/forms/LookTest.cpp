@@ -3,6 +3,8 @@
 
 #include "support/Look.h"
 #include "app/frmWaiting.h"
+#include "dialogs/frmCheck.h"
+#include "dialogs/frmImport.h"
 #include "dialogs/frmLanguage.h"
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
@@ -19,6 +21,8 @@
 #include "support/Wide.h"
 
 #include <array>
+#include <filesystem>
+#include <fstream>
 
 // NOLINTNEXTLINE(readability-redundant-declaration)
 extern decltype(&TrackPopupMenu) importedTrackPopupMenu __asm__("__imp__TrackPopupMenu@28");
@@ -104,6 +108,26 @@ COLORREF ColorAtEdge(HWND window, bool isLeft) {
 
 COLORREF StripColor(HWND palette) { return ColorAtEdge(palette, false); }
 
+/// Shows the import with a copy chosen that has a database more than the list.
+void ImportFromCopy(DialogScript& script) {
+    const TempFile local(L"none");
+    const std::wstring folder = local.Folder() + L"\\Kelmorra\\Backup";
+    std::filesystem::create_directories(folder);
+    std::ofstream(std::filesystem::path(folder + L"\\Kelmorra-00000000-20260101-120000.ini"))
+        << "[General]\nSort=Sales;Suppliers\n[Sales]\nPath=E:\\databases\\Sales.dbf\n"
+           "[Suppliers]\nPath=E:\\databases\\Suppliers.dbf\n";
+    ScratchRegistry::LocalData(local.Folder());
+    script.Then([](HWND dialog) {
+        HWND files = FindControl(dialog, L"cboFile");
+        SendMessageW(files, CB_SETCURSEL, 0, 0);
+        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(files), CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(files));
+        InspectAndCancel(dialog, L"import");
+    });
+    auto list = EditedList::Load();
+    frmImport(*list, list->Shown()).ShowModal();
+}
+
 } // namespace
 
 TEST_CASE("No caption of any window is cut off in any language, and nothing reaches over an edge") {
@@ -124,6 +148,13 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
             InspectAndCancel(dialog, L"list");
         });
         window.mnuManageList.Click();
+        script.Then([](HWND dialog) {
+            const auto& check = *static_cast<frmCheck*>(Form::FromWindow(dialog));
+            PumpUntil([&] { return check.lvwMissing.RowCount() > 0; });
+            InspectAndCancel(dialog, L"check");
+        });
+        frmCheck(window).ShowModal();
+        ImportFromCopy(script);
         script.Then([](HWND dialog) { InspectAndCancel(dialog, L"settings-file"); });
         window.mnuSettingsLocation.Click();
         script.Then([](HWND dialog) {

@@ -22,7 +22,7 @@ public:
     void DenyKeysBelow(HKEY root);
 
     /// From now on the user's local application data lies in that folder.
-    void LocalData(const std::wstring& folder);
+    static void LocalData(const std::wstring& folder);
 
 private:
     void Override(HKEY root, const wchar_t* name, DWORD options);
