@@ -25,15 +25,6 @@ Read<EditedDatabase> EditedDatabase::Load(const std::wstring& name, const std::w
     return EditedDatabase(*stored, name, model);
 }
 
-Read<EditedDatabase> EditedDatabase::LoadNew(DatabaseValues values) {
-    const auto stored = IniLib::ReadFile();
-    if (!stored) return Unreadable();
-    EditedDatabase edited(*stored, {}, {});
-    values.Name = DatabaseList::FreeName(*stored, values.Name, edited.all_);
-    edited.values_ = std::move(values);
-    return edited;
-}
-
 EditedDatabase::EditedDatabase(const IniLib::Reading& stored, const std::wstring& name, std::wstring model)
     : from_(stored.From()), oldName_(name), model_(std::move(model)), all_(DatabaseList::ReadAll(stored)) {
     const std::wstring& source = model_.empty() ? oldName_ : model_;

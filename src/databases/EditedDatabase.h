@@ -24,8 +24,6 @@ public:
     /// Reads a database by its name. With an empty name, a new one: empty too, or with the values of `model` under a
     /// name that is free.
     static Read<EditedDatabase> Load(const std::wstring& name, const std::wstring& model);
-    /// A new one that begins with these values, under their name or a free one like it.
-    static Read<EditedDatabase> LoadNew(DatabaseValues values);
 
     const DatabaseValues& Values() const { return values_; }
     /// Every database of the list.

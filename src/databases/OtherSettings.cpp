@@ -48,10 +48,6 @@ Values Only(const Keys& keys, const Values& values) {
     return kept;
 }
 
-bool IsOnButton(const Reading& stored, const std::wstring& name) {
-    return NameList::Has(Text::Split(stored.Whole(Keys::General, Keys::QuickSwitch).value_or(L""), L';'), name);
-}
-
 } // namespace
 
 void AddedDatabases::Add(IniLib::Change& change, const std::wstring& name, Values values) {
@@ -60,9 +56,10 @@ void AddedDatabases::Add(IniLib::Change& change, const std::wstring& name, Value
 }
 
 void AddedDatabases::TakeBack(const Reading& stored, IniLib::Change& change, Names& names) const {
+    const Names buttons = Text::Split(stored.Whole(Keys::General, Keys::QuickSwitch).value_or(L""), L';');
     Names going;
     for (const auto& [name, values] : databases_)
-        if (stored.Section(name) == values && !IsOnButton(stored, name)) going.push_back(name);
+        if (stored.Section(name) == values && !NameList::Has(buttons, name)) going.push_back(name);
     Values lenders; // by the name of who borrows from them
     for (const std::wstring& name : DatabaseList::ReadAll(stored))
         lenders.emplace_back(name, stored.Value(name, Keys::UseLocationsFrom));
@@ -70,9 +67,7 @@ void AddedDatabases::TakeBack(const Reading& stored, IniLib::Change& change, Nam
         return std::ranges::any_of(
             lenders, [&](const auto& one) { return one.second == name && !NameList::Has(going, one.first); });
     };
-    for (auto lent = std::ranges::find_if(going, isLent); lent != going.end();
-         lent = std::ranges::find_if(going, isLent))
-        going.erase(lent);
+    for (auto lent = going.begin(); (lent = std::ranges::find_if(going, isLent)) != going.end();) going.erase(lent);
     for (const std::wstring& name : going) {
         DatabaseList::DeleteFileRecord(stored, change, name);
         std::erase(names, name);

@@ -21,16 +21,10 @@ using ListCheck::Part;
 constexpr UINT kAnswer = WM_APP + 1;
 
 std::wstring NameOf(const Part& part) {
-    switch (part.What) {
-    case Kind::Record: return Translated(MoreText::Record);
-    case Kind::File: return LangText[Caption::DatabasePath];
-    case Kind::ContactLayout: return LangText[Caption::ContactLayoutColumn];
-    case Kind::GroupLayout: return LangText[Caption::GroupLayoutColumn];
-    case Kind::Macro: return LangText[Caption::OpeningMacroColumn];
-    case Kind::Lender: return LangText[Caption::UseLocationsFrom];
-    case Kind::Logon: return LangText[Caption::Username];
-    default: return LangText[Caption::FirstLocation + static_cast<int>(part.Folder)];
-    }
+    constexpr int kNames[] = {Caption::Properties,        Caption::DatabasePath,       Caption::ContactLayoutColumn,
+                              Caption::GroupLayoutColumn, Caption::OpeningMacroColumn, Caption::UseLocationsFrom,
+                              Caption::Username,          Caption::FirstLocation};
+    return LangText[kNames[static_cast<size_t>(part.What)] + static_cast<int>(part.Folder)];
 }
 
 /// The page of the properties on which it can be mended.
@@ -79,10 +73,9 @@ void frmCheck::Form_Resize() {
 }
 
 bool frmCheck::Form_KeyDown(const KeyPress& press) {
-    if (press == KeyPress{.Key = 'C', .Ctrl = true}) return cmdCopy_Click(), true;
-    if (press != KeyPress{.Key = VK_F5}) return false;
-    if (ReadParts()) Begin();
-    return true;
+    const bool copies = press == KeyPress{.Key = 'C', .Ctrl = true};
+    if (copies) cmdCopy_Click();
+    return copies;
 }
 
 bool frmCheck::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) {
@@ -126,12 +119,6 @@ void frmCheck::Finish() {
     check_.reset();
     barProgress.Visible(false);
     cmdClose.Text(LangText[Caption::Close]);
-    ShowMissing();
-    lblState.Text(Translated(shown_.empty() ? MoreText::NothingMissing : MoreText::SomeMissing));
-}
-
-void frmCheck::ShowMissing() {
-    lvwMissing.Clear();
     for (size_t index = 0; index < parts_.size(); ++index) {
         const Part& part = parts_[index];
         if (part.State == Answer::There) continue;
@@ -141,6 +128,7 @@ void frmCheck::ShowMissing() {
     }
     lvwMissing.Filled();
     lvwMissing.Select(std::min(lastRow_, lvwMissing.RowCount() - 1));
+    lblState.Text(Translated(shown_.empty() ? MoreText::NothingMissing : MoreText::SomeMissing));
 }
 
 void frmCheck::cmdProperties_Click() {
@@ -168,9 +156,4 @@ void frmCheck::cmdCopy_Click() {
     if (!text.empty()) CopyToClipboard(Handle(), text);
 }
 
-void frmCheck::cmdClose_Click() {
-    if (number_ != 0)
-        Finish();
-    else
-        Unload();
-}
+void frmCheck::cmdClose_Click() { number_ != 0 ? Finish() : Unload(); }

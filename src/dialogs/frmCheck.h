@@ -43,7 +43,6 @@ private:
     void Begin();
     void Take(WPARAM answer);
     void Finish();
-    void ShowMissing();
     void cmdProperties_Click();
     void cmdCopy_Click();
     void cmdClose_Click();

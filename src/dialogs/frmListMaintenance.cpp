@@ -1,5 +1,6 @@
 #include "dialogs/frmListMaintenance.h"
 
+#include "databases/DatabaseList.h"
 #include "dialogs/frmCheck.h"
 #include "dialogs/frmImport.h"
 #include "dialogs/frmProperties.h"
@@ -8,6 +9,7 @@
 #include "i18n/modLangues.h"
 #include "program/Program.h"
 #include "program/SettingsNotice.h"
+#include "stores/IniLib.h"
 #include "support/MsgBox.h"
 #include "support/Text.h"
 
@@ -177,8 +179,8 @@ void frmListMaintenance::mnuAddOpen_Click() {
     values.Record.ContactLayout = act.Preferences.DefaultContactLayout();
     values.Record.GroupLayout = act.Preferences.DefaultGroupLayout();
     values.Logon.Username = act.Application.GetCurrentUserName();
-    values.Name = Text::AfterLast(values.Record.Path, L'\\');
-    values.Name.resize(std::min(values.Name.size(), values.Name.rfind(L'.')));
+    const std::wstring name = Text::AfterLast(values.Record.Path, L'\\');
+    values.Name = DatabaseList::FreeName(*IniLib::ReadFile(), name.substr(0, name.rfind(L'.')), list_->Shown());
     frmProperties properties(&mainWindow_);
     properties.Suggest(std::move(values));
     AddByProperties(properties);

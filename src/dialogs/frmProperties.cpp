@@ -50,7 +50,7 @@ bool frmProperties::Form_Initialize() {
     ProgramState& program = Program();
     if (isNew_) program.FriendlyName.clear();
     OldName_ = program.FriendlyName;
-    database_ = suggestion_ ? EditedDatabase::LoadNew(*suggestion_) : EditedDatabase::Load(OldName_, model_);
+    database_ = EditedDatabase::Load(OldName_, model_);
     if (!database_) SettingsNotice::CannotRead();
     return static_cast<bool>(database_);
 }
@@ -91,7 +91,7 @@ void frmProperties::SetCaptions() {
 }
 
 void frmProperties::ShowValues() {
-    const DatabaseValues& values = database_->Values();
+    const DatabaseValues& values = suggestion_ ? *suggestion_ : database_->Values();
     txtName.Text(values.Name);
     txtPath.Text(values.Record.Path);
     txtCL.Text(values.Record.ContactLayout);
@@ -117,9 +117,9 @@ void frmProperties::ShowLenders() {
 }
 
 void frmProperties::Form_Activate() {
-    if (firstPage_ != Tab::General && !std::exchange(isFirstPageShown_, true)) {
+    if (const int page = std::exchange(firstPage_, Tab::General); page != Tab::General) {
         SkipTabCheck_ = true;
-        ShowTab(firstPage_);
+        ShowTab(page);
     }
     if (asksForUsername_) txtUsername.SetFocus();
 }

@@ -123,7 +123,6 @@ private:
     bool asksForUsername_ = false;
     bool cancelled_ = true;
     bool SkipTabCheck_ = false;
-    int firstPage_ = 0;
-    bool isFirstPageShown_ = false;
+    int firstPage_ = 0; ///< until it has been shown
     bool NameValid_ = false;
 };

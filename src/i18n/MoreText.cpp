@@ -10,7 +10,7 @@ namespace {
 // UTF-8, like the numbered table: English, French, German, in the order of the languages' numbers.
 using Translations = std::array<const char*, 3>;
 
-constexpr std::array<Translations, 44> kTexts{{
+constexpr std::array<Translations, 43> kTexts{{
     {"The list of databases is longer than can be shown. The databases at its end stay in the settings "
      "file.",
      "La liste des bases de données est trop longue pour être affichée en entier. Les bases de données de "
@@ -108,7 +108,6 @@ constexpr std::array<Translations, 44> kTexts{{
     {"State", "État", "Zustand"},
     {"missing", "manquant", "fehlt"},
     {"no answer", "sans réponse", "keine Antwort"},
-    {"Settings", "Paramètres", "Einstellungen"},
     {"C&opy", "C&opier", "&Kopieren"},
 }};
 

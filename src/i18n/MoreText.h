@@ -49,7 +49,6 @@ enum class MoreText {
     State,
     Missing,
     NoAnswer,
-    Record,
     Copy,
 };
 

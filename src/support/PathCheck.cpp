@@ -79,12 +79,9 @@ long PathCheck::Start(HWND window, const std::vector<std::wstring>& paths) {
     }
     round_->Users = round_->Working = static_cast<LONG>(jobs.size()) + 1;
     for (Owned<Job>& job : jobs) {
-        const HANDLE thread = CreateThread(nullptr, 0, &Work, job.Get(), 0, nullptr);
-        if (thread)
-            static_cast<void>(job.Release()); // the thread's
-        else
-            Work(job.Release()); // late, but answered
-        threads_.emplace_back(thread);
+        Job* const given = job.Release(); // to the thread
+        threads_.emplace_back(CreateThread(nullptr, 0, &Work, given, 0, nullptr));
+        if (!threads_.back()) Work(given); // late, but answered
     }
     // No thread is done before all have been started.
     if (InterlockedDecrement(&round_->Working) == 0) round_->Tell(Done);

@@ -103,7 +103,6 @@ private:
     void DrawEmptyText(HDC canvas) const;
     void DrawOverlay(HDC canvas, int item) const;
     void LoadIcon(WORD resource, HIMAGELIST icons) const;
-    UINT StateOf(int row, UINT mask) const;
     void SetState(int row, UINT mask, UINT state);
     HWND Header() const;
     int ItemOf(int row) const;

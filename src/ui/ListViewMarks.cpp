@@ -38,10 +38,6 @@ void ListView::LoadIcon(WORD resource, HIMAGELIST icons) const {
     ImageList_AddIcon(icons, icon.Get());
 }
 
-UINT ListView::StateOf(int row, UINT mask) const {
-    return static_cast<UINT>(SendMessageW(Handle(), LVM_GETITEMSTATE, static_cast<WPARAM>(ItemOf(row)), mask));
-}
-
 void ListView::SetState(int row, UINT mask, UINT state) {
     LVITEMW item{};
     item.stateMask = mask;
@@ -67,7 +63,9 @@ void ListView::CheckBoxes() {
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
 }
 
-bool ListView::Checked(int row) const { return StateOf(row, LVIS_STATEIMAGEMASK) == kChecked; }
+bool ListView::Checked(int row) const {
+    return SendMessageW(Handle(), LVM_GETITEMSTATE, static_cast<WPARAM>(ItemOf(row)), LVIS_STATEIMAGEMASK) == kChecked;
+}
 
 void ListView::Checked(int row, bool isChecked) {
     SetState(row, LVIS_STATEIMAGEMASK, isChecked ? kChecked : kUnchecked);

@@ -72,7 +72,7 @@ TEST_CASE("The check tells of all that is missing, waits for no dead share, and 
                              L"Staff|Database Path|\\\\alive\\gone.dbf|missing|\n"
                              L"Staff|Use locations from|Nobody|missing|\n"
                              L"Staff|Username||missing|\n"
-                             L"Ghost|Settings|" +
+                             L"Ghost|Properties|" +
                                  settings + L"|missing|\n");
         TranslateKey(check.lvwMissing.Handle(), 'C', VK_CONTROL);
         CHECK(Clipboard().starts_with(L"Sales\tContact Layout\tE:\\gone.cly\tmissing\r\nSales\t"));
