@@ -83,27 +83,6 @@ void InspectTabs(HWND window, const wchar_t* control, std::initializer_list<cons
     SendMessageW(window, WM_CLOSE, 0, 0);
 }
 
-void HoverOver(HWND box) {
-    constexpr int kInside = 20;
-    RECT place{};
-    GetWindowRect(box, &place);
-    SetCursorPos(place.left + kInside, place.top + kInside);
-    SendMessageW(box, WM_MOUSEMOVE, 0, MAKELPARAM(kInside, kInside));
-}
-
-/// A colour at the left or right edge, half way down, as it stands on the screen.
-COLORREF ColorAtEdge(HWND window, bool isLeft) {
-    RECT client{};
-    GetClientRect(window, &client);
-    UpdateWindow(window);
-    HDC canvas = GetDC(window);
-    const COLORREF color = GetPixel(canvas, isLeft ? 3 : client.right - 3, client.bottom / 2);
-    ReleaseDC(window, canvas);
-    return color;
-}
-
-COLORREF StripColor(HWND palette) { return ColorAtEdge(palette, false); }
-
 } // namespace
 
 TEST_CASE("No caption of any window is cut off in any language, and nothing reaches over an edge") {
@@ -117,15 +96,18 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         PumpUntil([&] { return !window.ListView1.AccessibleName().empty(); }); // told once the window stands
         Inspect(window.Handle(), L"main");
         window.mnuPopup.PopUp({});
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"language"); });
-        window.mnuLanguages.Click();
-        script.Then([](HWND dialog) {
-            static_cast<frmListMaintenance*>(Form::FromWindow(dialog))->mnuList.PopUp({});
-            InspectAndCancel(dialog, L"list");
-        });
-        window.mnuManageList.Click();
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"settings-file"); });
-        window.mnuSettingsLocation.Click();
+        for (const auto& [item, name] : {std::pair{&frmMain::mnuLanguages, L"language"},
+                                         {&frmMain::mnuManageList, L"list"},
+                                         {&frmMain::mnuSettingsLocation, L"settings-file"},
+                                         {&frmMain::mnuIntegrate, L"integration"},
+                                         {&frmMain::mnuAbout, L"about"}}) {
+            script.Then([item, name](HWND dialog) {
+                if (item == &frmMain::mnuManageList)
+                    static_cast<frmListMaintenance*>(Form::FromWindow(dialog))->mnuList.PopUp({});
+                InspectAndCancel(dialog, name);
+            });
+            (window.*item).Click();
+        }
         script.Then([](HWND dialog) {
             InspectTabs(dialog, L"mstOptions", {L"properties-general", L"properties-locations", L"properties-logon"});
         });
@@ -134,10 +116,6 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         frmPrefLocations(L"Sales", L"Sales").ShowModal();
         script.Then([](HWND dialog) { InspectTabs(dialog, L"mstAssign", {L"assign-buttons", L"assign-colors"}); });
         frmAssign().ShowModal();
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"integration"); });
-        window.mnuIntegrate.Click();
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"about"); });
-        window.mnuAbout.Click();
         script.Then([](HWND dialog) {
             Inspect(dialog, L"waiting");
             Form::Loaded().back()->Unload();
@@ -178,10 +156,10 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
                                           std::to_wstring(columns * 2) + L"-buttons-" +
                                           std::to_wstring(WindowDpi(palette));
                 HoverOver(FindControl(palette, columns == 1 ? L"pic1" : L"pic3"));
-                CHECK(StripColor(palette) == GetSysColor(COLOR_ACTIVECAPTION));
+                CHECK(ColorAtEdge(palette, false) == GetSysColor(COLOR_ACTIVECAPTION));
                 TakePicture(palette, name);
                 SendMessageW(palette, WM_ACTIVATE, WA_INACTIVE, 0);
-                CHECK(StripColor(palette) == GetSysColor(COLOR_INACTIVECAPTION));
+                CHECK(ColorAtEdge(palette, false) == GetSysColor(COLOR_INACTIVECAPTION));
                 if (columns == 1) TakePicture(palette, name + L"-inactive");
                 // Another scheme shows at once on every button, also where no dialog has lain over it.
                 const std::array<HWND, 2> boxes{FindControl(palette, L"pic1"), FindControl(palette, L"pic2")};

@@ -78,14 +78,3 @@ TEST_CASE_FIXTURE(SettingsDesk, "Deleting takes one key or a section; a missing 
     CHECK(IniLib::DeleteSection(L"T"));
     CHECK(IniLib::Extract_Sections() == std::vector<std::wstring>{L"S"});
 }
-
-TEST_CASE_FIXTURE(SettingsDesk, "Sections are listed in order as far as 998 bytes go, the last one cut there") {
-    std::string bytes;
-    for (int index = 100; index < 350; ++index) bytes += "[Section " + std::to_string(index) + "]\r\nK=1\r\n";
-    file.Bytes(bytes);
-    const std::vector<std::wstring> names = IniLib::Extract_Sections();
-    REQUIRE(names.size() == 998 / 12 + 1);
-    CHECK(names.front() == L"Section 100");
-    CHECK(names[names.size() - 2] == L"Section " + std::to_wstring(98 + names.size()));
-    CHECK(names.back() == L"S");
-}
