@@ -25,7 +25,7 @@ std::vector<std::wstring> StartOpenAndAnswer(Journey& journey) {
     CHECK(Within([&] {
         if (const auto box = JourneyWindow::MessageBoxOf(program.Id())) {
             told.push_back(box->Text);
-            JourneyWindow::Dismiss(*box);
+            JourneyWindow::Answer(*box, IDOK);
             Within([&] { return !IsWindow(box->Window); });
             return false;
         }

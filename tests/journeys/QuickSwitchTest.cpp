@@ -17,12 +17,11 @@ HWND StartWithPalette(Journey& journey, const wchar_t* buttons) {
     User(L"Settings", L"QuickLeft", std::to_wstring(300 * kTwipsPerPixel));
     User(L"Settings", L"QuickTop", std::to_wstring(200 * kTwipsPerPixel));
     journey.StartAct(journey.File(L"Archive.dbf"));
-    HWND palette = Journey::Window(journey.Start(), L"frmQuickSwitch");
-    JourneyWindow::Settle(palette);
-    return palette;
+    return Journey::Window(journey.Start(), L"frmQuickSwitch");
 }
 
 RECT PlaceOf(HWND window) {
+    JourneyWindow::Settle(window);
     RECT place{};
     GetWindowRect(window, &place);
     return place;
@@ -36,9 +35,8 @@ HWND Point(HWND palette, const wchar_t* button) {
 }
 
 void PressAndRelease(HWND palette, const wchar_t* button) {
-    Point(palette, button);
-    JourneyWindow::LeftButton(true);
-    JourneyWindow::LeftButton(false);
+    HWND box = JourneyWindow::Control(palette, button);
+    JourneyWindow::ClickMouse(box, JourneyWindow::Middle(box));
 }
 
 POINT OnStrip(HWND palette, int y) {
@@ -47,17 +45,14 @@ POINT OnStrip(HWND palette, int y) {
     return {client.right - kStrip / 2, y};
 }
 
-/// Opens the control menu by its square and chooses an item by the number of steps down to it.
-void ChooseInControlMenu(const Journey& journey, HWND palette, int steps) {
+/// Opens the control menu by its square and chooses its third item.
+void ChooseExit(const Journey& journey, HWND palette) {
     constexpr int kInSquare = 6;
-    JourneyWindow::MoveMouse(palette, OnStrip(palette, kInSquare));
-    JourneyWindow::LeftButton(true);
-    JourneyWindow::LeftButton(false);
+    JourneyWindow::ClickMouse(palette, OnStrip(palette, kInSquare));
     Journey::Window(journey.Program(), L"#32768");
-    for (int step = 0; step < steps; ++step) JourneyWindow::Press(VK_DOWN);
+    for (int step = 0; step < 3; ++step) JourneyWindow::Press(VK_DOWN);
     JourneyWindow::Press(VK_RETURN);
 }
-constexpr int kExitItem = 3;
 
 std::wstring OpenedPath(const Journey& journey) {
     std::wstring paths;
@@ -70,6 +65,7 @@ std::wstring OpenedPath(const Journey& journey) {
 
 TEST_CASE_FIXTURE(Journey, "a button opens when pressed and released on it, and after a failed open works as before") {
     HWND palette = StartWithPalette(*this, L"Archive;Customers;Suppliers");
+    JourneyWindow::Settle(palette);
     CHECK(!IsWindowVisible(JourneyWindow::Find(Program().Id(), L"frmMain")));
     CHECK(JourneyWindow::Text(JourneyWindow::Control(palette, L"pic1")) == L"(Archive)");
     // Pressed there and released elsewhere is no click; nor is anything on the open database's button.
@@ -87,7 +83,6 @@ TEST_CASE_FIXTURE(Journey, "a button opens when pressed and released on it, and 
     MainWindow(Program());
     CHECK(Within([&] { return !IsWindow(palette); }));
     palette = JourneyDialogs::OpenByMenu(*this, L"mnuQuickSwitch", L"frmQuickSwitch");
-    JourneyWindow::Settle(palette);
     PressAndRelease(palette, L"pic2");
     PressAndRelease(palette, L"pic2"); // by then there is nothing to press
     CHECK(Program().ExitCode() == 0u);
@@ -106,13 +101,12 @@ TEST_CASE_FIXTURE(Journey, "the palette is dragged by its strip and comes back t
     const POINT wanted{before.left + kMoveX, before.top + kMoveY};
     REQUIRE(Within([&] {
         const RECT now = PlaceOf(palette);
-        return now.left == wanted.x && now.top == wanted.y && !JourneyWindow::LeftButtonIsDown();
+        return now.left == wanted.x && now.top == wanted.y && GetAsyncKeyState(VK_LBUTTON) >= 0;
     }));
-    ChooseInControlMenu(*this, palette, kExitItem);
+    ChooseExit(*this, palette);
     CHECK(Program().ExitCode() == 0u);
     CHECK(User(L"Settings", L"QuickLeft") == std::to_wstring(wanted.x * kTwipsPerPixel));
     palette = Window(Start(), L"frmQuickSwitch");
-    JourneyWindow::Settle(palette);
     CHECK(PlaceOf(palette).left == wanted.x);
     CHECK(PlaceOf(palette).top == wanted.y);
 }

@@ -53,9 +53,6 @@ std::wstring NewFolder() {
     return folder;
 }
 
-/// What the stand-in notes about itself and its event component is no call into ACT!.
-bool IsCall(const Journey::Call& call) { return call.Object != L"STANDIN" && call.Object != L"EVENT"; }
-
 } // namespace
 
 Journey::Journey() {
@@ -166,25 +163,15 @@ size_t Journey::Count(const std::wstring& object, const std::wstring& member) co
     return count;
 }
 
-std::wstring Journey::Calls(size_t skip) const {
+std::wstring Journey::Calls() const {
     std::wstring lines;
     for (const Call& call : Log()) {
-        if (!IsCall(call)) continue;
-        if (skip > 0) {
-            --skip;
-            continue;
-        }
+        // What the stand-in notes about itself and its event component is no call into ACT!.
+        if (call.Object == L"STANDIN" || call.Object == L"EVENT") continue;
         lines += call.Object + L' ' + call.Member + L' ' + call.Flags;
         lines += (call.Arguments.empty() ? L"" : L' ' + call.Arguments) + L'\n';
     }
     return lines;
-}
-
-size_t Journey::CallCount() const {
-    size_t count = 0;
-    for (const Call& call : Log())
-        if (IsCall(call)) ++count;
-    return count;
 }
 
 const Process& Journey::Start() { return programs_.emplace_back(group_, ProgramFile(L"Kelmorra.exe")); }
@@ -213,12 +200,7 @@ JourneyWindow::Box Journey::Box(const Process& program) const {
 
 JourneyWindow::Box Journey::AnswerBox() const {
     const JourneyWindow::Box box = Box(Program());
-    JourneyWindow::Dismiss(box);
+    JourneyWindow::Answer(box, IDOK);
     REQUIRE(Within([&] { return !IsWindow(box.Window); }));
     return box;
-}
-
-void Journey::Close() const {
-    JourneyWindow::Click(JourneyWindow::Find(Program().Id(), L"frmMain"), L"cmdCancel");
-    CHECK(Program().ExitCode() == 0u);
 }

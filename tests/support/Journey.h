@@ -59,9 +59,8 @@ public:
     /// What the stand-in's log holds.
     std::vector<Call> Log() const;
     size_t Count(const std::wstring& object, const std::wstring& member) const;
-    /// The calls into ACT! after the first `skip` of them, one per line: object, member, flags and arguments.
-    std::wstring Calls(size_t skip = 0) const;
-    size_t CallCount() const;
+    /// The calls into ACT!, one per line: object, member, flags and arguments.
+    std::wstring Calls() const;
 
     // The program
     const Process& Start();
@@ -75,8 +74,6 @@ public:
     JourneyWindow::Box AnswerBox() const;
     /// A visible window of a program by its class; the running test ends when it does not come.
     static HWND Window(const Process& program, const wchar_t* className);
-    /// Closes the main window by its Cancel button and waits for the end of the program.
-    void Close() const;
 
     const ProcessGroup& Group() const { return group_; }
 

@@ -145,8 +145,6 @@ void LeftButton(bool isDown) {
     SendInput(1, &input, sizeof input);
 }
 
-bool LeftButtonIsDown() { return GetAsyncKeyState(VK_LBUTTON) < 0; }
-
 void Drag(HWND window, POINT place, SIZE distance) {
     ClientToScreen(window, &place);
     std::wstring command =
@@ -170,10 +168,13 @@ POINT Middle(HWND window) {
     return {client.right / 2, client.bottom / 2};
 }
 
-void DoubleClick(HWND window, POINT place) {
+void ClickMouse(HWND window, POINT place, int times) {
     Settle(window);
     MoveMouse(window, place);
-    for (const bool isDown : {true, false, true, false}) LeftButton(isDown);
+    for (; times > 0; --times) {
+        LeftButton(true);
+        LeftButton(false);
+    }
 }
 
 void Press(WORD key) {
@@ -196,7 +197,5 @@ std::optional<Box> MessageBoxOf(DWORD process) {
 }
 
 void Answer(const Box& box, int button) { PostMessageW(box.Window, WM_COMMAND, static_cast<WPARAM>(button), 0); }
-
-void Dismiss(const Box& box) { PostMessageW(box.Window, WM_CLOSE, 0, 0); }
 
 } // namespace JourneyWindow
