@@ -17,12 +17,6 @@ bool IsDialog(HWND window) {
     return className == L"#32770" || (className.starts_with(L"frm") && className != L"frmMain");
 }
 
-std::wstring MessageText(HWND window) {
-    constexpr int kMessageText = 0xFFFF; // the static control of a message box
-    HWND text = GetDlgItem(window, kMessageText);
-    return text ? WindowText(text) : std::wstring();
-}
-
 struct Search {
     const wchar_t* Name;
     HANDLE Value;
@@ -47,6 +41,12 @@ std::wstring WindowText(HWND window) {
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
+}
+
+std::wstring MessageText(HWND window) {
+    constexpr int kMessageText = 0xFFFF; // the static control of a message box
+    HWND text = GetDlgItem(window, kMessageText);
+    return text ? WindowText(text) : std::wstring();
 }
 
 void Leave(HWND window) {

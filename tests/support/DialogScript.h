@@ -53,8 +53,9 @@ HWND FindControl(HWND form, const wchar_t* name, int index = 0);
 /// Leaves a dialog as by Cancel, a message box by OK or No.
 void Leave(HWND window);
 
-/// A window's text.
+/// A window's text, and that inside a message box; "" for another window.
 std::wstring WindowText(HWND window);
+std::wstring MessageText(HWND window);
 
 /// The control that has the focus in a form. When the window manager has just given the focus to somebody else, the
 /// form is brought back first.
