@@ -64,6 +64,7 @@ size_t StartAndOpen(const Desk& desk) {
     script.Otherwise(Leave);
     Main window;
     CHECK(window.Visible() != window.Unloaded());
+    if (window.Visible()) CHECK(window.ListView1.RowCount() == 1);
     if (window.Visible()) window.Open_DB(L"Sales", kCalendarView, false);
     CHECK(window.Visible() != window.Unloaded());
     if (window.Visible()) CHECK(IsWindowEnabled(window.Handle()));

@@ -186,19 +186,19 @@ TEST_CASE("Another settings file is taken over only when it exists and differs, 
     const std::wstring folder = current.substr(0, current.rfind(L'\\'));
     for (const Case& test : {Case{current, false, false}, Case{shouted, false, true}, Case{folder, false, true},
                              Case{L"C:\\No such.ini", true, false}, Case{L"", true, false}}) {
-        IniLib::SettingsFile(current);
         UserStore::Set(L"Settings", L"IniLocation", current);
-        frmLocations dialog;
+        Main window;
         DialogScript script;
-        script.Then([&](HWND window) {
-            Type(window, L"txtPath", test.typed);
-            Press(window, L"cmdOK");
-            if (test.isRefused) Click(FindControl(window, L"cmdCancel"));
+        script.Then([&](HWND dialog) {
+            Type(dialog, L"txtPath", test.typed);
+            Press(dialog, L"cmdOK");
+            if (test.isRefused) Click(FindControl(dialog, L"cmdCancel"));
         });
-        if (test.isRefused) script.Answer(IDOK);
-        dialog.ShowModal();
+        const wchar_t* const notice = L"Please close and restart Kelmorra for the changes to take effect.";
+        if (test.isRefused || test.isChange) script.Answer(IDOK);
+        window.mnuSettingsLocation.Click();
         if (test.isRefused) CHECK(script.All()[1].Text == L"Invalid file specified!");
-        CHECK(dialog.LocationChanged() == test.isChange);
+        if (test.isChange) CHECK(script.All()[1].Text == notice);
         CHECK(UserStore::Get(L"Settings", L"IniLocation") == (test.isRefused ? current : test.typed));
         CHECK(IniLib::SettingsFile() == (test.isRefused ? current : test.typed));
     }

@@ -139,23 +139,6 @@ TEST_CASE("The manual of the language is opened, and where it is not installed t
     modLangues::Init_Language(short{0});
 }
 
-TEST_CASE("Another settings file is used from the next start on, as its user is told") {
-    ActDesk desk;
-    AddThree(desk);
-    const TempFile other(L"other.ini");
-    other.Bytes("[General]\r\nSort=Archive\r\n");
-    Main window;
-    DialogScript script;
-    script.Then([&](HWND dialog) {
-        Type(dialog, L"txtPath", other.Path());
-        Click(FindControl(dialog, L"cmdOK"));
-    });
-    script.Answer(IDOK);
-    window.mnuSettingsLocation.Click();
-    CHECK(script.All()[1].Text == L"Please close and restart Kelmorra for the changes to take effect.");
-    CHECK(Shown(window) == 3);
-}
-
 TEST_CASE("Growing the window grows the list and keeps the distances to the right and lower edge") {
     ActDesk desk;
     Main window;
