@@ -1,11 +1,8 @@
 // An ACT! that misbehaves at any one call of the start and of an open. An ordinary run tries a part of all pairs of a
 // call and a fault; with KELMORRA_SOAK_FAULTS=1 in the environment it is every pair.
 
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/Setting.h"
-#include "support/Wide.h"
 
 namespace {
 

@@ -1,10 +1,7 @@
 // Kelmorra's command in ACT!'s toolbars and Tools menus.
 
 #include "integration/frmIntegrateNew.h"
-#include "program/Program.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 namespace {
 

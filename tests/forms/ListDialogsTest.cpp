@@ -3,13 +3,8 @@
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
-#include "support/SettingsDesk.h"
-#include "support/Wide.h"
 
 #include <algorithm>
 

@@ -11,12 +11,8 @@
 #include "i18n/modLangues.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/Detour.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 #include <array>
 
@@ -171,9 +167,7 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
             });
             script.Then([&](HWND settings) {
                 SetWindowPos(settings, nullptr, 0, 400, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-                HWND sample = FindControl(settings, L"picSample", (scheme + 1) % Artwork::SchemeCount);
-                SendMessageW(GetParent(sample), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sample), STN_CLICKED),
-                             reinterpret_cast<LPARAM>(sample));
+                Press(settings, L"picSample", (scheme + 1) % Artwork::SchemeCount);
                 Click(FindControl(settings, L"cmdOK"));
             });
             window.mnuQuickSwitch.Click();

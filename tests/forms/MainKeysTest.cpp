@@ -1,13 +1,10 @@
 // The main window's keys and commands, its find box, its layout, and what it tells of the files behind its rows.
 
 #include "i18n/modLangues.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/Application.h"
 #include "support/Detour.h"
-#include "support/DialogScript.h"
 #include "support/Look.h"
-#include "support/Wide.h"
 
 #include <shellapi.h>
 
@@ -171,8 +168,7 @@ TEST_CASE("The label of a view checks its option, only that one, and the list ge
     Main window;
     window.Show();
     CHECK(window.optView[0].Value());
-    SendMessageW(window.Handle(), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window.lblView[5].Handle()), STN_CLICKED),
-                 reinterpret_cast<LPARAM>(window.lblView[5].Handle()));
+    Press(window.Handle(), L"lblView", 5);
     CHECK(window.optView[5].Value());
     CHECK(std::ranges::count_if(window.optView, [](const OptionButton& option) { return option.Value(); }) == 1);
     CHECK(FocusIn(window.Handle()) == window.ListView1.Handle());

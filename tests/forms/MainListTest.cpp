@@ -1,10 +1,6 @@
 // The main window's list of databases.
 
-#include "program/Program.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 namespace {
 

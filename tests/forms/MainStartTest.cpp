@@ -3,15 +3,11 @@
 #include "app/frmWaiting.h"
 #include "opening/LinkMenuItem.h"
 #include "stores/Backup.h"
-#include "stores/IniLib.h"
 #include "stores/SafeFile.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/BusyWait.h"
 #include "support/Detour.h"
-#include "support/DialogScript.h"
 #include "support/MsgBox.h"
-#include "support/Wide.h"
 #include "win32/Owner.h"
 
 #include <shlwapi.h>

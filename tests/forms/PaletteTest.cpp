@@ -1,16 +1,11 @@
 // The palette, its settings dialog, and the start of ACT! from it.
 
-#include "program/Program.h"
 #include "quickswitch/PalettePlace.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
 #include "support/Look.h"
-#include "support/Wide.h"
 
 namespace {
 
@@ -124,9 +119,7 @@ TEST_CASE("The settings offer every database, drop a vanished name, and write al
         CHECK(dialog.cboDB[0].SelectedText().empty());
         CHECK(dialog.cboDB[1].SelectedText() == L"Service");
         dialog.cboDB[7].Select(L"Sales");
-        HWND sample = FindControl(window, L"picSample", 3);
-        SendMessageW(GetParent(sample), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sample), STN_CLICKED),
-                     reinterpret_cast<LPARAM>(sample));
+        Press(window, L"picSample", 3);
         dialog.chkStartup.Value(true);
         Click(FindControl(window, L"cmdOK"));
     });

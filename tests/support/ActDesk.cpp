@@ -1,12 +1,8 @@
 #include "support/ActDesk.h"
 
 #include "i18n/modLangues.h"
-#include "program/Program.h"
-#include "stores/IniLib.h"
 #include "stores/RegistrySubs.h"
-#include "stores/UserStore.h"
 #include "support/MsgBox.h"
-#include "support/Wide.h"
 #include "win32/Owner.h"
 
 ActDesk::ActDesk() {

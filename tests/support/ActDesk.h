@@ -1,8 +1,14 @@
 #pragma once
 
+// With what every test of windows looks at or works them with.
 #include "app/frmMain.h"
+#include "program/Program.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
+#include "support/DialogScript.h"
 #include "support/FakeAct.h"
 #include "support/SettingsDesk.h"
+#include "support/Wide.h"
 
 #include <initializer_list>
 #include <string>

@@ -17,24 +17,13 @@ bool IsDialog(HWND window) {
     return className == L"#32770" || (className.starts_with(L"frm") && className != L"frmMain");
 }
 
-struct Search {
-    const wchar_t* Name;
-    HANDLE Value;
-    HWND Found;
-};
-
-BOOL CALLBACK CompareProperty(HWND child, LPARAM parameter) {
-    auto& search = *reinterpret_cast<Search*>(parameter);
-    if (GetPropW(child, search.Name) == search.Value) search.Found = child;
-    return search.Found == nullptr;
-}
-
 } // namespace
 
 HWND FindControl(HWND form, const wchar_t* name, int index) {
-    Search search{name, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(index) + 1), nullptr};
-    EnumChildWindows(form, &CompareProperty, reinterpret_cast<LPARAM>(&search));
-    return search.Found;
+    HWND child = GetWindow(form, GW_CHILD);
+    while (child && reinterpret_cast<INT_PTR>(GetPropW(child, name)) != index + 1)
+        child = GetWindow(child, GW_HWNDNEXT);
+    return child;
 }
 
 std::wstring WindowText(HWND window) {

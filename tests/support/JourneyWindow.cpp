@@ -136,15 +136,6 @@ void MoveMouse(HWND window, POINT place) {
     });
 }
 
-void LeftButton(bool isDown) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = PartOf(mousePlace.x, SM_CXSCREEN);
-    input.mi.dy = PartOf(mousePlace.y, SM_CYSCREEN);
-    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | (isDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
-    SendInput(1, &input, sizeof input);
-}
-
 void Drag(HWND window, POINT place, SIZE distance) {
     ClientToScreen(window, &place);
     std::wstring command =
@@ -171,10 +162,15 @@ POINT Middle(HWND window) {
 void ClickMouse(HWND window, POINT place, int times) {
     Settle(window);
     MoveMouse(window, place);
-    for (; times > 0; --times) {
-        LeftButton(true);
-        LeftButton(false);
-    }
+    for (; times > 0; --times)
+        for (const DWORD action : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+            INPUT input{};
+            input.type = INPUT_MOUSE;
+            input.mi.dx = PartOf(mousePlace.x, SM_CXSCREEN);
+            input.mi.dy = PartOf(mousePlace.y, SM_CYSCREEN);
+            input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | action;
+            SendInput(1, &input, sizeof input);
+        }
 }
 
 void Press(WORD key) {

@@ -32,9 +32,8 @@ bool InFront(HWND control);
 
 /// Waits until the window stands where it did a moment ago: the window manager moves new ones.
 void Settle(HWND window);
-/// Moves the mouse to a place of the window's client area, or holds or lets go of its left button there.
+/// Moves the mouse to a place of the window's client area.
 void MoveMouse(HWND window, POINT place);
-void LeftButton(bool isDown);
 /// Waits until the window rests, and presses and releases the left button at a place of it.
 void ClickMouse(HWND window, POINT place, int times = 1);
 /// Drags a window by a place in its client area, so many pixels to the right and down. The display's own mouse does it:

@@ -8,7 +8,6 @@
 #include "stores/UserStore.h"
 #include "support/SettingsDesk.h"
 #include "support/Text.h"
-#include "support/Wide.h"
 
 #include <algorithm>
 #include <filesystem>

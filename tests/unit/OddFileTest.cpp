@@ -7,7 +7,6 @@
 #include "stores/SafeFile.h"
 #include "stores/UserStore.h"
 #include "support/SettingsDesk.h"
-#include "support/Wide.h"
 #include "win32/AnsiText.h"
 
 #include <algorithm>
