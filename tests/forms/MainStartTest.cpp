@@ -1,6 +1,8 @@
 // Start-up and shut-down of the main window.
 
 #include "app/frmWaiting.h"
+#include "i18n/Caption.h"
+#include "i18n/modLangues.h"
 #include "opening/LinkMenuItem.h"
 #include "stores/Backup.h"
 #include "stores/SafeFile.h"
@@ -87,6 +89,7 @@ TEST_CASE("From the settings file on, a failure is told once and leaves a usable
                                   L"a folder of your own and choose it under Options > Settings File Location.";
         CHECK((isDenied ? told == hint : told.starts_with(L"Error 75: '")));
         CHECK((told.find(L"in frmMain: Sub Form_Load - Line # ") == std::wstring::npos) == isDenied);
+        CHECK(told.ends_with(LangText[Caption::ContactSupport]) != isDenied);
         CHECK(window.Visible());
         CHECK(window.ListView1.ColumnCount() == 5);
         CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");

@@ -23,7 +23,7 @@ TEST_CASE_FIXTURE(Journey, "a new user chooses a language, builds a list from no
     HWND dialog = Window(Start(), L"frmLanguage");
     SendMessageW(JourneyWindow::Control(dialog, L"cmbLanguage"), CB_SETCURSEL, 2, 0);
     JourneyWindow::Click(dialog, L"cmdOK");
-    HWND window = MainWindow(Program());
+    HWND window = Window(Program(), L"frmMain");
     CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"cmdOpen")) == German(62));
     CHECK(User(L"Options", L"Language") == L"2");
 

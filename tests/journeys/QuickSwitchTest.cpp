@@ -36,6 +36,7 @@ void ChooseExit(const Journey& journey, HWND palette) {
 TEST_CASE_FIXTURE(Journey, "the palette is dragged by its strip and comes back there") {
     ListRealDatabase(L"Customers");
     Ini(L"General", L"QuickSwitchStartup", L"1");
+    Ini(L"General", L"QuickSwitch", L"Customers");
     User(L"Settings", L"QuickLeft", std::to_wstring(300 * kTwipsPerPixel));
     User(L"Settings", L"QuickTop", std::to_wstring(200 * kTwipsPerPixel));
     StartAct(File(L"Customers.dbf"));

@@ -5,7 +5,7 @@
 TEST_CASE_FIXTURE(Journey, "a second instance is refused and leaves the first one and the stores alone") {
     StartAct(ListRealDatabase(L"Customers"));
     const Process& first = Start();
-    HWND window = MainWindow(first);
+    HWND window = Window(first, L"frmMain");
     const std::wstring calls = Calls();
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
         {L"0", L"An instance of this program is already running!"},
@@ -18,7 +18,7 @@ TEST_CASE_FIXTURE(Journey, "a second instance is refused and leaves the first on
         CHECK(JourneyWindow::Visible(Program().Id()).size() == 1);
         JourneyWindow::Answer(box, IDOK);
         CHECK(Program().ExitCode() == 0u);
-        CHECK_FALSE(JourneyStores::User(L"Settings", L"Width"));
+        CHECK(JourneyStores::User(L"Settings", L"Width") == L"(none)");
         CHECK(JourneyStores::FileBytes(SettingsFile()) == settings);
     }
     CHECK(first.Running());

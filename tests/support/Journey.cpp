@@ -190,8 +190,6 @@ HWND Journey::Window(const Process& program, const wchar_t* className) {
     return window;
 }
 
-HWND Journey::MainWindow(const Process& program) const { return Window(program, L"frmMain"); }
-
 JourneyWindow::Box Journey::Box(const Process& program) const {
     std::optional<JourneyWindow::Box> box;
     REQUIRE(Within([&] { return (box = JourneyWindow::MessageBoxOf(program.Id())).has_value(); }));

@@ -10,14 +10,6 @@
 #include <string>
 #include <vector>
 
-/// Lets a failed assertion show a value that may be missing.
-template <>
-struct doctest::StringMaker<std::optional<std::wstring>> {
-    static String convert(const std::optional<std::wstring>& text) {
-        return text ? StringMaker<std::wstring>::convert(*text) : String("(none)");
-    }
-};
-
 /// One user's session: empty stores, a folder of its own with a copy of the program, and an ACT! stand-in with its own
 /// log and state. Unless told otherwise the program has run before, in English.
 ///
@@ -64,9 +56,8 @@ public:
 
     // The program
     const Process& Start();
-    /// The main window, once it is on the screen; the running test ends when it does not come.
-    HWND MainWindow(const Process& program) const;
-    HWND StartToMainWindow() { return MainWindow(Start()); }
+    /// The main window of another one, once it is on the screen.
+    HWND StartToMainWindow() { return Window(Start(), L"frmMain"); }
     const Process& Program() const { return programs_.back(); }
     /// The next message box of a program; the running test ends when none comes.
     JourneyWindow::Box Box(const Process& program) const;

@@ -12,11 +12,11 @@ namespace JourneyStores {
 
 void DeleteTree(const std::wstring& path) { SHDeleteKeyW(HKEY_CURRENT_USER, path.c_str()); }
 
-std::optional<std::wstring> Read(const std::wstring& path, const std::wstring& name) {
+std::wstring Read(const std::wstring& path, const std::wstring& name) {
     std::array<wchar_t, 2048> text{};
     DWORD type = REG_NONE, size = sizeof text;
-    if (SHGetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), &type, text.data(), &size)) return std::nullopt;
-    return type == REG_SZ ? std::optional<std::wstring>(text.data()) : std::nullopt;
+    const LSTATUS status = SHGetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), &type, text.data(), &size);
+    return status == ERROR_SUCCESS && type == REG_SZ ? text.data() : L"(none)";
 }
 
 void Write(const std::wstring& path, const std::wstring& name, const std::wstring& text) {
@@ -24,7 +24,7 @@ void Write(const std::wstring& path, const std::wstring& name, const std::wstrin
     SHSetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), REG_SZ, text.c_str(), size);
 }
 
-std::optional<std::wstring> User(const std::wstring& section, const std::wstring& key) {
+std::wstring User(const std::wstring& section, const std::wstring& key) {
     return Read(std::wstring(UserRoot) + L'\\' + section, key);
 }
 

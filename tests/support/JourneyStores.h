@@ -2,7 +2,6 @@
 
 #include "win32/Windows.h"
 
-#include <optional>
 #include <string>
 
 /// The registry and files as they stand, read and written by plain Windows calls and not through the product.
@@ -12,12 +11,12 @@ inline constexpr wchar_t UserRoot[] = L"Software\\VB and VBA Program Settings\\K
 inline constexpr wchar_t ActRoot[] = L"Software\\Symantec\\ACT!";
 
 void DeleteTree(const std::wstring& path);
-/// A text of the current user's registry; nothing when it is missing or no text.
-std::optional<std::wstring> Read(const std::wstring& path, const std::wstring& name);
+/// A text of the current user's registry; "(none)" when it is missing or no text.
+std::wstring Read(const std::wstring& path, const std::wstring& name);
 void Write(const std::wstring& path, const std::wstring& name, const std::wstring& text);
 
 /// The same in the per-user store.
-std::optional<std::wstring> User(const std::wstring& section, const std::wstring& key);
+std::wstring User(const std::wstring& section, const std::wstring& key);
 void User(const std::wstring& section, const std::wstring& key, const std::wstring& text);
 
 /// Deletes the copies of settings files that the program keeps for the user.

@@ -155,22 +155,6 @@ TEST_CASE_FIXTURE(SettingsDesk,
         }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk, "A change is refused against another file, and against one that has come since") {
-    IniLib::SettingsFile(file.Path() + L"2");
-    auto list = EditedList::Load();
-    const auto palette = Palette::Edited::Load();
-    IniLib::SettingsFile(file.Path());
-    List({L"A"});
-    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;;;;;;;");
-    const std::string before = file.Bytes();
-    CHECK_FALSE(list->Save({}));
-    std::filesystem::copy_file(file.Path(), file.Path() + L"2");
-    IniLib::SettingsFile(file.Path() + L"2");
-    CHECK_FALSE(palette->Save(Names(8), 0, false));
-    CHECK(Whole(L"General", L"QuickSwitch") == L"A;;;;;;;");
-    CHECK(file.Bytes() == before);
-}
-
 TEST_CASE_FIXTURE(SettingsDesk, "The upgrade moves log-on values to the user, once") {
     file.Bytes(
         "[General]\r\nSort=Sales;Other\r\n"

@@ -29,16 +29,6 @@ TEST_CASE_FIXTURE(SettingsDesk, "Outer blanks and quotes survive; other values k
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk, "An empty section name reaches neither the file nor its first lines") {
-    file.Bytes("Stray=1\r\n[S]\r\nK=1\r\n");
-    const std::string before = file.Bytes();
-    CHECK_FALSE(IniLib::WriteKeyValue(L"", L"Path", L"x"));
-    CHECK_FALSE(IniLib::DeleteKey(L"", L"Stray"));
-    CHECK_FALSE(IniLib::DeleteSection(L""));
-    CHECK(IniLib::GetKeyValue(L"", L"Stray", L"none") == L"none");
-    CHECK(file.Bytes() == before);
-}
-
 TEST_CASE_FIXTURE(SettingsDesk, "Deleting what is not there makes no file, and leaves one that is there untouched") {
     CHECK(IniLib::DeleteKey(L"S", L"K"));
     CHECK_FALSE(std::filesystem::exists(file.Path()));
