@@ -118,12 +118,8 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         });
         frmWaiting().ShowModal();
     }
-    modLangues::Init_Language(short{0});
-}
-
-TEST_CASE("The first run's language dialog has nothing cut off") {
-    const ScratchRegistry registry;
-    modLangues::Init_Language(short{0});
+    const ActDesk firstRun;
+    UserStore::DeleteAll();
     DialogScript script;
     script.Then([](HWND dialog) {
         Inspect(dialog, L"language-first-run");

@@ -44,8 +44,7 @@ TEST_CASE("The palette is as wide as its highest assigned pair of buttons needs"
     }
 }
 
-TEST_CASE(
-    "A button opens its database once; that of the open database is in parentheses and dead, as is an empty one") {
+TEST_CASE("A button opens its database once; that of the open database is in parentheses and dead") {
     ActDesk desk;
     Assign(L"Sales;Service");
     Program().OpenDatabaseNames = L"|Service||Sal|";

@@ -107,17 +107,13 @@ void Journey::Ini(const std::wstring& section, const std::wstring& key, const st
     WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), SettingsFile().c_str());
 }
 
-void Journey::List(const std::wstring& name, const std::wstring& path) {
+std::wstring Journey::ListRealDatabase(const std::wstring& name) {
+    const std::wstring path = File(name + L".dbf");
+    JourneyStores::FileBytes(path, "dBASE");
     std::array<wchar_t, 2048> before{};
     GetPrivateProfileStringW(L"General", L"Sort", L"", before.data(), before.size(), SettingsFile().c_str());
     Ini(L"General", L"Sort", before[0] ? before.data() + (L';' + name) : name);
     Ini(name, L"Path", path);
-}
-
-std::wstring Journey::ListRealDatabase(const std::wstring& name) {
-    const std::wstring path = File(name + L".dbf");
-    JourneyStores::FileBytes(path, "dBASE");
-    List(name, path);
     return path;
 }
 

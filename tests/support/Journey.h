@@ -29,9 +29,7 @@ public:
     // The settings file
     std::wstring SettingsFile() const { return ProgramFile(L"Kelmorra.ini"); }
     void Ini(const std::wstring& section, const std::wstring& key, const std::wstring& value) const;
-    /// Puts a database with that path, which need not exist, at the end of the list.
-    void List(const std::wstring& name, const std::wstring& path);
-    /// The same with a database file that ACT! can open; returns its path.
+    /// Puts a database that ACT! can open at the end of the list; returns its path.
     std::wstring ListRealDatabase(const std::wstring& name);
 
     // ACT!

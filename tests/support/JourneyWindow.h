@@ -32,12 +32,12 @@ bool InFront(HWND control);
 
 /// Waits until the window stands where it did a moment ago: the window manager moves new ones.
 void Settle(HWND window);
-/// Moves the mouse to a place of the window's client area.
+/// Moves the mouse to a place of the window's client area. It is the display's own: a window manager that moves windows
+/// does not see the input that Windows programs send.
 void MoveMouse(HWND window, POINT place);
 /// Waits until the window rests, and presses and releases the left button at a place of it.
 void ClickMouse(HWND window, POINT place, int times = 1);
-/// Drags a window by a place in its client area, so many pixels to the right and down. The display's own mouse does it:
-/// a window manager that moves windows does not see the input that Windows programs send.
+/// Drags a window by a place in its client area, so many pixels to the right and down.
 void Drag(HWND window, POINT place, SIZE distance);
 /// The middle of a window in its own client coordinates.
 POINT Middle(HWND window);
@@ -48,7 +48,6 @@ void Press(WORD key);
 /// A message box on the screen.
 struct Box {
     HWND Window = nullptr;
-    std::wstring Title;
     std::wstring Text;
 };
 /// The topmost message box of a process, if any.

@@ -99,8 +99,7 @@ TEST_CASE_FIXTURE(SettingsDesk, "What a list too long to be read whole holds beh
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "A list longer than the platform reads is shown in part and never written back in part") {
+TEST_CASE_FIXTURE(SettingsDesk, "A list longer than the platform reads is shown in part, never written in part") {
     for (const size_t length : {34'000U, 65'540U}) {
         std::string sort;
         while (sort.size() < length) sort += "Database " + std::to_string(sort.size()) + ';';
@@ -113,8 +112,7 @@ TEST_CASE_FIXTURE(SettingsDesk,
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "A database called like a section of the program, in whatever spelling, takes its keys alone") {
+TEST_CASE_FIXTURE(SettingsDesk, "A database called like a section of the program takes its keys alone") {
     file.Bytes("[General]\r\nSort=GENERAL\r\nPath=x\r\nNetLinks=y\r\nUseLocationsFrom=z\r\nQuickSwitch=;;\r\n");
     CHECK(Remove(0));
     CHECK(file.Bytes() == "[General]\r\nSort=\r\nQuickSwitch=;;\r\n");
@@ -136,8 +134,7 @@ TEST_CASE_FIXTURE(SettingsDesk,
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "Databases whose names share a section lose nothing by each other's removal or rename") {
+TEST_CASE_FIXTURE(SettingsDesk, "Databases whose names share a section lose nothing by each other") {
     for (const wchar_t* name : {L"SALES", L"Sales\\"})
         for (const bool isRenamed : {false, true}) {
             CAPTURE(std::wstring(name));

@@ -38,8 +38,7 @@ std::string Utf16(const std::string& text, bool isBigEndian) {
 
 } // namespace
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "Marks, line ends, rubbish and size keep no value from being read and kept by a write") {
+TEST_CASE_FIXTURE(SettingsDesk, "Marks, line ends, rubbish and size keep no value from being read and kept") {
     const std::string plain = "[General]\r\nSort=A;B\r\n[A]\r\nPath=C:\\A.dbf\r\n";
     const std::string longLine(100'000, 'x');
     std::string lf = plain;
@@ -71,8 +70,7 @@ TEST_CASE_FIXTURE(SettingsDesk,
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "What a file with zero bytes holds is kept before the first write, which cuts its lines") {
+TEST_CASE_FIXTURE(SettingsDesk, "What a file with zero bytes holds is kept before a write, which cuts its lines") {
     const std::string damaged("[General]\r\nSort=A;B\0;C;D\r\n", 26);
     file.Bytes(damaged);
     CHECK(IniLib::WriteKeyValue(L"New", L"Key", L"value"));

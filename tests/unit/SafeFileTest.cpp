@@ -58,8 +58,7 @@ void AddTo(IniLib::Change& change, const Step& step) {
 
 } // namespace
 
-TEST_CASE_FIXTURE(Desk,
-                  "A change leaves the bytes of the platform's calls one after another, and nothing beside the file") {
+TEST_CASE_FIXTURE(Desk, "A change leaves the bytes of the platform's calls, and nothing beside the file") {
     for (const char* before : {kBefore, "", " \r\n", "[General]\nSort=A", "(none)"}) {
         CAPTURE(before);
         const TempFile plain(L"Kelmorra.ini"), own(L"Kelmorra.ini");
@@ -166,8 +165,7 @@ TEST_CASE_FIXTURE(Desk, "A file that has become empty, unreadable or full of zer
     CHECK(Write());
 }
 
-TEST_CASE_FIXTURE(Desk,
-                  "A file that is held or has gone since it was read is unreadable, not empty, and not made anew") {
+TEST_CASE_FIXTURE(Desk, "A file that is held or has gone is unreadable, not empty, and not made anew") {
     file.Bytes(kBefore);
     {
         const FileHandle held = Hold(file.Path(), 0);
@@ -196,8 +194,7 @@ TEST_CASE_FIXTURE(Desk, "A try that fails on the way is made again from the orig
     CHECK(IniLib::GetKeyValue(L"General", L"Sort") == L"A;B;New");
 }
 
-TEST_CASE_FIXTURE(Desk,
-                  "A file of two names keeps both, and one whose lock is on its way out is not written unlocked") {
+TEST_CASE_FIXTURE(Desk, "A file of two names keeps both; one whose lock is on its way out is not written") {
     file.Bytes(kBefore);
     const std::wstring second = file.Folder() + L"\\Second.ini";
     REQUIRE(CreateHardLinkW(second.c_str(), file.Path().c_str(), nullptr));
