@@ -14,11 +14,6 @@ struct Fault {
     void (*answer)(VARIANT& result);
 };
 
-void PutText(VARIANT& result, const std::wstring& text) {
-    result.vt = VT_BSTR;
-    result.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-}
-
 constexpr HRESULT Code(unsigned long code) { return static_cast<HRESULT>(code); }
 
 const Fault kFaults[] = {
@@ -33,7 +28,11 @@ const Fault kFaults[] = {
     {"S_FALSE and no result", S_FALSE, [](VARIANT&) {}},
     {"no result", S_OK, [](VARIANT&) {}},
     {"a null text", S_OK, [](VARIANT& result) { result.vt = VT_BSTR; }},
-    {"a huge text", S_OK, [](VARIANT& result) { PutText(result, std::wstring(1'000'000, L'x')); }},
+    {"a huge text", S_OK,
+     [](VARIANT& result) {
+         result.vt = VT_BSTR;
+         result.bstrVal = SysAllocString(std::wstring(1'000'000, L'x').c_str());
+     }},
     {"a null object", S_OK, [](VARIANT& result) { result.vt = VT_DISPATCH; }},
     {"a number", S_OK,
      [](VARIANT& result) {

@@ -2,7 +2,6 @@
 
 #include "support/ScratchRegistry.h"
 #include "support/Wide.h"
-#include "win32/AnsiText.h"
 
 namespace {
 
@@ -15,16 +14,6 @@ RegistryKey Open(const std::wstring& section) {
 }
 
 } // namespace
-
-TEST_CASE_FIXTURE(ScratchRegistry, "Every character of a text comes back, zeros and line ends at its ends included") {
-    std::string every;
-    for (int code = 1; code <= 256; ++code) every += static_cast<char>(code % 256);
-    for (const std::wstring& text : {std::wstring(), ToWide(every), std::wstring(2, L'\0'),
-                                     std::wstring(L"\r\n\0\r\0", 5), std::wstring(5000, L'\u00ff')}) {
-        CHECK(UserStore::Set(L"Sales", L"Password", text));
-        CHECK(UserStore::Get(L"sales", L"PASSWORD", L"default") == text);
-    }
-}
 
 TEST_CASE_FIXTURE(ScratchRegistry, "Deleting takes a value, a section but none below or beside it, or everything") {
     for (const wchar_t* section : {L"A", L"A\\B", L"AB", L"Settings"}) UserStore::Set(section, L"Username", section);
