@@ -33,15 +33,13 @@ public:
     const std::vector<Seen>& All() const { return seen_; }
 
 private:
-    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
+    static BOOL CALLBACK Choose(HWND window, LPARAM next);
     void Meet(HWND window);
 
-    HHOOK hook_;
     UINT_PTR timer_;
     std::deque<std::function<void(HWND)>> steps_;
     std::function<void(HWND)> otherwise_;
-    std::vector<HWND> waiting_;
     std::vector<HWND> met_;
     std::vector<Seen> seen_;
     std::vector<Seen> unexpected_;

@@ -32,16 +32,6 @@ bool Remove(size_t line) {
     return list->Remove(list->Shown(), line);
 }
 
-/// "name 00", "name 01" and so on, each of `length` characters, so that with the separator n of them take n*(length+1).
-Names LongList(size_t count, size_t length) {
-    Names names;
-    for (size_t index = 0; index < count; ++index) {
-        std::wstring number = std::to_wstring(100 + index);
-        names.push_back(number + std::wstring(length - number.size(), L'x'));
-    }
-    return names;
-}
-
 } // namespace
 
 TEST_CASE_FIXTURE(SettingsDesk, "Changes of a list that are made up at the same moment all reach it") {
@@ -78,7 +68,8 @@ TEST_CASE_FIXTURE(SettingsDesk, "What a list too long to be read whole holds beh
     const std::pair<size_t, size_t> rows[] = {{99, 9}, {998, 1}, {997, 1}};
     for (const auto& [length, seen] : rows) {
         CAPTURE(length);
-        Names names = LongList(20, length);
+        Names names;
+        for (wchar_t letter = L'a'; names.size() < 20; ++letter) names.emplace_back(length, letter);
         List(names);
         auto list = EditedList::Load();
         Names shown = list->Shown();
@@ -109,28 +100,6 @@ TEST_CASE_FIXTURE(SettingsDesk, "A list longer than the platform reads is shown 
         CHECK(list->Shown().size() > 50);
         CHECK_FALSE(list->Save({L"A"}));
         CHECK((file.Bytes() == before)); // in parentheses: not to be shown
-    }
-}
-
-TEST_CASE_FIXTURE(SettingsDesk, "A database called like a section of the program takes its keys alone") {
-    file.Bytes("[General]\r\nSort=GENERAL\r\nPath=x\r\nNetLinks=y\r\nUseLocationsFrom=z\r\nQuickSwitch=;;\r\n");
-    CHECK(Remove(0));
-    CHECK(file.Bytes() == "[General]\r\nSort=\r\nQuickSwitch=;;\r\n");
-
-    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"SETTINGS", L"IniLocation"}, {L"Settings\\", L"IniLocation"}, {L"\\Settings\\\\", L"IniLocation"},
-        {L"Options", L"Language"},     {L"Display", L"Selected"},       {L"Logon", L"Other"},
-        {L"LogonDialog", L"Title"}};
-    for (const auto& [name, ownKey] : rows) {
-        CAPTURE(std::wstring(name));
-        List({name});
-        UserStore::Set(name, ownKey, L"kept");
-        UserStore::Set(name, L"NoPasswordAtACTStartup", L"1");
-        UserStore::Set(name, L"Password", L"secret");
-        CHECK(Remove(0));
-        CHECK(UserStore::Get(name, ownKey) == L"kept");
-        CHECK(UserStore::Get(name, L"Password", L"gone") == L"gone");
-        CHECK(UserStore::Get(name, L"NoPasswordAtACTStartup", L"gone") == L"gone");
     }
 }
 
