@@ -174,6 +174,8 @@ void TakePicture(HWND window, const std::wstring& name) {
     BITMAPFILEHEADER header{};
     header.bfType = 0x4D42; // "BM"
     header.bfOffBits = sizeof header + sizeof info;
+    const LONG size = (info.biWidth * 3 + 3) / 4 * 4 * info.biHeight;
+    header.bfSize = header.bfOffBits + static_cast<DWORD>(size);
     void* pixels = nullptr;
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
@@ -182,11 +184,10 @@ void TakePicture(HWND window, const std::wstring& name) {
     const HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, info.biWidth, info.biHeight, screen, place.left, place.top, SRCCOPY);
     ShowCaret(nullptr);
-    const LONG bytesPerLine = (info.biWidth * 3 + 3) / 4 * 4;
     std::ofstream file(std::filesystem::path(folder.data()) / (name + L".bmp"), std::ios::binary);
     file.write(reinterpret_cast<const char*>(&header), sizeof header);
     file.write(reinterpret_cast<const char*>(&info), sizeof info);
-    file.write(static_cast<const char*>(pixels), bytesPerLine * info.biHeight);
+    file.write(static_cast<const char*>(pixels), size);
     DeleteObject(SelectObject(memory, before));
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
