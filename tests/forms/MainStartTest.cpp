@@ -267,6 +267,7 @@ TEST_CASE("Told to close while dialogs are open, the window leaves them one afte
         SendMessageW(window.Handle(), WM_ENDSESSION, TRUE, 0);
         CHECK(IniValue(L"General", L"Sort") == L"B;A");
         CHECK(UserValue(L"Settings", L"Width") == L"8475");
+        CHECK(UserValue(L"Settings", L"Column4") != L"(none)");
     });
     window.mnuManageList.Click();
     if (!isSessionOver) RunToEnd(window);
