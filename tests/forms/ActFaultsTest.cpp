@@ -1,11 +1,8 @@
 // An ACT! that misbehaves at any one call of the start and of an open. An ordinary run tries a part of all pairs of a
 // call and a fault; with KELMORRA_SOAK_FAULTS=1 in the environment it is every pair.
 
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/Setting.h"
-#include "support/Wide.h"
 
 namespace {
 
@@ -16,11 +13,6 @@ struct Fault {
     HRESULT code; ///< S_OK: the call succeeds, with what `answer` makes its result
     void (*answer)(VARIANT& result);
 };
-
-void PutText(VARIANT& result, const std::wstring& text) {
-    result.vt = VT_BSTR;
-    result.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-}
 
 constexpr HRESULT Code(unsigned long code) { return static_cast<HRESULT>(code); }
 
@@ -36,7 +28,11 @@ const Fault kFaults[] = {
     {"S_FALSE and no result", S_FALSE, [](VARIANT&) {}},
     {"no result", S_OK, [](VARIANT&) {}},
     {"a null text", S_OK, [](VARIANT& result) { result.vt = VT_BSTR; }},
-    {"a huge text", S_OK, [](VARIANT& result) { PutText(result, std::wstring(1'000'000, L'x')); }},
+    {"a huge text", S_OK,
+     [](VARIANT& result) {
+         result.vt = VT_BSTR;
+         result.bstrVal = SysAllocString(std::wstring(1'000'000, L'x').c_str());
+     }},
     {"a null object", S_OK, [](VARIANT& result) { result.vt = VT_DISPATCH; }},
     {"a number", S_OK,
      [](VARIANT& result) {
@@ -64,6 +60,7 @@ size_t StartAndOpen(const Desk& desk) {
     script.Otherwise(Leave);
     Main window;
     CHECK(window.Visible() != window.Unloaded());
+    if (window.Visible()) CHECK(window.ListView1.RowCount() == 1);
     if (window.Visible()) window.Open_DB(L"Sales", kCalendarView, false);
     CHECK(window.Visible() != window.Unloaded());
     if (window.Visible()) CHECK(IsWindowEnabled(window.Handle()));

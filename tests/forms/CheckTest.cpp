@@ -5,12 +5,8 @@
 #include "dialogs/frmProperties.h"
 #include "i18n/Caption.h"
 #include "i18n/modLangues.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
-#include "support/Wide.h"
 
 namespace {
 

@@ -8,14 +8,10 @@
 #include "dialogs/frmPrefLocations.h"
 #include "dialogs/frmProperties.h"
 #include "integration/frmIntegrateNew.h"
-#include "program/Program.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/IniLib.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/Setting.h"
-#include "support/Wide.h"
 #include "win32/Owner.h"
 
 namespace {
@@ -27,24 +23,9 @@ Handle Value(UINT_PTR number) {
     return reinterpret_cast<Handle>(number); // NOLINT(performance-no-int-to-ptr)
 }
 
-int CountHandles() {
-    DWORD count = 0;
-    if (GetProcessHandleCount(GetCurrentProcess(), &count) && count > 0) return static_cast<int>(count);
-    constexpr UINT_PTR kLast = 0x8000;
-    int found = 0;
-    for (UINT_PTR number = 4; number < kLast; number += 4) {
-        DWORD flags = 0;
-        if (GetHandleInformation(Value<HANDLE>(number), &flags)) ++found;
-    }
-    return found;
-}
-
-int CountGdi() {
-    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return static_cast<int>(count);
-    int found = 0;
-    for (UINT_PTR number = 1; number <= 0xFFFF; ++number)
-        if (GetObjectType(Value<HGDIOBJ>(number))) ++found;
-    return found;
+bool IsKernelObject(HANDLE handle) {
+    DWORD flags = 0;
+    return GetHandleInformation(handle, &flags) != 0;
 }
 
 bool IsIcon(HICON icon) {
@@ -54,31 +35,21 @@ bool IsIcon(HICON icon) {
     return true;
 }
 
-BOOL CALLBACK CountChild(HWND, LPARAM count) {
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
+bool IsOurs(HWND window) { return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId(); }
 
-BOOL CALLBACK CountWindow(HWND window, LPARAM count) {
-    EnumChildWindows(window, &CountChild, count);
-    return CountChild(window, count);
-}
-
-int CountUser() {
-    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)) return static_cast<int>(count);
-    int found = 0;
-    EnumThreadWindows(GetCurrentThreadId(), &CountWindow, reinterpret_cast<LPARAM>(&found));
-    for (UINT_PTR number = 0x20; number <= 0xFFFF; number += 2)
-        if (IsMenu(Value<HMENU>(number)) || IsIcon(Value<HICON>(number))) ++found;
-    return found;
-}
-
-/// What this process holds at a moment. Where the system does not count for its own process, handles are found by
-/// trying every value that one can have.
+/// What this process holds at a moment: the system does not count, so every value is tried that a handle can have.
 struct Resources {
-    int Handles = CountHandles(); ///< files, keys, events, threads
-    int Gdi = CountGdi();         ///< fonts, brushes, bitmaps, device contexts
-    int User = CountUser();       ///< windows, menus, icons
+    Resources() {
+        for (UINT_PTR number = 1; number <= 0xFFFF; ++number) {
+            Handles += number % 4 == 0 && IsKernelObject(Value<HANDLE>(number));
+            Gdi += GetObjectType(Value<HGDIOBJ>(number)) != 0;
+            User += number % 2 == 0 &&
+                    (IsOurs(Value<HWND>(number)) || IsMenu(Value<HMENU>(number)) || IsIcon(Value<HICON>(number)));
+        }
+    }
+    int Handles = 0; ///< files, keys, events, threads
+    int Gdi = 0;     ///< fonts, brushes, bitmaps, device contexts
+    int User = 0;    ///< windows, menus, icons
 };
 
 /// Opens and leaves everything that can be opened over a main window, whose ACT! cannot open databases.

@@ -1,10 +1,7 @@
 // Kelmorra's command in ACT!'s toolbars and Tools menus.
 
 #include "integration/frmIntegrateNew.h"
-#include "program/Program.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 namespace {
 
@@ -93,14 +90,4 @@ TEST_CASE("Only the last change decides between the failure and the question; Ye
     CHECK(Show(toggleAndConfirm(kToolsMenu, 1), IDOK) ==
           L"Operation failed. You will have to add/remove the command manually.");
     Program().RestartAct = false;
-}
-
-TEST_CASE("A call that fails is reported with its handler, and the dialog lives on") {
-    ActDesk desk;
-    desk.Act.Failures[L"AddAuxCommandToToolbar"] = {.wCode = 5};
-    const auto press = [](HWND dialog) {
-        Click(FindControl(dialog, L"chkScreen", 3));
-        Click(FindControl(dialog, L"cmdCancel"));
-    };
-    CHECK(Show(press, IDOK).find(L"in frmIntegrateNew: Sub chkScreen_Click - Line # ") != std::wstring::npos);
 }

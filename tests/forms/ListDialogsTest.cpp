@@ -3,13 +3,8 @@
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
-#include "support/SettingsDesk.h"
-#include "support/Wide.h"
 
 #include <algorithm>
 
@@ -39,9 +34,10 @@ void Drag(HWND dialog, int from, int to) {
     notify(DL_DROPPED, to);
 }
 
-/// Shows the list dialog over a list of A, B and C and plays one step in it. Returns what the main window selects.
+/// Shows the list dialog over a list of A, B and C and plays a step in it, and one in each window that it leads to.
+/// Returns what the main window selects.
 int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
-             const std::function<void(HWND)>& inner = {}) {
+             const std::vector<std::function<void(HWND)>>& inner = {}) {
     for (const wchar_t* name : {L"A", L"B", L"C"}) {
         desk.AddDatabase(name, {{L"Path", L"x"}});
         UserStore::Set(name, L"Username", L"Chris");
@@ -49,71 +45,64 @@ int Maintain(ActDesk& desk, int selected, const std::function<void(HWND)>& step,
     FakeMainWindow row(selected);
     DialogScript script;
     script.Then(step);
-    if (inner) script.Then(inner);
+    for (const auto& further : inner) script.Then(further);
     frmListMaintenance(row).ShowModal();
     return row.Row;
 }
 
 } // namespace
 
-TEST_CASE("Moves are written when the dialog closes, in any way, and the moved line stays selected") {
+TEST_CASE("Moves by button, key and mouse are written when the dialog closes, in any way; the line stays selected") {
     ActDesk desk;
     const int selected = Maintain(desk, 2, [](HWND dialog) {
+        HWND list = FindControl(dialog, L"lstDB");
         CHECK(WindowText(dialog) == L"Manage List");
         CHECK(IsEnabled(dialog, L"cmdUp"));
         CHECK_FALSE(IsEnabled(dialog, L"cmdDown"));
         Press(dialog, L"cmdUp");
-        Press(dialog, L"cmdUp");
+        TranslateKey(list, VK_UP, VK_MENU);
         CHECK_FALSE(IsEnabled(dialog, L"cmdUp"));
+        TranslateKey(list, VK_DOWN, VK_MENU);
+        CHECK(Selected(dialog) == 1);
+        Drag(dialog, 1, 0);
+        Drag(dialog, 0, 99);
+        CHECK(Selected(dialog) == 2);
+        Drag(dialog, 0, 1);
         CHECK(Sort() == L"A;B;C");
         PostMessageW(dialog, WM_CLOSE, 0, 0);
     });
-    CHECK(Sort() == L"C;A;B");
-    CHECK(selected == 0);
+    CHECK(Sort() == L"B;A;C");
+    CHECK(selected == 1);
 }
 
-TEST_CASE("Removing clears both stores and the buttons at once and selects the line that moved up, or the first") {
+TEST_CASE("Removing clears both stores and the buttons at once; undone, one after another, all is as it was") {
     ActDesk desk;
     IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;B;C;;;;;");
+    IniLib::WriteKeyValue(L"B", L"Somebody's own", L"x");
     const int selected = Maintain(desk, 1, [](HWND dialog) {
+        HWND list = FindControl(dialog, L"lstDB");
+        UserStore::Set(L"B", L"Password", std::wstring(L"\0p", 2));
         Press(dialog, L"cmdRemove");
         CHECK(Sort() == L"A;C");
         CHECK(IniLib::GetKeyValue(L"B", L"Path").empty());
         CHECK(UserStore::Get(L"B", L"Username").empty());
         CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitch") == L"A;C;;;;;");
         CHECK(Selected(dialog) == 1);
-        Press(dialog, L"cmdRemove");
+        TranslateKey(list, VK_DELETE);
         CHECK(Selected(dialog) == 0);
         CHECK_FALSE(IsEnabled(dialog, L"cmdUp"));
         CHECK_FALSE(IsEnabled(dialog, L"cmdDown"));
         Press(dialog, L"cmdRemove");
         CHECK_FALSE(IsEnabled(dialog, L"cmdRemove"));
+        CHECK(Whole(L"General", L"QuickSwitch") == L";;;;");
+        for (const wchar_t* names : {L"A", L"A;C", L"A;B;C", L"A;B;C"}) { // at last there is nothing to be undone
+            TranslateKey(list, 'Z', VK_CONTROL);
+            CHECK(Sort() == names);
+        }
         Press(dialog, L"cmdClose");
     });
-    CHECK(selected == -1);
-    CHECK(Sort().empty());
-    CHECK(Whole(L"General", L"QuickSwitch") == L";;;;");
-}
-
-TEST_CASE("Removals are undone one after another, with both stores and the palette as they were") {
-    ActDesk desk;
-    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;B;C;;;;;");
-    IniLib::WriteKeyValue(L"B", L"Somebody's own", L"x");
-    Maintain(desk, 0, [&](HWND dialog) {
-        UserStore::Set(L"B", L"Password", std::wstring(L"\0p", 2));
-        Press(dialog, L"cmdRemove");
-        Press(dialog, L"cmdRemove");
-        CHECK(Sort() == L"C");
-        TranslateKey(FindControl(dialog, L"lstDB"), 'Z', VK_CONTROL);
-        CHECK(Sort() == L"B;C");
-        TranslateKey(FindControl(dialog, L"lstDB"), 'Z', VK_CONTROL);
-        TranslateKey(FindControl(dialog, L"lstDB"), 'Z', VK_CONTROL); // nothing is left to be undone
-        CHECK(Selected(dialog) == 0);
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    CHECK(Sort() == L"A;B;C");
+    CHECK(selected == 1);
     CHECK(IniLib::GetKeyValue(L"General", L"QuickSwitch") == L"A;B;C;;;;;");
-    CHECK(IniLib::GetKeyValue(L"B", L"Path") == L"x");
     CHECK(IniLib::GetKeyValue(L"B", L"Somebody's own") == L"x");
     CHECK(UserStore::Get(L"A", L"Username") == L"Chris");
     CHECK(UserStore::Get(L"B", L"Password") == std::wstring(L"\0p", 2));
@@ -121,76 +110,45 @@ TEST_CASE("Removals are undone one after another, with both stores and the palet
 
 TEST_CASE("What somebody else adds and removes meanwhile is kept, and the user is told once") {
     ActDesk desk;
-    std::wstring told;
-    for (const wchar_t* name : {L"A", L"B", L"C"}) desk.AddDatabase(name, {});
-    FakeMainWindow row(0);
-    DialogScript script;
-    script.Then([](HWND dialog) {
+    const auto move = [](HWND dialog) {
         Press(dialog, L"cmdDown");
         IniLib::WriteKeyValue(L"General", L"Sort", L"A;C;Theirs");
         Press(dialog, L"cmdUp");
         Press(dialog, L"cmdDown");
         PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    script.Answer(IDOK);
-    frmListMaintenance(row).ShowModal();
+    };
+    const auto read = [](HWND notice) {
+        CHECK(MessageText(notice).starts_with(L"Somebody else has changed the list"));
+        Leave(notice);
+    };
+    Maintain(desk, 0, move, {read});
     CHECK(Sort() == L"A;C;Theirs");
-    CHECK(script.All()[1].Text.starts_with(L"Somebody else has changed the list"));
 }
 
-TEST_CASE("Keys and dragging do what the buttons do") {
+TEST_CASE("An addition keeps the moves before it and is selected; a duplicate has its model's values and a free name") {
     ActDesk desk;
-    const int selected = Maintain(desk, 0, [](HWND dialog) {
-        TranslateKey(FindControl(dialog, L"lstDB"), VK_DOWN, VK_MENU);
-        CHECK(Selected(dialog) == 1);
-        TranslateKey(FindControl(dialog, L"lstDB"), VK_UP, VK_MENU);
-        CHECK(Selected(dialog) == 0);
-        Drag(dialog, 0, 1);
-        Drag(dialog, 1, 99);
-        CHECK(Selected(dialog) == 2);
-        TranslateKey(FindControl(dialog, L"lstDB"), VK_DELETE, 0);
-        CHECK(Sort() == L"B;C");
-        PostMessageW(dialog, WM_CLOSE, 0, 0);
-    });
-    CHECK(selected == 0);
-}
-
-TEST_CASE("A duplicate begins with all values of its model, under a name of its own") {
-    ActDesk desk;
-    desk.AddDatabase(L"A (2)", {});
-    Maintain(
-        desk, 1,
-        [](HWND dialog) {
-            IniLib::WriteKeyValue(L"A", L"CLY", L"c");
-            IniLib::WriteKeyValue(L"A", L"Query", L"q");
-            TranslateKey(FindControl(dialog, L"lstDB"), 'D', VK_CONTROL);
-            Click(FindControl(dialog, L"cmdClose"));
-        },
-        [](HWND properties) {
-            CHECK(WindowText(FindControl(properties, L"txtName")) == L"A (3)");
-            Click(FindControl(properties, L"cmdOK"));
-        });
-    CHECK(Sort() == L"A (2);A;B;C;A (3)");
-    CHECK(IniLib::GetKeyValue(L"A (3)", L"CLY") == L"c");
-    CHECK(IniLib::GetKeyValue(L"A (3)", L"Query") == L"q");
-    CHECK(UserStore::Get(L"A (3)", L"Username") == L"Chris");
-}
-
-TEST_CASE("An addition keeps the moves made before it and is selected") {
-    ActDesk desk;
-    Maintain(
-        desk, 0,
-        [](HWND dialog) {
-            Press(dialog, L"cmdDown");
-            Press(dialog, L"cmdAdd"); // returns when the properties dialog has ended
-            CHECK(Selected(dialog) == 3);
-            Click(FindControl(dialog, L"cmdClose"));
-        },
-        [](HWND properties) {
-            for (const wchar_t* box : {L"txtName", L"txtPath", L"txtCL", L"txtUsername"}) Type(properties, box, L"New");
-            Click(FindControl(properties, L"cmdOK"));
-        });
-    CHECK(Sort() == L"B;A;C;New");
+    desk.AddDatabase(L"New (2)", {});
+    const auto addTwo = [](HWND dialog) {
+        Press(dialog, L"cmdDown");
+        Press(dialog, L"cmdAdd"); // returns when the properties dialog has ended
+        CHECK(Selected(dialog) == 4);
+        IniLib::WriteKeyValue(L"New", L"Query", L"q");
+        TranslateKey(FindControl(dialog, L"lstDB"), 'D', VK_CONTROL);
+        Click(FindControl(dialog, L"cmdClose"));
+    };
+    const auto add = [](HWND properties) {
+        for (const wchar_t* box : {L"txtName", L"txtPath", L"txtCL", L"txtUsername"}) Type(properties, box, L"New");
+        Click(FindControl(properties, L"cmdOK"));
+    };
+    const auto confirm = [](HWND properties) {
+        CHECK(WindowText(FindControl(properties, L"txtName")) == L"New (3)");
+        Click(FindControl(properties, L"cmdOK"));
+    };
+    Maintain(desk, 1, addTwo, {add, confirm});
+    CHECK(Sort() == L"New (2);B;A;C;New;New (3)");
+    CHECK(IniLib::GetKeyValue(L"New (3)", L"CLY") == L"New");
+    CHECK(IniLib::GetKeyValue(L"New (3)", L"Query") == L"q");
+    CHECK(UserStore::Get(L"New (3)", L"Username") == L"New");
 }
 
 TEST_CASE("Locations load and clear under the opened name and are written under the typed one") {
@@ -223,19 +181,19 @@ TEST_CASE("Another settings file is taken over only when it exists and differs, 
     const std::wstring folder = current.substr(0, current.rfind(L'\\'));
     for (const Case& test : {Case{current, false, false}, Case{shouted, false, true}, Case{folder, false, true},
                              Case{L"C:\\No such.ini", true, false}, Case{L"", true, false}}) {
-        IniLib::SettingsFile(current);
         UserStore::Set(L"Settings", L"IniLocation", current);
-        frmLocations dialog;
+        Main window;
         DialogScript script;
-        script.Then([&](HWND window) {
-            Type(window, L"txtPath", test.typed);
-            Press(window, L"cmdOK");
-            if (test.isRefused) Click(FindControl(window, L"cmdCancel"));
+        script.Then([&](HWND dialog) {
+            Type(dialog, L"txtPath", test.typed);
+            Press(dialog, L"cmdOK");
+            if (test.isRefused) Click(FindControl(dialog, L"cmdCancel"));
         });
-        if (test.isRefused) script.Answer(IDOK);
-        dialog.ShowModal();
+        const wchar_t* const notice = L"Please close and restart Kelmorra for the changes to take effect.";
+        if (test.isRefused || test.isChange) script.Answer(IDOK);
+        window.mnuSettingsLocation.Click();
         if (test.isRefused) CHECK(script.All()[1].Text == L"Invalid file specified!");
-        CHECK(dialog.LocationChanged() == test.isChange);
+        if (test.isChange) CHECK(script.All()[1].Text == notice);
         CHECK(UserStore::Get(L"Settings", L"IniLocation") == (test.isRefused ? current : test.typed));
         CHECK(IniLib::SettingsFile() == (test.isRefused ? current : test.typed));
     }

@@ -13,12 +13,8 @@
 #include "i18n/modLangues.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/Detour.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 #include <array>
 #include <filesystem>
@@ -87,36 +83,15 @@ void InspectTabs(HWND window, const wchar_t* control, std::initializer_list<cons
     SendMessageW(window, WM_CLOSE, 0, 0);
 }
 
-void HoverOver(HWND box) {
-    constexpr int kInside = 20;
-    RECT place{};
-    GetWindowRect(box, &place);
-    SetCursorPos(place.left + kInside, place.top + kInside);
-    SendMessageW(box, WM_MOUSEMOVE, 0, MAKELPARAM(kInside, kInside));
-}
-
-/// A colour at the left or right edge, half way down, as it stands on the screen.
-COLORREF ColorAtEdge(HWND window, bool isLeft) {
-    RECT client{};
-    GetClientRect(window, &client);
-    UpdateWindow(window);
-    HDC canvas = GetDC(window);
-    const COLORREF color = GetPixel(canvas, isLeft ? 3 : client.right - 3, client.bottom / 2);
-    ReleaseDC(window, canvas);
-    return color;
-}
-
-COLORREF StripColor(HWND palette) { return ColorAtEdge(palette, false); }
+bool IsThere(const std::wstring& path) { return path.find(L"Telephone") == path.find(L"Query"); }
 
 /// Shows the import with a copy chosen that has a database more than the list.
-void ImportFromCopy(DialogScript& script) {
-    const TempFile local(L"none");
-    const std::wstring folder = local.Folder() + L"\\Kelmorra\\Backup";
-    std::filesystem::create_directories(folder);
-    std::ofstream(std::filesystem::path(folder + L"\\Kelmorra-00000000-20260101-120000.ini"))
+void ImportFromCopy(const ActDesk& desk, DialogScript& script) {
+    std::filesystem::create_directories(desk.backups.Folder() + L"\\Kelmorra\\Backup");
+    std::ofstream(
+        std::filesystem::path(desk.backups.Folder() + L"\\Kelmorra\\Backup\\Kelmorra-00000000-20990101-120000.ini"))
         << "[General]\nSort=Sales;Suppliers\n[Sales]\nPath=E:\\databases\\Sales.dbf\n"
            "[Suppliers]\nPath=E:\\databases\\Suppliers.dbf\n";
-    ScratchRegistry::LocalData(local.Folder());
     script.Then([](HWND dialog) {
         HWND files = FindControl(dialog, L"cboFile");
         SendMessageW(files, CB_SETCURSEL, 0, 0);
@@ -141,22 +116,25 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         PumpUntil([&] { return !window.ListView1.AccessibleName().empty(); }); // told once the window stands
         Inspect(window.Handle(), L"main");
         window.mnuPopup.PopUp({});
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"language"); });
-        window.mnuLanguages.Click();
-        script.Then([](HWND dialog) {
-            static_cast<frmListMaintenance*>(Form::FromWindow(dialog))->mnuList.PopUp({});
-            InspectAndCancel(dialog, L"list");
-        });
-        window.mnuManageList.Click();
+        for (const auto& [item, name] : {std::pair{&frmMain::mnuLanguages, L"language"},
+                                         {&frmMain::mnuManageList, L"list"},
+                                         {&frmMain::mnuSettingsLocation, L"settings-file"},
+                                         {&frmMain::mnuIntegrate, L"integration"},
+                                         {&frmMain::mnuAbout, L"about"}}) {
+            script.Then([item, name](HWND dialog) {
+                if (item == &frmMain::mnuManageList)
+                    static_cast<frmListMaintenance*>(Form::FromWindow(dialog))->mnuList.PopUp({});
+                InspectAndCancel(dialog, name);
+            });
+            (window.*item).Click();
+        }
         script.Then([](HWND dialog) {
             const auto& check = *static_cast<frmCheck*>(Form::FromWindow(dialog));
             PumpUntil([&] { return check.lvwMissing.RowCount() > 0; });
             InspectAndCancel(dialog, L"check");
         });
-        frmCheck(window).ShowModal();
-        ImportFromCopy(script);
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"settings-file"); });
-        window.mnuSettingsLocation.Click();
+        frmCheck(window, &IsThere).ShowModal();
+        ImportFromCopy(desk, script);
         script.Then([](HWND dialog) {
             InspectTabs(dialog, L"mstOptions", {L"properties-general", L"properties-locations", L"properties-logon"});
         });
@@ -165,22 +143,14 @@ TEST_CASE("No caption of any window is cut off in any language, and nothing reac
         frmPrefLocations(L"Sales", L"Sales").ShowModal();
         script.Then([](HWND dialog) { InspectTabs(dialog, L"mstAssign", {L"assign-buttons", L"assign-colors"}); });
         frmAssign().ShowModal();
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"integration"); });
-        window.mnuIntegrate.Click();
-        script.Then([](HWND dialog) { InspectAndCancel(dialog, L"about"); });
-        window.mnuAbout.Click();
         script.Then([](HWND dialog) {
             Inspect(dialog, L"waiting");
             Form::Loaded().back()->Unload();
         });
         frmWaiting().ShowModal();
     }
-    modLangues::Init_Language(short{0});
-}
-
-TEST_CASE("The first run's language dialog has nothing cut off") {
-    const ScratchRegistry registry;
-    modLangues::Init_Language(short{0});
+    const ActDesk firstRun;
+    UserStore::DeleteAll();
     DialogScript script;
     script.Then([](HWND dialog) {
         Inspect(dialog, L"language-first-run");
@@ -209,10 +179,10 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
                                           std::to_wstring(columns * 2) + L"-buttons-" +
                                           std::to_wstring(WindowDpi(palette));
                 HoverOver(FindControl(palette, columns == 1 ? L"pic1" : L"pic3"));
-                CHECK(StripColor(palette) == GetSysColor(COLOR_ACTIVECAPTION));
+                CHECK(ColorAtEdge(palette, false) == GetSysColor(COLOR_ACTIVECAPTION));
                 TakePicture(palette, name);
                 SendMessageW(palette, WM_ACTIVATE, WA_INACTIVE, 0);
-                CHECK(StripColor(palette) == GetSysColor(COLOR_INACTIVECAPTION));
+                CHECK(ColorAtEdge(palette, false) == GetSysColor(COLOR_INACTIVECAPTION));
                 if (columns == 1) TakePicture(palette, name + L"-inactive");
                 // Another scheme shows at once on every button, also where no dialog has lain over it.
                 const std::array<HWND, 2> boxes{FindControl(palette, L"pic1"), FindControl(palette, L"pic2")};
@@ -224,9 +194,7 @@ TEST_CASE("The palette is drawn in every scheme and width, its strip in the colo
             });
             script.Then([&](HWND settings) {
                 SetWindowPos(settings, nullptr, 0, 400, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-                HWND sample = FindControl(settings, L"picSample", (scheme + 1) % Artwork::SchemeCount);
-                SendMessageW(GetParent(sample), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sample), STN_CLICKED),
-                             reinterpret_cast<LPARAM>(sample));
+                Press(settings, L"picSample", (scheme + 1) % Artwork::SchemeCount);
                 Click(FindControl(settings, L"cmdOK"));
             });
             window.mnuQuickSwitch.Click();

@@ -1,13 +1,10 @@
 // The main window's keys and commands, its find box, its layout, and what it tells of the files behind its rows.
 
 #include "i18n/modLangues.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/Application.h"
 #include "support/Detour.h"
-#include "support/DialogScript.h"
 #include "support/Look.h"
-#include "support/Wide.h"
 
 #include <shellapi.h>
 
@@ -53,11 +50,6 @@ std::wstring TipAt(const frmMain& window, int item) {
 
 bool IsFaded(const frmMain& window, int item) {
     return SendMessageW(window.ListView1.Handle(), LVM_GETITEMSTATE, static_cast<WPARAM>(item), LVIS_CUT) != 0;
-}
-
-bool HoldsBitmap(const frmMain& window) {
-    const LRESULT styles = SendMessageW(window.ListView1.Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
-    return (styles & LVS_EX_DOUBLEBUFFER) != 0;
 }
 
 } // namespace
@@ -144,29 +136,10 @@ TEST_CASE("The manual of the language is opened, and where it is not installed t
     modLangues::Init_Language(short{0});
 }
 
-TEST_CASE("Another settings file is used from the next start on, as its user is told") {
-    ActDesk desk;
-    AddThree(desk);
-    const TempFile other(L"other.ini");
-    other.Bytes("[General]\r\nSort=Archive\r\n");
-    Main window;
-    DialogScript script;
-    script.Then([&](HWND dialog) {
-        Type(dialog, L"txtPath", other.Path());
-        Click(FindControl(dialog, L"cmdOK"));
-    });
-    script.Answer(IDOK);
-    window.mnuSettingsLocation.Click();
-    CHECK(script.All()[1].Text == L"Please close and restart Kelmorra for the changes to take effect.");
-    CHECK(Shown(window) == 3);
-    CHECK(UserValue(L"Settings", L"IniLocation") == other.Path());
-}
-
 TEST_CASE("Growing the window grows the list and keeps the distances to the right and lower edge") {
     ActDesk desk;
     Main window;
     window.Show();
-    CHECK_FALSE(HoldsBitmap(window)); // a start needs none
     const RECT list = PlaceOf(window.ListView1.Handle());
     const RECT open = PlaceOf(window.cmdOpen.Handle());
     const RECT more = PlaceOf(window.lblMore.Handle());
@@ -174,7 +147,8 @@ TEST_CASE("Growing the window grows the list and keeps the distances to the righ
     window.OuterSize(8475 + 1500, 5190 + 3000); // 100 and 200 pixels at 96 DPI
     const int right = ToPixels(1500, window.Dpi());
     const int down = ToPixels(3000, window.Dpi());
-    CHECK(HoldsBitmap(window)); // or it would flicker
+    const LRESULT styles = SendMessageW(window.ListView1.Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
+    CHECK((styles & LVS_EX_DOUBLEBUFFER) != 0); // or it would flicker
     CHECK(PlaceOf(window.ListView1.Handle()).right == list.right + right);
     CHECK(PlaceOf(window.ListView1.Handle()).bottom == list.bottom + down);
     CHECK(PlaceOf(window.cmdOpen.Handle()).left == open.left + right);
@@ -194,8 +168,7 @@ TEST_CASE("The label of a view checks its option, only that one, and the list ge
     Main window;
     window.Show();
     CHECK(window.optView[0].Value());
-    SendMessageW(window.Handle(), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window.lblView[5].Handle()), STN_CLICKED),
-                 reinterpret_cast<LPARAM>(window.lblView[5].Handle()));
+    Press(window.Handle(), L"lblView", 5);
     CHECK(window.optView[5].Value());
     CHECK(std::ranges::count_if(window.optView, [](const OptionButton& option) { return option.Value(); }) == 1);
     CHECK(FocusIn(window.Handle()) == window.ListView1.Handle());

@@ -1,10 +1,6 @@
 // The main window's list of databases.
 
-#include "program/Program.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 namespace {
 
@@ -69,27 +65,6 @@ TEST_CASE("Rows show bare names for files in ACT!'s own folders and mark the ope
     CHECK(DrawnColor(window, 1) == CLR_DEFAULT);
     CHECK(DrawnColor(window, 2) == CLR_DEFAULT);
     CHECK(Program().OpenDatabaseNames == L"|Sales|");
-}
-
-TEST_CASE("Where ACT! does not answer, all rows are there with full paths and none in red, and one report") {
-    for (const wchar_t* member : {L"GetDefaultLocation", L"GetOpenDBName"}) {
-        ActDesk desk;
-        desk.Act.OpenDatabase = L"C:\\Data\\Sales.dbf";
-        desk.AddDatabase(L"Nothing", {});
-        desk.AddDatabase(L"Sales", {{L"Path", L"C:\\Data\\Sales.dbf"}, {L"CLY", L"C:\\Act\\Layout\\s.cly"}});
-        UserStore::Set(L"Display", L"Selected", L"1");
-        desk.Act.Failures[member] = {.Plain = E_FAIL};
-        DialogScript script;
-        script.Answer(IDOK);
-        Main window;
-        const bool knowsFolders = member[3] == L'O';
-        CHECK(window.ListView1.RowCount() == 2);
-        CHECK(window.ListView1.Selected() == 1);
-        CHECK(window.ListView1.Cell(1, 1) == (knowsFolders ? L"s.cly" : L"C:\\Act\\Layout\\s.cly"));
-        CHECK((window.ListView1.RowColor(1) == CLR_DEFAULT) == knowsFolders);
-        CHECK(window.ListView1.RowColor(0) == CLR_DEFAULT);
-        CHECK(script.All()[0].Text.find(L"in frmMain: Sub Form_Load - Line # ") != std::wstring::npos);
-    }
 }
 
 TEST_CASE("A click on a column sorts, a second one reverses; the selection counts in list order all the same") {

@@ -1,17 +1,15 @@
 // Start-up and shut-down of the main window.
 
 #include "app/frmWaiting.h"
+#include "i18n/Caption.h"
+#include "i18n/modLangues.h"
 #include "opening/LinkMenuItem.h"
 #include "stores/Backup.h"
-#include "stores/IniLib.h"
 #include "stores/SafeFile.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
 #include "support/BusyWait.h"
 #include "support/Detour.h"
-#include "support/DialogScript.h"
 #include "support/MsgBox.h"
-#include "support/Wide.h"
 #include "win32/Owner.h"
 
 #include <shlwapi.h>
@@ -28,16 +26,6 @@ HANDLE WINAPI CreateNone(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATT
     if (way == OPEN_EXISTING) return realCreateFile(path, access, share, security, way, flags, model);
     SetLastError(ERROR_ACCESS_DENIED);
     return INVALID_HANDLE_VALUE;
-}
-
-/// Starts, answers one message box and waits for the end. Returns what the box showed.
-DialogScript::Seen RefusedStart() {
-    DialogScript script;
-    script.Answer(IDOK);
-    Main window;
-    RunToEnd(window);
-    REQUIRE(script.All().size() == 1);
-    return script.All()[0];
 }
 
 } // namespace
@@ -67,7 +55,13 @@ TEST_CASE("A refused start tells why and leaves sizes, columns and selection as 
             UserStore::Set(L"Settings", key, L"as it was");
         UserStore::Set(L"Display", L"Selected", L"7");
         test.prepare(desk.Act);
-        CHECK(RefusedStart().Text == test.text);
+        {
+            DialogScript script;
+            script.Answer(IDOK);
+            Main window;
+            RunToEnd(window);
+            CHECK(script.All().at(0).Text == test.text);
+        }
         for (const wchar_t* key : {L"Width", L"Height", L"Column0", L"OriginalCL"})
             CHECK(UserStore::Get(L"Settings", key) == L"as it was");
         CHECK(UserStore::Get(L"Display", L"Selected") == L"7");
@@ -91,6 +85,7 @@ TEST_CASE("From the settings file on, a failure is told once and leaves a usable
                                   L"a folder of your own and choose it under Options > Settings File Location.";
         CHECK((isDenied ? told == hint : told.starts_with(L"Error 75: '")));
         CHECK((told.find(L"in frmMain: Sub Form_Load - Line # ") == std::wstring::npos) == isDenied);
+        CHECK(told.ends_with(LangText[Caption::ContactSupport]) != isDenied);
         CHECK(window.Visible());
         CHECK(window.ListView1.ColumnCount() == 5);
         CHECK(WindowText(window.cmdOpen.Handle()) == L"&Open");
@@ -115,40 +110,39 @@ void Leave(const ActDesk& desk, bool isKept, const char* bytes) {
 
 TEST_CASE("A settings file that is empty or away is restored or not, as the user says, unless somebody mends it") {
     struct Row {
+        bool isKept;
         const char* bytes;
-        int answer;
+        int answer;    ///< 0: nobody is asked
         bool isMended; ///< while the question is open
         const char* after;
     };
-    for (const Row& row : {Row{"", IDYES, false, kWhole}, Row{"", IDNO, false, ""}, Row{"", IDYES, true, kMended},
-                           Row{nullptr, IDYES, false, kWhole}, Row{nullptr, IDYES, true, kMended},
-                           Row{nullptr, IDNO, true, kMended}, Row{nullptr, IDNO, false, " \r\n"}}) {
+    const Row rows[] = {{true, "", IDYES, false, kWhole},
+                        {true, "", IDNO, false, ""},
+                        {true, "", IDYES, true, kMended},
+                        {true, nullptr, IDYES, false, kWhole},
+                        {true, nullptr, IDYES, true, kMended},
+                        {true, nullptr, IDNO, true, kMended},
+                        {true, nullptr, IDNO, false, " \r\n"},
+                        {true, " \r\n", 0, false, " \r\n"},
+                        {false, "", 0, false, ""},
+                        {false, nullptr, 0, false, " \r\n"}};
+    for (const Row& row : rows) {
         CAPTURE(row.answer);
         ActDesk desk;
-        Leave(desk, true, row.bytes);
-        DialogScript script;
-        script.Then([&](HWND question) {
-            if (row.isMended) desk.SettingsBytes(kMended);
-            PostMessageW(question, WM_COMMAND, static_cast<WPARAM>(row.answer), 0);
-        });
+        Leave(desk, row.isKept, row.bytes);
+        REQUIRE(Backup::LastGood(desk.SettingsFile()).has_value() == row.isKept);
+        DialogScript script; // fails on any further question
+        if (row.answer)
+            script.Then([&](HWND question) {
+                CHECK(MessageText(question).find(desk.SettingsFile() + L"\r\nis empty") != std::wstring::npos);
+                CHECK(MessageText(question).find(L'%') == std::wstring::npos);
+                if (row.isMended) desk.SettingsBytes(kMended);
+                PostMessageW(question, WM_COMMAND, static_cast<WPARAM>(row.answer), 0);
+            });
         if (row.isMended && row.answer == IDYES) script.Answer(IDOK);
         Main window;
         CHECK(window.Visible());
-        CHECK(script.All()[0].Text.find(desk.SettingsFile() + L"\r\nis empty") != std::wstring::npos);
-        CHECK(script.All()[0].Text.find(L'%') == std::wstring::npos);
         CHECK(desk.SettingsBytes() == row.after);
-    }
-}
-
-TEST_CASE("Nobody is asked about a settings file that holds an empty list, or that has no copy kept") {
-    const std::pair<bool, const char*> rows[] = {{true, " \r\n"}, {false, ""}, {false, nullptr}};
-    for (const auto& [isKept, bytes] : rows) {
-        ActDesk desk;
-        Leave(desk, isKept, bytes);
-        REQUIRE(Backup::LastGood(desk.SettingsFile()).has_value() == isKept);
-        const DialogScript script; // fails on any question
-        Main window;
-        CHECK(window.Visible());
     }
 }
 
@@ -273,6 +267,7 @@ TEST_CASE("Told to close while dialogs are open, the window leaves them one afte
         SendMessageW(window.Handle(), WM_ENDSESSION, TRUE, 0);
         CHECK(IniValue(L"General", L"Sort") == L"B;A");
         CHECK(UserValue(L"Settings", L"Width") == L"8475");
+        CHECK(UserValue(L"Settings", L"Column4") != L"(none)");
     });
     window.mnuManageList.Click();
     if (!isSessionOver) RunToEnd(window);
@@ -280,25 +275,13 @@ TEST_CASE("Told to close while dialogs are open, the window leaves them one afte
     SilenceMessages(false);
 }
 
-TEST_CASE("When ACT!'s user closes it, the program answers yes and follows, whatever is on screen") {
+TEST_CASE("When ACT!'s user closes it while a message is open, the program follows, even when its answer fails") {
     ActDesk desk;
+    desk.Act.Failures[L"AnswerUserWantsToClose"] = {.Plain = E_FAIL};
     Main window;
     DialogScript script;
-    const auto close = [&](HWND) { desk.Act.UserWantsToClose(); };
-    SUBCASE("with nothing but the window, and an answer that fails") {
-        desk.Act.Failures[L"AnswerUserWantsToClose"] = {.Plain = E_FAIL};
-        close(nullptr);
-    }
-    SUBCASE("with a dialog") {
-        script.Then(close);
-        window.mnuLanguages.Click();
-        CHECK(UserStore::Get(L"Options", L"Language", L"none") == L"none");
-    }
-    SUBCASE("with a message box") {
-        script.Then(close);
-        window.Open_DB(L"", 0, false);
-    }
+    script.Then([&](HWND) { desk.Act.UserWantsToClose(); });
+    window.Open_DB(L"", 0, false);
     RunToEnd(window);
-    const std::wstring calls = desk.Act.CallsSince(0);
-    CHECK(calls.ends_with(L"AnswerUserWantsToClose(VT_BOOL True)\nClose()\n"));
+    CHECK(desk.Act.CallsSince(0).ends_with(L"AnswerUserWantsToClose(VT_BOOL True)\nClose()\n"));
 }

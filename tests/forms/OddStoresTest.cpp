@@ -3,11 +3,7 @@
 #include "i18n/modLangues.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
-#include "support/Wide.h"
 
 namespace {
 

@@ -4,15 +4,10 @@
 #include "dialogs/frmListMaintenance.h"
 #include "dialogs/frmPrefLocations.h"
 #include "dialogs/frmProperties.h"
-#include "program/Program.h"
 #include "quickswitch/frmAssign.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
 #include "support/Text.h"
-#include "support/Wide.h"
 
 #include <algorithm>
 #include <array>

@@ -1,15 +1,11 @@
 // The palette, its settings dialog, and the start of ACT! from it.
 
-#include "program/Program.h"
 #include "quickswitch/PalettePlace.h"
 #include "quickswitch/frmAssign.h"
 #include "quickswitch/frmQuickSwitch.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
-#include "support/Wide.h"
+#include "support/Look.h"
 
 namespace {
 
@@ -23,25 +19,6 @@ std::pair<std::wstring, int> Show(const std::function<void(frmQuickSwitch&, HWND
     script.Then([&](HWND window) { step(palette, window); });
     palette.ShowModal();
     return {main.Opened, main.Shown};
-}
-
-/// How a button is drawn: a number that is another one for every other picture.
-std::uint64_t LookOf(HWND button) {
-    constexpr int kSide = 40;
-    HDC screen = GetDC(button);
-    HDC canvas = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, kSide, kSide);
-    const HGDIOBJ before = SelectObject(canvas, bitmap);
-    DRAWITEMSTRUCT draw{
-        ODT_BUTTON, static_cast<UINT>(GetDlgCtrlID(button)), 0, ODA_DRAWENTIRE, 0, button, canvas, {0, 0, kSide, kSide},
-        0};
-    SendMessageW(GetParent(button), WM_DRAWITEM, draw.CtlID, reinterpret_cast<LPARAM>(&draw));
-    std::uint64_t look = 0;
-    for (int place = 0; place < kSide; ++place) look = look * 31 + GetPixel(canvas, place, kSide / 4);
-    DeleteObject(SelectObject(canvas, before));
-    DeleteDC(canvas);
-    ReleaseDC(button, screen);
-    return look;
 }
 
 } // namespace
@@ -67,8 +44,7 @@ TEST_CASE("The palette is as wide as its highest assigned pair of buttons needs"
     }
 }
 
-TEST_CASE(
-    "A button opens its database once; that of the open database is in parentheses and dead, as is an empty one") {
+TEST_CASE("A button opens its database once; that of the open database is in parentheses and dead") {
     ActDesk desk;
     Assign(L"Sales;Service");
     Program().OpenDatabaseNames = L"|Service||Sal|";
@@ -130,25 +106,6 @@ TEST_CASE("A place from which the control box cannot be reached is moved onto th
     }
 }
 
-TEST_CASE("A scheme that is none is reported, and the palette still comes up") {
-    for (const auto& [scheme, number] :
-         {std::pair{L"blue", L"Error 13: "}, {L"5", L"Error 9: "}, {L"-1", L"Error 9: "}}) {
-        ActDesk desk;
-        Assign(L"A");
-        IniLib::WriteKeyValue(L"General", L"QuickSwitchScheme", scheme);
-        FakeMainWindow main;
-        frmQuickSwitch palette(main);
-        DialogScript script;
-        script.Answer(IDOK).Then([&](HWND window) {
-            CHECK(IsWindowVisible(window));
-            palette.mnuExit.Click();
-        });
-        palette.ShowModal();
-        CHECK(script.All()[0].Text.starts_with(number));
-        CHECK(script.All()[0].Text.find(L"frmQuickSwitch: Sub Refresh_Screen - Line # ") != std::wstring::npos);
-    }
-}
-
 TEST_CASE("The settings offer every database, drop a vanished name, and write all three keys") {
     ActDesk desk;
     desk.AddDatabase(L"Sales", {});
@@ -161,9 +118,7 @@ TEST_CASE("The settings offer every database, drop a vanished name, and write al
         CHECK(dialog.cboDB[0].SelectedText().empty());
         CHECK(dialog.cboDB[1].SelectedText() == L"Service");
         dialog.cboDB[7].Select(L"Sales");
-        HWND sample = FindControl(window, L"picSample", 3);
-        SendMessageW(GetParent(sample), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(sample), STN_CLICKED),
-                     reinterpret_cast<LPARAM>(sample));
+        Press(window, L"picSample", 3);
         dialog.chkStartup.Value(true);
         Click(FindControl(window, L"cmdOK"));
     });
@@ -215,21 +170,15 @@ TEST_CASE("A button is lit while the pointer is on it, and no longer when the pa
     Assign(L"A;B;C");
     Show([](frmQuickSwitch& palette, HWND window) {
         HWND box = FindControl(window, L"pic2");
-        const std::uint64_t dark = LookOf(box);
-        const auto move = [&](const wchar_t* button) {
-            RECT place{};
-            GetWindowRect(FindControl(window, button), &place);
-            SetCursorPos(place.left + 20, place.top + 20);
-            SendMessageW(FindControl(window, button), WM_MOUSEMOVE, 0, MAKELPARAM(20, 20));
-        };
-        move(L"pic2");
-        CHECK(LookOf(box) != dark);
+        const COLORREF dark = ColorAtEdge(box, true);
+        HoverOver(box);
+        CHECK(ColorAtEdge(box, true) != dark);
         SendMessageW(box, WM_MOUSELEAVE, 0, 0);
-        move(L"pic1");
-        CHECK(LookOf(box) == dark);
-        move(L"pic2");
+        HoverOver(FindControl(window, L"pic1"));
+        CHECK(ColorAtEdge(box, true) == dark);
+        HoverOver(box);
         SendMessageW(window, WM_ACTIVATE, WA_INACTIVE, 0);
-        CHECK(LookOf(box) == dark);
+        CHECK(ColorAtEdge(box, true) == dark);
         palette.mnuExit.Click();
     });
 }

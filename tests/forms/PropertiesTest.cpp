@@ -5,14 +5,9 @@
 #include "dialogs/frmProperties.h"
 #include "i18n/Caption.h"
 #include "i18n/modLangues.h"
-#include "program/Program.h"
-#include "stores/IniLib.h"
-#include "stores/UserStore.h"
 #include "stores/modEnCrypt.h"
 #include "support/ActDesk.h"
-#include "support/DialogScript.h"
 #include "support/FakeMainWindow.h"
-#include "support/Wide.h"
 
 namespace {
 
@@ -87,37 +82,30 @@ TEST_CASE("Input that is refused names the reason, shows its tab, and writes not
     struct Case {
         const wchar_t* box;
         const wchar_t* text;
-        int messageRow; ///< 0: the fixed text about the user name
+        std::wstring message;
         int tab;
     };
-    for (const Case& test : {Case{L"txtUsername", L"", 0, 2}, Case{L"txtName", L" ", 121, 0},
-                             Case{L"txtName", L"Service", 121, 0}, Case{L"txtCL", L"", 93, 0}}) {
+    for (const Case& test : {Case{L"txtUsername", L"", L"Please enter a username for this database!", 2},
+                             Case{L"txtName", L" ", LangText[Caption::UniqueNameNeeded], 0},
+                             Case{L"txtName", L"Service", LangText[Caption::UniqueNameNeeded], 0},
+                             Case{L"txtCL", L"", LangText[Caption::ContactLayoutNeeded], 0}}) {
         ActDesk desk;
         AddSales(desk);
         desk.AddDatabase(L"Service", {});
         const std::string before = desk.SettingsBytes();
-        frmProperties dialog(nullptr);
-        Program().FriendlyName = L"Sales";
-        Program().DatabaseNames = {L"Sales", L"Service"};
-        DialogScript script;
-        script.Then([&](HWND window) {
-            Type(window, L"txtPath", L"C:\\Changed.dbf");
-            Type(window, test.box, test.text);
-            Click(FindControl(window, L"cmdOK"));
-        });
-        script.Answer(IDOK);
-        dialog.Load();
-        dialog.Show();
-        PumpUntil([&] { return script.All().size() == 2 && IsWindowEnabled(dialog.Handle()); });
-        REQUIRE(script.All().size() == 2);
-        CHECK(script.All()[1].Text ==
-              (test.messageRow ? LangText[test.messageRow] : L"Please enter a username for this database!"));
-        CHECK(dialog.mstOptions.Tab() == test.tab);
-        CHECK(FocusIn(dialog.Handle()) == FindControl(dialog.Handle(), test.box));
-        CHECK_FALSE(dialog.Unloaded());
+        const auto confirm = [&](frmProperties& form, HWND dialog) {
+            Type(dialog, L"txtPath", L"C:\\Changed.dbf");
+            Type(dialog, test.box, test.text);
+            Press(dialog, L"cmdOK");
+            CHECK(form.mstOptions.Tab() == test.tab);
+            CHECK(FocusIn(dialog) == FindControl(dialog, test.box));
+            if (*test.text) CHECK(form.txtName.Text() == L"Sales");
+        };
+        const Outcome outcome = Play(L"Sales", confirm, 1, L"cmdCancel");
+        CHECK(outcome.Seen.at(1).Text == test.message);
+        CHECK(outcome.IsCancelled);
         CHECK(desk.SettingsBytes() == before);
         CHECK(UserValue(L"Sales", L"UsePassword") == L"(none)");
-        if (test.messageRow == 121) CHECK(WindowText(FindControl(dialog.Handle(), L"txtName")) == L"Sales");
     }
 }
 

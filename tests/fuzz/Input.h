@@ -11,8 +11,6 @@ public:
 
     /// The next byte; zero behind the end.
     std::uint8_t Number() { return next_ == end_ ? std::uint8_t{0} : *next_++; }
-    /// How many bytes are left.
-    std::size_t Left() const { return static_cast<std::size_t>(end_ - next_); }
     /// Up to the next line end.
     std::wstring Line() {
         std::wstring line;

@@ -1,4 +1,4 @@
-// A list that is brought along from another settings file, and the check that finds what is missing of it.
+// A list that is brought along from another settings file, and the check that finds what is missing.
 
 #include "support/JourneyDialogs.h"
 
@@ -8,72 +8,56 @@ namespace {
 
 using namespace JourneyDialogs;
 
-std::string Bytes(const char* database) {
-    const std::string name = database;
-    return "[" + name + "]\r\nPath=C:\\" + name + ".dbf\r\nCLY=C:\\" + name + ".cly\r\n";
+LRESULT Ask(HWND form, const wchar_t* control, UINT message, const wchar_t* text = nullptr) {
+    return SendMessageW(JourneyWindow::Control(form, control), message, 0, reinterpret_cast<LPARAM>(text));
 }
 
-LRESULT Lines(HWND list) { return SendMessageW(JourneyWindow::Control(list, L"lstDB"), LB_GETCOUNT, 0, 0); }
+HWND OpenList(Journey& journey) {
+    journey.ListRealDatabase(L"Sales");
+    StartActElsewhere(journey);
+    journey.StartToMainWindow();
+    HWND list = OpenByMenu(journey, L"mnuManageList", L"frmListMaintenance");
+    REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(list, L"lstDB")));
+    return list;
+}
 
 } // namespace
 
-TEST_CASE_FIXTURE(Journey, "a list from a kept copy is imported, its names made unique, and taken back by one undo") {
-    const std::wstring copies = JourneyStores::BackupFolder();
-    std::filesystem::create_directories(copies);
-    JourneyStores::FileBytes(copies + L"\\Kelmorra-01234567-20260101-120000.ini",
-                             "[General]\r\nSort=Sales;Own\r\n" + Bytes("Sales") + Bytes("Own"));
-    List(L"Sales", L"S:\\Sales.dbf");
-    StartActElsewhere(*this);
+TEST_CASE_FIXTURE(Journey, "a list from a kept copy is imported with unique names, and taken back by one undo") {
+    std::filesystem::create_directories(JourneyStores::BackupFolder());
+    JourneyStores::FileBytes(JourneyStores::BackupFolder() + L"\\Kelmorra-01234567-20260101-120000.ini",
+                             "[General]\r\nSort=Sales;Own\r\n[Sales]\r\nPath=C:\\S.dbf\r\n[Own]\r\nPath=C:\\O.dbf\r\n");
+    HWND list = OpenList(*this);
     const std::string before = JourneyStores::FileBytes(SettingsFile());
-    StartToMainWindow();
-    HWND list = OpenByMenu(*this, L"mnuManageList", L"frmListMaintenance");
     JourneyWindow::ClickMenu(list, L"mnuImport");
     HWND import = Window(Program(), L"frmImport");
-    HWND files = JourneyWindow::Control(import, L"cboFile");
-    REQUIRE(JourneyWindow::InFront(files));
+    REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(import, L"cboFile")));
     JourneyWindow::Press(VK_DOWN);
-    HWND offered = JourneyWindow::Control(import, L"lvwDatabases");
-    REQUIRE(Within([&] { return SendMessageW(offered, LVM_GETITEMCOUNT, 0, 0) == 2; }));
-    JourneyWindow::Press(VK_TAB);
-    JourneyWindow::Press(VK_TAB);
-    REQUIRE(JourneyWindow::InFront(offered));
-    JourneyWindow::Press(VK_SPACE); // the name that is there already: not checked before
-    JourneyWindow::Press(VK_RETURN);
-    REQUIRE(Within([&] { return !IsWindow(import) && Lines(list) == 3; }));
+    REQUIRE(Within([&] { return Ask(import, L"lvwDatabases", LVM_GETITEMCOUNT) == 2; }));
+    for (const WORD key : {VK_TAB, VK_TAB, VK_SPACE, VK_RETURN}) JourneyWindow::Press(key); // the first one, too
+    REQUIRE(Within([&] { return !IsWindow(import) && Ask(list, L"lstDB", LB_GETCOUNT) == 3; }));
     CHECK(JourneyStores::FileBytes(SettingsFile()).find("Sort=Sales;Sales (2);Own\r\n") != std::string::npos);
     JourneyWindow::ClickMenu(list, L"mnuUndo");
-    REQUIRE(Within([&] { return Lines(list) == 1; }));
+    REQUIRE(Within([&] { return Ask(list, L"lstDB", LB_GETCOUNT) == 1; }));
     CHECK(JourneyStores::FileBytes(SettingsFile()) == before);
-    Leave(list, L"cmdClose");
-    Close();
 }
 
 TEST_CASE_FIXTURE(Journey, "the check shows what is missing, and a rename from there renames the line in place") {
-    const std::wstring path = ListRealDatabase(L"Archive");
-    List(L"Branch", L"C:\\No such folder\\Branch.dbf");
-    Ini(L"Branch", L"CLY", path);
-    JourneyStores::User(L"Archive", L"Username", L"Pat");
-    JourneyStores::User(L"Branch", L"Username", L"Pat");
-    List(L"Customers", path);
-    JourneyStores::User(L"Customers", L"Username", L"Pat");
-    StartActElsewhere(*this);
-    StartToMainWindow();
-    HWND list = OpenByMenu(*this, L"mnuManageList", L"frmListMaintenance");
-    REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(list, L"lstDB")));
+    Ini(L"General", L"Sort", L"Branch");
+    Ini(L"Branch", L"Path", L"C:\\No such folder\\Branch.dbf");
+    Ini(L"Branch", L"CLY", L"C:\\windows\\win.ini");
+    for (const wchar_t* name : {L"Sales", L"Branch"}) JourneyStores::User(name, L"Username", L"Pat");
+    HWND list = OpenList(*this);
     JourneyWindow::Press(VK_F5);
     HWND check = Window(Program(), L"frmCheck");
-    HWND missing = JourneyWindow::Control(check, L"lvwMissing");
-    REQUIRE(Within([&] { return SendMessageW(missing, LVM_GETITEMCOUNT, 0, 0) == 1; }));
-    REQUIRE(JourneyWindow::InFront(missing));
+    REQUIRE(Within([&] { return Ask(check, L"lvwMissing", LVM_GETITEMCOUNT) == 1; }));
+    REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(check, L"lvwMissing")));
     JourneyWindow::Press(VK_RETURN);
     HWND properties = Window(Program(), L"frmProperties");
-    Type(properties, {{L"txtName", L"Bank"}, {L"txtPath", path}});
+    Type(properties, {{L"txtName", L"Bank"}, {L"txtPath", L"C:\\windows\\win.ini"}});
     Leave(properties, L"cmdOK");
-    REQUIRE(Within(
-        [&] { return JourneyWindow::Text(JourneyWindow::Control(check, L"lblState")) == L"Nothing is missing."; }));
+    HWND state = JourneyWindow::Control(check, L"lblState");
+    CHECK(Within([&] { return JourneyWindow::Text(state) == L"Nothing is missing."; }));
     Leave(check, L"cmdClose");
-    HWND lines = JourneyWindow::Control(list, L"lstDB");
-    CHECK(Within([&] { return SendMessageW(lines, LB_FINDSTRINGEXACT, 0, reinterpret_cast<LPARAM>(L"Bank")) == 1; }));
-    Leave(list, L"cmdClose");
-    Close();
+    CHECK(Within([&] { return Ask(list, L"lstDB", LB_FINDSTRINGEXACT, L"Bank") == 0; }));
 }

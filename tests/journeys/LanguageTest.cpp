@@ -10,7 +10,6 @@ namespace {
 
 using namespace JourneyDialogs;
 using JourneyStores::User;
-using JourneyStores::UserSection;
 
 std::wstring German(size_t index) { return FromUtf8(LangTextTable.at(index - 1).German); }
 
@@ -24,7 +23,7 @@ TEST_CASE_FIXTURE(Journey, "a new user chooses a language, builds a list from no
     HWND dialog = Window(Start(), L"frmLanguage");
     SendMessageW(JourneyWindow::Control(dialog, L"cmbLanguage"), CB_SETCURSEL, 2, 0);
     JourneyWindow::Click(dialog, L"cmdOK");
-    HWND window = MainWindow(Program());
+    HWND window = Window(Program(), L"frmMain");
     CHECK(JourneyWindow::Text(JourneyWindow::Control(window, L"cmdOpen")) == German(62));
     CHECK(User(L"Options", L"Language") == L"2");
 
@@ -35,10 +34,8 @@ TEST_CASE_FIXTURE(Journey, "a new user chooses a language, builds a list from no
     Leave(properties, L"cmdOK");
     properties = OpenByButton(*this, list, L"cmdAdd", L"frmProperties");
     Type(properties, {{L"txtName", L"Suppliers"}, {L"txtPath", second}, {L"txtCL", L"C:\\S.cly"}});
-    ShowTab(properties, 2);
-    Type(properties, {{L"txtUsername", L"Chris"}});
-    Check(properties, L"chkPassword", true);
-    Type(properties, {{L"txtPassword", L"abc"}});
+    SendMessageW(JourneyWindow::Control(properties, L"chkPassword"), BM_CLICK, 0, 0);
+    Type(properties, {{L"txtUsername", L"Chris"}, {L"txtPassword", L"abc"}});
     Leave(properties, L"cmdOK");
     REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(list, L"cmdAdd")));
     JourneyWindow::Press(VK_ESCAPE);
@@ -51,10 +48,10 @@ TEST_CASE_FIXTURE(Journey, "a new user chooses a language, builds a list from no
           "[Archive]\r\nPath=C:\\A.dbf\r\nCLY=C:\\A.cly\r\nGLY=\r\nStartupMacro=\r\n"
           "[Suppliers]\r\nPath=" +
               ToAnsi(second) + "\r\nCLY=C:\\S.cly\r\nGLY=\r\nStartupMacro=\r\n");
-    CHECK(UserSection(L"Archive") == L"NoPasswordAtACTStartup=0;UsePassword=0;Username=Pat;");
-    CHECK(UserSection(L"Suppliers") ==
-          L"NoPasswordAtACTStartup=0;Password=\u00a6\u00ae\u00b0;UsePassword=1;Username=Chris;");
-    DoubleClickRow(window, 1);
+    CHECK(User(L"Archive", L"Username") == L"Pat");
+    CHECK(User(L"Suppliers", L"Password") == L"\u00a6\u00ae\u00b0");
+    REQUIRE(JourneyWindow::InFront(ListOf(window)));
+    JourneyWindow::ClickMouse(ListOf(window), MiddleOfRow(ListOf(window), 1), 2);
     CHECK(Program().ExitCode() == 0u);
     CHECK(Calls().find(L"APPOBJECT openDB METHOD VT_BSTR \"" + second + L'"') != std::wstring::npos);
     CHECK(User(L"Logon", L"Username") == L"Chris");

@@ -132,8 +132,7 @@ private:
 
 } // namespace
 
-TEST_CASE_FIXTURE(LogonJourney,
-                  "the program opens a database past another dialog, and ACT! ends logged on as its user") {
+TEST_CASE_FIXTURE(LogonJourney, "a database is opened past another dialog, and ACT! ends logged on") {
     Act(L"EmailAccount", L"DuringOpen", L"1");
     OpenCustomers(kRight);
     HWND other = OtherDialog();

@@ -15,5 +15,4 @@ TEST_CASE_FIXTURE(Journey, "a tip comes when the mouse rests on a row, not when 
         HWND tip = JourneyWindow::Find(Program().Id(), TOOLTIPS_CLASSW);
         return IsWindowVisible(tip) != FALSE;
     }));
-    Close();
 }

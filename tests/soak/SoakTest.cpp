@@ -45,6 +45,13 @@ struct Office {
             GetPrivateProfileStringA(section.c_str(), key.c_str(), "", value.data(), 100, ToAnsi(file.Path()).c_str()));
         return value;
     }
+    /// How many of a writer's updates are not there.
+    unsigned long Missing(const std::string& section, unsigned long updates) const {
+        unsigned long missing = 0;
+        for (unsigned long update = 0; update < updates; ++update)
+            missing += Value(section, "K" + std::to_string(update)).size() != update % 20 + 1;
+        return missing;
+    }
     bool IsAlone() const { return std::distance(fs::directory_iterator(file.Folder()), fs::directory_iterator()) == 1; }
 
     const std::string before = OfficeFile();
@@ -85,9 +92,7 @@ Losses LostAmongWriters(const Office& office, unsigned long updates, bool isPlai
             if (office.Value("End", "K") != "1") ++losses.torn;
     for (const Process& writer : writers) losses.refused += writer.ExitCode().value_or(0);
     for (int number = 0; number < kWriters; ++number)
-        for (unsigned long update = 0; update < updates; ++update)
-            if (office.Value("W" + std::to_string(number), "K" + std::to_string(update)).size() != update % 20 + 1)
-                ++losses.lost;
+        losses.lost += office.Missing("W" + std::to_string(number), updates);
     losses.lost -= std::min(losses.lost, losses.refused);
     return losses;
 }
@@ -134,9 +139,7 @@ TEST_CASE_FIXTURE(Office, "A share that goes away again and again takes nothing 
     }
     const unsigned long refused = writer.ExitCode(kSoakPatience).value_or(updates);
     CHECK(refused < updates); // neither all of them nor the code of a crash
-    unsigned long lost = 0;
-    for (unsigned long update = 0; update < updates; ++update)
-        if (Value("W", "K" + std::to_string(update)).size() != update % 20 + 1) ++lost;
+    const unsigned long lost = Missing("W", updates);
     MESSAGE(outages << " outages among " << updates << " updates: " << lost - std::min(lost, refused) << " lost, "
                     << refused << " refused, " << torn << " readings torn");
     CHECK(IsWhole());

@@ -31,22 +31,15 @@ Check "user", app.getcurrentusername, "Jo Preset"
 
 Set views = app.Views
 Set view = views.Create(4, "V")
-view.SetCalendarMode 301
-
 Set prefs = app.Preferences
 prefs.DefaultContactLayout = "C:\Layouts\A ""b"".cly"
 Check "contact layout", prefs.DefaultContactLayout, "C:\Layouts\A ""b"".cly"
 Check "use last", prefs.UseLastDBonStartup, True
-Check "macros", prefs.GetDefaultLocation("7"), "D:\Macros"
 
 Set aux = CreateObject("ACTOLE.AUXCMDS")
 Check "same server", ev.InstanceCount, CLng(1)
 Check "command", aux.AuxCommandExists("Kelmorra"), False
 Check "add", aux.AddAuxCommand("Kelmorra", "k.exe", "", "", "", "tip", "", 8), 0
-Check "to toolbar", aux.AddAuxCommandToToolbar(6, "Kelmorra"), 0
-Check "in toolbar", aux.AuxCommandExistsInToolbar(6, "Kelmorra"), True
-Check "in other toolbar", aux.AuxCommandExistsInToolbar(5, "Kelmorra"), False
-Check "from toolbar", aux.RemoveAuxCommandFromToolbar(6, "Kelmorra"), 0
 Check "ordered result", aux.AddAuxCommandToToolsMenu(1, "Kelmorra"), 5
 
 On Error Resume Next
@@ -62,8 +55,6 @@ views.Create 6, "V"
 CheckError "unknown view", 5
 app.RunMacro "C:\Macros\Morning.mpr"
 CheckError "scode on order", 91
-app.RunMacro "C:\Macros\Morning.mpr"
-CheckError "only the first call fails", 0
 app.Command "x"
 CheckError "argument type", 13
 On Error GoTo 0

@@ -1,22 +1,16 @@
 #include "support/ActDesk.h"
 
 #include "i18n/modLangues.h"
-#include "program/Program.h"
-#include "stores/IniLib.h"
 #include "stores/RegistrySubs.h"
-#include "stores/UserStore.h"
 #include "support/MsgBox.h"
-#include "support/Wide.h"
 #include "win32/Owner.h"
 
-ActDesk::ActDesk() : file_(L"Kelmorra.ini") {
+ActDesk::ActDesk() {
     Program() = ProgramState();
     SilenceMessages(false);
-    file_.Bytes(" \r\n");
+    file.Bytes(" \r\n");
     modLangues::Init_Language(short{0});
-    registry_.LocalData(file_.Folder());
-    IniLib::SettingsFile(file_.Path());
-    UserStore::Set(L"Settings", L"IniLocation", file_.Path());
+    UserStore::Set(L"Settings", L"IniLocation", file.Path());
     UserStore::Set(L"Settings", L"Installed", L"1");
     UserStore::Set(L"Settings", L"Version", L"320");
 }

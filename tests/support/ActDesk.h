@@ -1,9 +1,14 @@
 #pragma once
 
+// With what every test of windows looks at or works them with.
 #include "app/frmMain.h"
+#include "program/Program.h"
+#include "stores/IniLib.h"
+#include "stores/UserStore.h"
+#include "support/DialogScript.h"
 #include "support/FakeAct.h"
-#include "support/ScratchRegistry.h"
-#include "support/TempFile.h"
+#include "support/SettingsDesk.h"
+#include "support/Wide.h"
 
 #include <initializer_list>
 #include <string>
@@ -11,21 +16,17 @@
 
 /// A user's desk: an ACT! in this process, an empty registry, a settings file of its own, and a user who has chosen
 /// a language before.
-class ActDesk {
+class ActDesk : public SettingsDesk {
 public:
     ActDesk();
 
     FakeAct Act;
     /// Adds a database with the given keys to the settings file, at the end of the list.
     void AddDatabase(const std::wstring& name, std::initializer_list<std::pair<const wchar_t*, std::wstring>> keys);
-    std::wstring SettingsFile() const { return file_.Path(); }
+    std::wstring SettingsFile() const { return file.Path(); }
     /// The settings file as it lies on disk.
-    std::string SettingsBytes() const { return file_.Bytes(); }
-    void SettingsBytes(std::string_view bytes) const { file_.Bytes(bytes); }
-
-private:
-    ScratchRegistry registry_;
-    TempFile file_;
+    std::string SettingsBytes() const { return file.Bytes(); }
+    void SettingsBytes(std::string_view bytes) const { file.Bytes(bytes); }
 };
 
 /// Turns the program's message loop until it ends, like wWinMain; `main` must have ended by itself then.

@@ -17,36 +17,25 @@ bool IsDialog(HWND window) {
     return className == L"#32770" || (className.starts_with(L"frm") && className != L"frmMain");
 }
 
-std::wstring MessageText(HWND window) {
-    constexpr int kMessageText = 0xFFFF; // the static control of a message box
-    HWND text = GetDlgItem(window, kMessageText);
-    return text ? WindowText(text) : std::wstring();
-}
-
-struct Search {
-    const wchar_t* Name;
-    HANDLE Value;
-    HWND Found;
-};
-
-BOOL CALLBACK CompareProperty(HWND child, LPARAM parameter) {
-    auto& search = *reinterpret_cast<Search*>(parameter);
-    if (GetPropW(child, search.Name) == search.Value) search.Found = child;
-    return search.Found == nullptr;
-}
-
 } // namespace
 
 HWND FindControl(HWND form, const wchar_t* name, int index) {
-    Search search{name, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(index) + 1), nullptr};
-    EnumChildWindows(form, &CompareProperty, reinterpret_cast<LPARAM>(&search));
-    return search.Found;
+    HWND child = GetWindow(form, GW_CHILD);
+    while (child && reinterpret_cast<INT_PTR>(GetPropW(child, name)) != index + 1)
+        child = GetWindow(child, GW_HWNDNEXT);
+    return child;
 }
 
 std::wstring WindowText(HWND window) {
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
+}
+
+std::wstring MessageText(HWND window) {
+    constexpr int kMessageText = 0xFFFF; // the static control of a message box
+    HWND text = GetDlgItem(window, kMessageText);
+    return text ? WindowText(text) : std::wstring();
 }
 
 void Leave(HWND window) {
@@ -107,14 +96,9 @@ HWND FocusIn(HWND form) {
     return GetFocus();
 }
 
-DialogScript::DialogScript()
-    : hook_(SetWindowsHookExW(WH_CBT, &DialogScript::OnHook, nullptr, GetCurrentThreadId())),
-      timer_(SetTimer(nullptr, 0, 20, &DialogScript::OnTimer)) {
-    current = this;
-}
+DialogScript::DialogScript() : timer_(SetTimer(nullptr, 0, 20, &DialogScript::OnTimer)) { current = this; }
 
 DialogScript::~DialogScript() {
-    UnhookWindowsHookEx(hook_);
     KillTimer(nullptr, timer_);
     current = nullptr;
     for (const Seen& window : unexpected_) FAIL_CHECK("nobody expected: ", window.Title, " / ", window.Text);
@@ -135,28 +119,21 @@ DialogScript& DialogScript::Otherwise(std::function<void(HWND)> step) {
     return *this;
 }
 
-LRESULT CALLBACK DialogScript::OnHook(int code, WPARAM wParam, LPARAM lParam) {
-    HWND window = reinterpret_cast<HWND>(wParam);
-    if (current && code == HCBT_ACTIVATE && IsDialog(window) && std::ranges::count(current->met_, window) == 0) {
-        current->met_.push_back(window);
-        current->waiting_.push_back(window);
-    }
-    // A handle may be given to a later window.
-    if (current && code == HCBT_DESTROYWND) {
-        std::erase(current->met_, window);
-        std::erase(current->waiting_, window);
-    }
-    return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
 void CALLBACK DialogScript::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (!current) return;
-    // A window may be active before it is shown, and a message box come up meanwhile.
-    const auto next = std::ranges::find_if(current->waiting_, [](HWND window) { return IsWindowVisible(window); });
-    if (next == current->waiting_.end()) return;
-    HWND window = *next;
-    current->waiting_.erase(next);
-    current->Meet(window);
+    std::erase_if(current->met_, [](HWND window) { return !IsWindow(window); }); // its handle may be given to another
+    HWND next = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), &DialogScript::Choose, reinterpret_cast<LPARAM>(&next));
+    if (!next) return;
+    current->met_.push_back(next);
+    current->Meet(next);
+}
+
+BOOL CALLBACK DialogScript::Choose(HWND window, LPARAM next) {
+    const bool isMet = std::ranges::count(current->met_, window) > 0;
+    // The lowest one has come up first.
+    if (!isMet && IsWindowVisible(window) && IsDialog(window)) *reinterpret_cast<HWND*>(next) = window;
+    return TRUE;
 }
 
 void DialogScript::Meet(HWND window) {

@@ -33,15 +33,13 @@ public:
     const std::vector<Seen>& All() const { return seen_; }
 
 private:
-    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
+    static BOOL CALLBACK Choose(HWND window, LPARAM next);
     void Meet(HWND window);
 
-    HHOOK hook_;
     UINT_PTR timer_;
     std::deque<std::function<void(HWND)>> steps_;
     std::function<void(HWND)> otherwise_;
-    std::vector<HWND> waiting_;
     std::vector<HWND> met_;
     std::vector<Seen> seen_;
     std::vector<Seen> unexpected_;
@@ -53,8 +51,9 @@ HWND FindControl(HWND form, const wchar_t* name, int index = 0);
 /// Leaves a dialog as by Cancel, a message box by OK or No.
 void Leave(HWND window);
 
-/// A window's text.
+/// A window's text, and that inside a message box; "" for another window.
 std::wstring WindowText(HWND window);
+std::wstring MessageText(HWND window);
 
 /// The control that has the focus in a form. When the window manager has just given the focus to somebody else, the
 /// form is brought back first.

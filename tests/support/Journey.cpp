@@ -53,9 +53,6 @@ std::wstring NewFolder() {
     return folder;
 }
 
-/// What the stand-in notes about itself and its event component is no call into ACT!.
-bool IsCall(const Journey::Call& call) { return call.Object != L"STANDIN" && call.Object != L"EVENT"; }
-
 } // namespace
 
 Journey::Journey() {
@@ -110,17 +107,13 @@ void Journey::Ini(const std::wstring& section, const std::wstring& key, const st
     WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), SettingsFile().c_str());
 }
 
-void Journey::List(const std::wstring& name, const std::wstring& path) {
+std::wstring Journey::ListRealDatabase(const std::wstring& name) {
+    const std::wstring path = File(name + L".dbf");
+    JourneyStores::FileBytes(path, "dBASE");
     std::array<wchar_t, 2048> before{};
     GetPrivateProfileStringW(L"General", L"Sort", L"", before.data(), before.size(), SettingsFile().c_str());
     Ini(L"General", L"Sort", before[0] ? before.data() + (L';' + name) : name);
     Ini(name, L"Path", path);
-}
-
-std::wstring Journey::ListRealDatabase(const std::wstring& name) {
-    const std::wstring path = File(name + L".dbf");
-    JourneyStores::FileBytes(path, "dBASE");
-    List(name, path);
     return path;
 }
 
@@ -166,25 +159,15 @@ size_t Journey::Count(const std::wstring& object, const std::wstring& member) co
     return count;
 }
 
-std::wstring Journey::Calls(size_t skip) const {
+std::wstring Journey::Calls() const {
     std::wstring lines;
     for (const Call& call : Log()) {
-        if (!IsCall(call)) continue;
-        if (skip > 0) {
-            --skip;
-            continue;
-        }
+        // What the stand-in notes about itself and its event component is no call into ACT!.
+        if (call.Object == L"STANDIN" || call.Object == L"EVENT") continue;
         lines += call.Object + L' ' + call.Member + L' ' + call.Flags;
         lines += (call.Arguments.empty() ? L"" : L' ' + call.Arguments) + L'\n';
     }
     return lines;
-}
-
-size_t Journey::CallCount() const {
-    size_t count = 0;
-    for (const Call& call : Log())
-        if (IsCall(call)) ++count;
-    return count;
 }
 
 const Process& Journey::Start() { return programs_.emplace_back(group_, ProgramFile(L"Kelmorra.exe")); }
@@ -203,8 +186,6 @@ HWND Journey::Window(const Process& program, const wchar_t* className) {
     return window;
 }
 
-HWND Journey::MainWindow(const Process& program) const { return Window(program, L"frmMain"); }
-
 JourneyWindow::Box Journey::Box(const Process& program) const {
     std::optional<JourneyWindow::Box> box;
     REQUIRE(Within([&] { return (box = JourneyWindow::MessageBoxOf(program.Id())).has_value(); }));
@@ -213,12 +194,7 @@ JourneyWindow::Box Journey::Box(const Process& program) const {
 
 JourneyWindow::Box Journey::AnswerBox() const {
     const JourneyWindow::Box box = Box(Program());
-    JourneyWindow::Dismiss(box);
+    JourneyWindow::Answer(box, IDOK);
     REQUIRE(Within([&] { return !IsWindow(box.Window); }));
     return box;
-}
-
-void Journey::Close() const {
-    JourneyWindow::Click(JourneyWindow::Find(Program().Id(), L"frmMain"), L"cmdCancel");
-    CHECK(Program().ExitCode() == 0u);
 }

@@ -10,14 +10,6 @@
 #include <string>
 #include <vector>
 
-/// Lets a failed assertion show a value that may be missing.
-template <>
-struct doctest::StringMaker<std::optional<std::wstring>> {
-    static String convert(const std::optional<std::wstring>& text) {
-        return text ? StringMaker<std::wstring>::convert(*text) : String("(none)");
-    }
-};
-
 /// One user's session: empty stores, a folder of its own with a copy of the program, and an ACT! stand-in with its own
 /// log and state. Unless told otherwise the program has run before, in English.
 ///
@@ -37,9 +29,7 @@ public:
     // The settings file
     std::wstring SettingsFile() const { return ProgramFile(L"Kelmorra.ini"); }
     void Ini(const std::wstring& section, const std::wstring& key, const std::wstring& value) const;
-    /// Puts a database with that path, which need not exist, at the end of the list.
-    void List(const std::wstring& name, const std::wstring& path);
-    /// The same with a database file that ACT! can open; returns its path.
+    /// Puts a database that ACT! can open at the end of the list; returns its path.
     std::wstring ListRealDatabase(const std::wstring& name);
 
     // ACT!
@@ -59,15 +49,13 @@ public:
     /// What the stand-in's log holds.
     std::vector<Call> Log() const;
     size_t Count(const std::wstring& object, const std::wstring& member) const;
-    /// The calls into ACT! after the first `skip` of them, one per line: object, member, flags and arguments.
-    std::wstring Calls(size_t skip = 0) const;
-    size_t CallCount() const;
+    /// The calls into ACT!, one per line: object, member, flags and arguments.
+    std::wstring Calls() const;
 
     // The program
     const Process& Start();
-    /// The main window, once it is on the screen; the running test ends when it does not come.
-    HWND MainWindow(const Process& program) const;
-    HWND StartToMainWindow() { return MainWindow(Start()); }
+    /// The main window of another one, once it is on the screen.
+    HWND StartToMainWindow() { return Window(Start(), L"frmMain"); }
     const Process& Program() const { return programs_.back(); }
     /// The next message box of a program; the running test ends when none comes.
     JourneyWindow::Box Box(const Process& program) const;
@@ -75,8 +63,6 @@ public:
     JourneyWindow::Box AnswerBox() const;
     /// A visible window of a program by its class; the running test ends when it does not come.
     static HWND Window(const Process& program, const wchar_t* className);
-    /// Closes the main window by its Cancel button and waits for the end of the program.
-    void Close() const;
 
     const ProcessGroup& Group() const { return group_; }
 

@@ -29,19 +29,6 @@ void Type(HWND form, const Texts& texts) {
     }
 }
 
-void Check(HWND form, const wchar_t* box, bool checked) {
-    HWND control = JourneyWindow::Control(form, box);
-    if (JourneyWindow::Checked(control) != checked) JourneyWindow::Click(form, box);
-    REQUIRE(Within([&] { return JourneyWindow::Checked(control) == checked; }));
-}
-
-void ShowTab(HWND dialog, int tab, const wchar_t* tabs) {
-    HWND control = JourneyWindow::Control(dialog, tabs);
-    // As a click does, this tells the dialog of the change.
-    PostMessageW(control, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
-    REQUIRE(Within([&] { return SendMessageW(control, TCM_GETCURSEL, 0, 0) == tab; }));
-}
-
 void Leave(HWND dialog, const wchar_t* button) {
     JourneyWindow::Click(dialog, button);
     REQUIRE(Within([&] { return !IsWindow(dialog); }));
@@ -61,12 +48,6 @@ POINT MiddleOfRow(HWND list, int row) {
 
 int SelectedRow(HWND list) {
     return static_cast<int>(SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-}
-
-void DoubleClickRow(HWND mainWindow, int row) {
-    HWND list = ListOf(mainWindow);
-    REQUIRE(JourneyWindow::InFront(list));
-    JourneyWindow::DoubleClick(list, MiddleOfRow(list, row));
 }
 
 } // namespace JourneyDialogs

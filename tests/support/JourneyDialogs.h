@@ -20,9 +20,6 @@ HWND OpenByMenu(const Journey& journey, const wchar_t* item, const wchar_t* dial
 HWND OpenByButton(const Journey& journey, HWND form, const wchar_t* button, const wchar_t* dialogClass);
 
 void Type(HWND form, const Texts& texts);
-/// Clicks a check box until it is checked, or is not.
-void Check(HWND form, const wchar_t* box, bool checked);
-void ShowTab(HWND dialog, int tab, const wchar_t* tabs = L"mstOptions");
 /// Clicks a button and waits until the dialog is gone. The window below it may still have work to do.
 void Leave(HWND dialog, const wchar_t* button);
 
@@ -30,8 +27,5 @@ HWND ListOf(HWND mainWindow);
 /// A place in a row of that list, and the selected row.
 POINT MiddleOfRow(HWND list, int row);
 int SelectedRow(HWND list);
-
-/// Double-clicks a row of the main window's list with a real mouse.
-void DoubleClickRow(HWND mainWindow, int row);
 
 } // namespace JourneyDialogs

@@ -31,14 +31,14 @@ DWORD ProcessGroup::Alive() const {
     return accounting.ActiveProcesses;
 }
 
-Process::Process(const ProcessGroup& group, const std::wstring& path, const std::wstring& arguments, DWORD flags) {
+Process::Process(const ProcessGroup& group, const std::wstring& path, const std::wstring& arguments) {
     std::wstring command = L'"' + path + L'"' + (arguments.empty() ? L"" : L" " + arguments);
     const std::wstring folder = path.substr(0, path.rfind(L'\\'));
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION started{};
     // Suspended: what it starts must already belong to the group.
-    if (!CreateProcessW(path.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED | flags, nullptr,
+    if (!CreateProcessW(path.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr,
                         folder.c_str(), &startup, &started))
         throw std::runtime_error("a program of the journey cannot be started");
     process_.Reset(started.hProcess);

@@ -28,9 +28,8 @@ private:
 /// A program that a journey has started.
 class Process {
 public:
-    /// Starts a program without arguments, or with `arguments`, in its own folder; `flags` are those of CreateProcess.
-    /// Throws when it cannot be started.
-    Process(const ProcessGroup& group, const std::wstring& path, const std::wstring& arguments = {}, DWORD flags = 0);
+    /// Starts a program, with arguments or without, in its own folder. Throws when it cannot be started.
+    Process(const ProcessGroup& group, const std::wstring& path, const std::wstring& arguments = {});
 
     /// The program that a window belongs to.
     explicit Process(HWND window);

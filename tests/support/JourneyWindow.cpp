@@ -3,7 +3,6 @@
 #include "support/JourneyProcess.h"
 
 #include <array>
-#include <utility>
 
 namespace {
 
@@ -40,30 +39,18 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<LRESULT>(answer);
 }
 
-/// What a question gives once the answer has not changed for a while.
-template <typename Question>
-auto Unchanged(const Question& question) {
-    constexpr DWORD kMilliseconds = 300;
-    DWORD since = GetTickCount();
-    auto last = question();
-    Within([&] {
-        auto now = question();
-        if (now != last) since = GetTickCount();
-        last = std::move(now);
-        return GetTickCount() - since >= kMilliseconds;
-    });
-    return last;
+/// Works the display's own mouse. A program of the host has no handles here: what stands in for them may be those of
+/// something else.
+void WorkMouse(const std::wstring& actions) {
+    std::wstring command = L"xdotool " + actions;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION unused{};
+    CreateProcessW(L"Z:\\usr\\bin\\xdotool", command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                   &unused);
 }
 
-/// Where the mouse was moved last. A button goes down and up there, whatever the display reports late about the way.
-POINT mousePlace{};
-
-/// A coordinate in the parts of the screen that SendInput takes: 65,536 of them, whatever its pixels.
-LONG PartOf(LONG pixel, int metric) {
-    constexpr LONG kParts = 65'536;
-    const LONG pixels = GetSystemMetrics(metric);
-    return (pixel * kParts + pixels - 1) / pixels;
-}
+std::wstring MoveTo(POINT place) { return L" mousemove " + std::to_wstring(place.x) + L' ' + std::to_wstring(place.y); }
 
 } // namespace
 
@@ -118,62 +105,47 @@ bool InFront(HWND control) {
 }
 
 void Settle(HWND window) {
-    Unchanged([window] {
-        POINT corner{};
-        ClientToScreen(window, &corner);
-        return std::pair(corner.x, corner.y);
+    constexpr DWORD kMilliseconds = 300;
+    RECT last{};
+    DWORD since = GetTickCount();
+    Within([&] {
+        RECT now{};
+        GetWindowRect(window, &now);
+        if (!EqualRect(&now, &last)) since = GetTickCount();
+        last = now;
+        return GetTickCount() - since >= kMilliseconds;
     });
 }
 
 void MoveMouse(HWND window, POINT place) {
     ClientToScreen(window, &place);
-    mousePlace = place;
-    SetCursorPos(place.x, place.y);
-    Unchanged([] {
+    WorkMouse(MoveTo(place));
+    Within([place] {
         POINT cursor{};
-        GetCursorPos(&cursor);
-        return cursor.x == mousePlace.x && cursor.y == mousePlace.y;
+        return GetCursorPos(&cursor) && cursor.x == place.x && cursor.y == place.y;
     });
 }
 
-void LeftButton(bool isDown) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = PartOf(mousePlace.x, SM_CXSCREEN);
-    input.mi.dy = PartOf(mousePlace.y, SM_CYSCREEN);
-    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | (isDown ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
-    SendInput(1, &input, sizeof input);
+void ClickMouse(HWND window, POINT place, int times) {
+    Settle(window);
+    ClientToScreen(window, &place);
+    WorkMouse(MoveTo(place) + L" sleep 0.1 click --repeat " + std::to_wstring(times) + L" --delay 50 1");
 }
-
-bool LeftButtonIsDown() { return GetAsyncKeyState(VK_LBUTTON) < 0; }
 
 void Drag(HWND window, POINT place, SIZE distance) {
     ClientToScreen(window, &place);
-    std::wstring command =
-        L"xdotool mousemove " + std::to_wstring(place.x) + L' ' + std::to_wstring(place.y) + L" mousedown 1";
+    std::wstring actions = MoveTo(place) + L" mousedown 1";
     constexpr int kSteps = 5;
     for (int step = 1; step <= kSteps; ++step)
-        command += L" sleep 0.1 mousemove " + std::to_wstring(place.x + distance.cx * step / kSteps) + L' ' +
-                   std::to_wstring(place.y + distance.cy * step / kSteps);
-    command += L" sleep 0.1 mouseup 1";
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    // A program of the host has no handles here: what stands in for them may be those of something else.
-    PROCESS_INFORMATION unused{};
-    CreateProcessW(L"Z:\\usr\\bin\\xdotool", command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                   &unused);
+        actions +=
+            L" sleep 0.1" + MoveTo({place.x + distance.cx * step / kSteps, place.y + distance.cy * step / kSteps});
+    WorkMouse(actions + L" sleep 0.1 mouseup 1");
 }
 
 POINT Middle(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
     return {client.right / 2, client.bottom / 2};
-}
-
-void DoubleClick(HWND window, POINT place) {
-    Settle(window);
-    MoveMouse(window, place);
-    for (const bool isDown : {true, false, true, false}) LeftButton(isDown);
 }
 
 void Press(WORD key) {
@@ -190,13 +162,11 @@ std::optional<Box> MessageBoxOf(DWORD process) {
     constexpr int kTextId = 0xFFFF;
     for (HWND window : Visible(process)) {
         HWND text = HasClass(window, L"#32770") ? GetDlgItem(window, kTextId) : nullptr;
-        if (text) return Box{window, Text(window), Text(text)};
+        if (text) return Box{window, Text(text)};
     }
     return std::nullopt;
 }
 
 void Answer(const Box& box, int button) { PostMessageW(box.Window, WM_COMMAND, static_cast<WPARAM>(button), 0); }
-
-void Dismiss(const Box& box) { PostMessageW(box.Window, WM_CLOSE, 0, 0); }
 
 } // namespace JourneyWindow

@@ -29,19 +29,16 @@ bool HasFocus(HWND control);
 /// Waits until a control has the focus of the window in the foreground, so that the screen shows it and real keys reach
 /// it; false when that does not come about.
 bool InFront(HWND control);
-/// Presses and releases the left button twice at a place of the window, as a user's mouse does.
-void DoubleClick(HWND window, POINT place);
 
 /// Waits until the window stands where it did a moment ago: the window manager moves new ones.
 void Settle(HWND window);
-/// Moves the mouse to a place of the window's client area, or holds or lets go of its left button there.
+/// Moves the mouse to a place of the window's client area. It is the display's own: a window manager that moves windows
+/// does not see the input that Windows programs send.
 void MoveMouse(HWND window, POINT place);
-void LeftButton(bool isDown);
-/// Drags a window by a place in its client area, so many pixels to the right and down. The display's own mouse does it:
-/// a window manager that moves windows does not see the input that Windows programs send.
+/// Waits until the window rests, and presses and releases the left button at a place of it.
+void ClickMouse(HWND window, POINT place, int times = 1);
+/// Drags a window by a place in its client area, so many pixels to the right and down.
 void Drag(HWND window, POINT place, SIZE distance);
-/// Whether the left button is held, by that mouse or by LeftButton.
-bool LeftButtonIsDown();
 /// The middle of a window in its own client coordinates.
 POINT Middle(HWND window);
 
@@ -51,13 +48,10 @@ void Press(WORD key);
 /// A message box on the screen.
 struct Box {
     HWND Window = nullptr;
-    std::wstring Title;
     std::wstring Text;
 };
 /// The topmost message box of a process, if any.
 std::optional<Box> MessageBoxOf(DWORD process);
-/// Presses OK, the only button of every box met here: closing the box does the same.
-void Dismiss(const Box& box);
 /// Presses a button of a message box, IDYES for example.
 void Answer(const Box& box, int button);
 

@@ -2,41 +2,48 @@
 
 #include "support/DialogScript.h"
 #include "ui/Control.h"
-#include "win32/Owner.h"
 
 #include <array>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <vector>
 
 namespace {
 
-/// Width in pixels of a control's caption in its own font, access key marker not counted.
-int CaptionWidth(HWND window) {
+std::wstring ClassOf(HWND window) {
+    std::array<wchar_t, 32> name{};
+    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    return name.data();
+}
+
+std::vector<HWND> ControlsOf(HWND form) {
+    std::vector<HWND> controls;
+    for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        controls.push_back(child);
+    return controls;
+}
+
+/// Size in pixels of a control's text as one line in its own font, access key marker not counted.
+SIZE TextExtent(HWND window) {
     HDC canvas = GetDC(window);
     const HGDIOBJ before = SelectObject(canvas, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
-    const std::wstring text = WindowText(window);
     RECT extent{};
-    DrawTextW(canvas, text.c_str(), -1, &extent, DT_CALCRECT | DT_SINGLELINE);
+    DrawTextW(canvas, WindowText(window).c_str(), -1, &extent, DT_CALCRECT | DT_SINGLELINE);
     SelectObject(canvas, before);
     ReleaseDC(window, canvas);
-    return extent.right;
+    return {extent.right, extent.bottom};
 }
 
 /// What a control needs beside its caption: a button its edges, a box or option its mark. -1: it shows no caption.
-int CaptionMargin(HWND control) {
+int CaptionMargin(HWND control, int width) {
     constexpr int kEdges = 8;
     constexpr int kMark = 20;
-    std::array<wchar_t, 32> className{};
-    GetClassNameW(control, className.data(), 32);
-    const std::wstring_view kind = className.data();
-    if (kind == L"Static") return 0;
-    if (kind != L"Button") return -1;
+    const std::wstring kind = ClassOf(control);
+    if (kind != L"Button") return kind == L"Static" ? 0 : -1;
     const auto type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
-    const RECT place = PlaceOf(control);
-    const bool isBareMark = (type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX) &&
-                            place.right - place.left <= kMark * 2; // has a label beside it
-    if (isBareMark) return -1;
-    return type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX ? kMark : kEdges;
+    if (type != BS_AUTORADIOBUTTON && type != BS_AUTOCHECKBOX) return kEdges;
+    return width <= kMark * 2 ? -1 : kMark; // a bare mark has a label beside it
 }
 
 /// What a text needs with room to spare, for other fonts. Wine 10's are as wide as Windows' own, older ones narrower.
@@ -48,66 +55,12 @@ int Spaced(int needed) {
     return (needed * percent + 99) / 100;
 }
 
-/// Height in pixels of a notice's lines, broken as in its own width.
-int NoticeHeight(HWND notice) {
-    HDC canvas = GetDC(notice);
-    const HGDIOBJ before = SelectObject(canvas, reinterpret_cast<HGDIOBJ>(SendMessageW(notice, WM_GETFONT, 0, 0)));
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(canvas, &metrics);
-    SelectObject(canvas, before);
-    ReleaseDC(notice, canvas);
-    return static_cast<int>(SendMessageW(notice, EM_GETLINECOUNT, 0, 0)) * static_cast<int>(metrics.tmHeight);
-}
-
-BOOL CALLBACK CheckCaption(HWND control, LPARAM parameter) {
-    const int margin = CaptionMargin(control);
-    const RECT place = PlaceOf(control);
-    const int room = place.right - place.left;
-    // Their places are given: the one's room ends where the other begins, and that one's at the window's edge.
-    const bool isGiven = GetPropW(control, L"lblMore") != nullptr || GetPropW(control, L"lblLink") != nullptr;
-    const int needed = (isGiven ? CaptionWidth(control) : Spaced(CaptionWidth(control))) + margin;
-    if (margin >= 0 && needed > room)
-        *reinterpret_cast<std::wstring*>(parameter) +=
-            WindowText(control) + L": " + std::to_wstring(needed) + L" in " + std::to_wstring(room) + L"; ";
-    const bool isNotice = (GetWindowLongPtrW(control, GWL_STYLE) & ES_READONLY) != 0 && margin < 0 &&
+/// A read-only box above all others; its lines are broken as in its own width.
+bool IsCutNotice(HWND control, const RECT& place) {
+    const bool isNotice = (GetWindowLongPtrW(control, GWL_STYLE) & ES_READONLY) != 0 &&
                           FindWindowExW(GetParent(control), nullptr, L"Edit", nullptr) == control;
-    if (isNotice && Spaced(NoticeHeight(control)) > place.bottom - place.top)
-        *reinterpret_cast<std::wstring*>(parameter) += L"notice too long; ";
-    return TRUE;
-}
-
-BOOL CALLBACK CheckEdges(HWND control, LPARAM parameter) {
-    RECT client{};
-    GetClientRect(GetParent(control), &client);
-    const RECT place = PlaceOf(control);
-    if (place.right > client.right || place.bottom > client.bottom || place.left < 0 || place.top < 0)
-        *reinterpret_cast<std::wstring*>(parameter) += WindowText(control) + L"; ";
-    return TRUE;
-}
-
-void WriteBitmap(const std::wstring& path, const BITMAPINFOHEADER& info, const std::vector<BYTE>& pixels) {
-    BITMAPFILEHEADER header{};
-    header.bfType = 0x4D42; // "BM"
-    header.bfOffBits = sizeof header + sizeof info;
-    header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
-    const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-    DWORD written = 0;
-    WriteFile(file.Get(), &header, sizeof header, &written, nullptr);
-    WriteFile(file.Get(), &info, sizeof info, &written, nullptr);
-    WriteFile(file.Get(), pixels.data(), static_cast<DWORD>(pixels.size()), &written, nullptr);
-}
-
-std::wstring ClassOf(HWND window) {
-    std::array<wchar_t, 32> name{};
-    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-    return name.data();
-}
-
-std::vector<HWND> VisibleControls(HWND form) {
-    std::vector<HWND> controls;
-    for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        if (IsWindowVisible(child)) controls.push_back(child);
-    return controls;
+    const auto lines = static_cast<int>(SendMessageW(control, EM_GETLINECOUNT, 0, 0));
+    return isNotice && Spaced(lines * TextExtent(control).cy) > place.bottom - place.top;
 }
 
 /// A control's name as the rules have it: a button's text without its access key, else the label before it.
@@ -153,22 +106,38 @@ RECT PlaceOf(HWND control) {
 
 std::wstring CutCaptions(HWND form) {
     std::wstring found;
-    EnumChildWindows(form, &CheckCaption, reinterpret_cast<LPARAM>(&found));
+    for (HWND control : ControlsOf(form)) {
+        const RECT place = PlaceOf(control);
+        const int room = place.right - place.left;
+        const int margin = CaptionMargin(control, room);
+        // Their places are given: the one's room ends where the other begins, and that one's at the window's edge.
+        const bool isGiven = GetPropW(control, L"lblMore") != nullptr || GetPropW(control, L"lblLink") != nullptr;
+        const int width = TextExtent(control).cx;
+        const int needed = (isGiven ? width : Spaced(width)) + margin;
+        if (margin >= 0 && needed > room)
+            found += WindowText(control) + L": " + std::to_wstring(needed) + L" in " + std::to_wstring(room) + L"; ";
+        if (margin < 0 && IsCutNotice(control, place)) found += L"notice too long; ";
+    }
     return found;
 }
 
 std::wstring ControlsOutside(HWND form) {
+    RECT client{};
+    GetClientRect(form, &client);
     std::wstring found;
-    for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        CheckEdges(child, reinterpret_cast<LPARAM>(&found));
+    for (HWND control : ControlsOf(form)) {
+        const RECT place = PlaceOf(control);
+        if (place.right > client.right || place.bottom > client.bottom || place.left < 0 || place.top < 0)
+            found += WindowText(control) + L"; ";
+    }
     return found;
 }
 
 std::wstring Nameless(HWND form) {
     std::wstring found;
-    for (HWND control : VisibleControls(form)) {
+    for (HWND control : ControlsOf(form)) {
         const std::wstring kind = ClassOf(control);
-        if (kind == L"Static" || kind == WC_TABCONTROLW) continue;
+        if (!IsWindowVisible(control) || kind == L"Static" || kind == WC_TABCONTROLW) continue;
         const auto* ours = reinterpret_cast<const Control*>(GetWindowLongPtrW(control, GWLP_USERDATA));
         const std::wstring name = ours->AccessibleName().empty() ? PlainName(control) : ours->AccessibleName();
         if (name.empty() || name == L"...") found += ours->Name() + std::wstring(L"; ");
@@ -178,8 +147,9 @@ std::wstring Nameless(HWND form) {
 
 std::wstring ClashingKeys(HWND form) {
     std::vector<std::wstring> captions = CaptionsOf(GetMenu(form));
-    for (HWND control : VisibleControls(form))
-        if (ClassOf(control) != L"Edit" && GetDlgCtrlID(control) != IDCANCEL) captions.push_back(WindowText(control));
+    for (HWND control : ControlsOf(form))
+        if (IsWindowVisible(control) && ClassOf(control) != L"Edit" && GetDlgCtrlID(control) != IDCANCEL)
+            captions.push_back(WindowText(control));
     return ClashingKeys(captions);
 }
 
@@ -199,25 +169,44 @@ void TakePicture(HWND window, const std::wstring& name) {
     PumpUntil([start] { return GetTickCount() - start > 250; }); // the window manager draws its frame
     RECT place{};
     GetWindowRect(window, &place);
-    BITMAPINFOHEADER info{};
-    info.biSize = sizeof info;
-    info.biWidth = place.right - place.left;
-    info.biHeight = place.bottom - place.top;
-    info.biPlanes = 1;
-    info.biBitCount = 24;
+    BITMAPINFOHEADER info{
+        sizeof info, place.right - place.left, place.bottom - place.top, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
+    BITMAPFILEHEADER header{};
+    header.bfType = 0x4D42; // "BM"
+    header.bfOffBits = sizeof header + sizeof info;
+    const LONG size = (info.biWidth * 3 + 3) / 4 * 4 * info.biHeight;
+    header.bfSize = header.bfOffBits + static_cast<DWORD>(size);
+    void* pixels = nullptr;
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, info.biWidth, info.biHeight);
+    HBITMAP bitmap =
+        CreateDIBSection(screen, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS, &pixels, nullptr, 0);
     const HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, info.biWidth, info.biHeight, screen, place.left, place.top, SRCCOPY);
     ShowCaret(nullptr);
-    SelectObject(memory, before);
-    const auto bytesPerLine = (static_cast<size_t>(info.biWidth) * 3 + 3) / 4 * 4;
-    std::vector<BYTE> pixels(bytesPerLine * static_cast<size_t>(info.biHeight));
-    GetDIBits(memory, bitmap, 0, static_cast<UINT>(info.biHeight), pixels.data(), reinterpret_cast<BITMAPINFO*>(&info),
-              DIB_RGB_COLORS);
-    DeleteObject(bitmap);
+    std::ofstream file(std::filesystem::path(folder.data()) / (name + L".bmp"), std::ios::binary);
+    file.write(reinterpret_cast<const char*>(&header), sizeof header);
+    file.write(reinterpret_cast<const char*>(&info), sizeof info);
+    file.write(static_cast<const char*>(pixels), size);
+    DeleteObject(SelectObject(memory, before));
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
-    WriteBitmap(std::wstring(folder.data()) + L"\\" + name + L".bmp", info, pixels);
+}
+
+COLORREF ColorAtEdge(HWND window, bool isLeft) {
+    RECT client{};
+    GetClientRect(window, &client);
+    UpdateWindow(window);
+    HDC canvas = GetDC(window);
+    const COLORREF color = GetPixel(canvas, isLeft ? 3 : client.right - 3, client.bottom / 2);
+    ReleaseDC(window, canvas);
+    return color;
+}
+
+void HoverOver(HWND control) {
+    constexpr int kInside = 20;
+    POINT pointer{kInside, kInside};
+    ClientToScreen(control, &pointer);
+    SetCursorPos(pointer.x, pointer.y);
+    SendMessageW(control, WM_MOUSEMOVE, 0, MAKELPARAM(kInside, kInside));
 }

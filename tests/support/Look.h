@@ -25,3 +25,9 @@ void TakePicture(HWND window, const std::wstring& name);
 
 /// A control's place in its form, in pixels.
 RECT PlaceOf(HWND control);
+
+/// A colour at the left or right edge of a window, half way down, as it stands on the screen.
+COLORREF ColorAtEdge(HWND window, bool isLeft);
+
+/// Moves the mouse onto a control.
+void HoverOver(HWND control);

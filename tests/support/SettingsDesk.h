@@ -3,6 +3,7 @@
 #include "stores/IniLib.h"
 #include "support/ScratchRegistry.h"
 #include "support/TempFile.h"
+#include "support/Wide.h"
 
 /// Two empty stores: the registry, and a settings file alone in its folder. Copies of it are kept in a folder apart.
 struct SettingsDesk : ScratchRegistry {

@@ -8,7 +8,6 @@
 #include "stores/UserStore.h"
 #include "support/SettingsDesk.h"
 #include "support/Text.h"
-#include "support/Wide.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -31,16 +30,6 @@ EditedDatabase::Outcome Save(const wchar_t* oldName, const wchar_t* newName) {
 bool Remove(size_t line) {
     auto list = EditedList::Load();
     return list->Remove(list->Shown(), line);
-}
-
-/// "name 00", "name 01" and so on, each of `length` characters, so that with the separator n of them take n*(length+1).
-Names LongList(size_t count, size_t length) {
-    Names names;
-    for (size_t index = 0; index < count; ++index) {
-        std::wstring number = std::to_wstring(100 + index);
-        names.push_back(number + std::wstring(length - number.size(), L'x'));
-    }
-    return names;
 }
 
 } // namespace
@@ -79,7 +68,8 @@ TEST_CASE_FIXTURE(SettingsDesk, "What a list too long to be read whole holds beh
     const std::pair<size_t, size_t> rows[] = {{99, 9}, {998, 1}, {997, 1}};
     for (const auto& [length, seen] : rows) {
         CAPTURE(length);
-        Names names = LongList(20, length);
+        Names names;
+        for (wchar_t letter = L'a'; names.size() < 20; ++letter) names.emplace_back(length, letter);
         List(names);
         auto list = EditedList::Load();
         Names shown = list->Shown();
@@ -100,8 +90,7 @@ TEST_CASE_FIXTURE(SettingsDesk, "What a list too long to be read whole holds beh
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "A list longer than the platform reads is shown in part and never written back in part") {
+TEST_CASE_FIXTURE(SettingsDesk, "A list longer than the platform reads is shown in part, never written in part") {
     for (const size_t length : {34'000U, 65'540U}) {
         std::string sort;
         while (sort.size() < length) sort += "Database " + std::to_string(sort.size()) + ';';
@@ -114,31 +103,7 @@ TEST_CASE_FIXTURE(SettingsDesk,
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "A database called like a section of the program, in whatever spelling, takes its keys alone") {
-    file.Bytes("[General]\r\nSort=GENERAL\r\nPath=x\r\nNetLinks=y\r\nUseLocationsFrom=z\r\nQuickSwitch=;;\r\n");
-    CHECK(Remove(0));
-    CHECK(file.Bytes() == "[General]\r\nSort=\r\nQuickSwitch=;;\r\n");
-
-    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"SETTINGS", L"IniLocation"}, {L"Settings\\", L"IniLocation"}, {L"\\Settings\\\\", L"IniLocation"},
-        {L"Options", L"Language"},     {L"Display", L"Selected"},       {L"Logon", L"Other"},
-        {L"LogonDialog", L"Title"}};
-    for (const auto& [name, ownKey] : rows) {
-        CAPTURE(std::wstring(name));
-        List({name});
-        UserStore::Set(name, ownKey, L"kept");
-        UserStore::Set(name, L"NoPasswordAtACTStartup", L"1");
-        UserStore::Set(name, L"Password", L"secret");
-        CHECK(Remove(0));
-        CHECK(UserStore::Get(name, ownKey) == L"kept");
-        CHECK(UserStore::Get(name, L"Password", L"gone") == L"gone");
-        CHECK(UserStore::Get(name, L"NoPasswordAtACTStartup", L"gone") == L"gone");
-    }
-}
-
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "Databases whose names share a section lose nothing by each other's removal or rename") {
+TEST_CASE_FIXTURE(SettingsDesk, "Databases whose names share a section lose nothing by each other") {
     for (const wchar_t* name : {L"SALES", L"Sales\\"})
         for (const bool isRenamed : {false, true}) {
             CAPTURE(std::wstring(name));
@@ -154,22 +119,6 @@ TEST_CASE_FIXTURE(SettingsDesk,
             CHECK(Whole(L"Sales", L"Path") == L"x");
             CHECK(UserStore::Get(L"Sales", L"Username") == L"Chris");
         }
-}
-
-TEST_CASE_FIXTURE(SettingsDesk, "A change is refused against another file, and against one that has come since") {
-    IniLib::SettingsFile(file.Path() + L"2");
-    auto list = EditedList::Load();
-    const auto palette = Palette::Edited::Load();
-    IniLib::SettingsFile(file.Path());
-    List({L"A"});
-    IniLib::WriteKeyValue(L"General", L"QuickSwitch", L"A;;;;;;;");
-    const std::string before = file.Bytes();
-    CHECK_FALSE(list->Save({}));
-    std::filesystem::copy_file(file.Path(), file.Path() + L"2");
-    IniLib::SettingsFile(file.Path() + L"2");
-    CHECK_FALSE(palette->Save(Names(8), 0, false));
-    CHECK(Whole(L"General", L"QuickSwitch") == L"A;;;;;;;");
-    CHECK(file.Bytes() == before);
 }
 
 TEST_CASE_FIXTURE(SettingsDesk, "The upgrade moves log-on values to the user, once") {

@@ -4,7 +4,6 @@
 #include "databases/EditedList.h"
 #include "support/SettingsDesk.h"
 #include "support/Text.h"
-#include "support/Wide.h"
 #include "win32/AnsiText.h"
 
 #include <numeric>

@@ -7,7 +7,6 @@
 #include "stores/SafeFile.h"
 #include "stores/UserStore.h"
 #include "support/SettingsDesk.h"
-#include "support/Wide.h"
 #include "win32/AnsiText.h"
 
 #include <algorithm>
@@ -39,8 +38,7 @@ std::string Utf16(const std::string& text, bool isBigEndian) {
 
 } // namespace
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "Marks, line ends, rubbish and size keep no value from being read and kept by a write") {
+TEST_CASE_FIXTURE(SettingsDesk, "Marks, line ends, rubbish and size keep no value from being read and kept") {
     const std::string plain = "[General]\r\nSort=A;B\r\n[A]\r\nPath=C:\\A.dbf\r\n";
     const std::string longLine(100'000, 'x');
     std::string lf = plain;
@@ -72,8 +70,7 @@ TEST_CASE_FIXTURE(SettingsDesk,
     }
 }
 
-TEST_CASE_FIXTURE(SettingsDesk,
-                  "What a file with zero bytes holds is kept before the first write, which cuts its lines") {
+TEST_CASE_FIXTURE(SettingsDesk, "What a file with zero bytes holds is kept before a write, which cuts its lines") {
     const std::string damaged("[General]\r\nSort=A;B\0;C;D\r\n", 26);
     file.Bytes(damaged);
     CHECK(IniLib::WriteKeyValue(L"New", L"Key", L"value"));
@@ -85,27 +82,33 @@ TEST_CASE_FIXTURE(SettingsDesk,
 }
 
 TEST_CASE_FIXTURE(SettingsDesk, "A database may have any name: it keeps its own values and touches nobody else's") {
-    std::vector<std::wstring> names{L"CON",     L"NUL.txt", L"C:",    L"A\\B", L"\\", L"Display\\A", L"[A]",
-                                    L"A]B",     L"\"A\"",   L"'",     L"=",    L";A", L"General",    L"Settings",
-                                    L"Options", L"Display", L"Logon", L"A\tB", L"%s"};
+    std::vector<std::wstring> names{
+        L"CON",        L"NUL.txt",        L"C:",         L"A\\B", L"\\", L"Display\\A", L"[A]",
+        L"A]B",        L"\"A\"",          L"'",          L"=",    L";A", L"General",    L"Settings",
+        L"Options",    L"Display",        L"Logon",      L"A\tB", L"%s", L"GENERAL",    L"SETTINGS",
+        L"Settings\\", L"\\Settings\\\\", L"LogonDialog"};
     for (int code = 0x21; code < 249; code += 8) {
         std::string bytes;
         for (int next = code; next < code + 8; ++next) bytes += static_cast<char>(next);
         names.push_back(ToWide(bytes));
     }
     for (const size_t length : {2U, 253U, 255U, 256U, 998U}) names.emplace_back(length, L'n');
+    const std::pair<const wchar_t*, const wchar_t*> others[] = {
+        {L"Settings", L"IniLocation"}, {L"Options", L"Language"},  {L"Display", L"Selected"},
+        {L"Logon", L"Other"},          {L"LogonDialog", L"Title"}, {L"Other", L"Username"}};
     for (const std::wstring& name : names) {
         CAPTURE(name);
-        file.Bytes("[General]\r\nSort=Other\r\n[Other]\r\nPath=C:\\Other.dbf\r\n");
-        UserStore::Set(L"Settings", L"Width", L"9000");
-        UserStore::Set(L"Other", L"Username", L"Pat");
+        file.Bytes("[General]\r\nSort=Other\r\nQuickSwitch=;;\r\n[Other]\r\nPath=C:\\Other.dbf\r\n");
+        for (const auto& [section, key] : others) UserStore::Set(section, key, L"kept");
         const std::string before = file.Bytes();
         CHECK(IniLib::WriteKeyValue(name, L"Path", L"C:\\Own.dbf"));
         CHECK(PathOf(name) == L"C:\\Own.dbf");
+        CHECK(IniLib::WriteKeyValue(name, L"NetLinks", L"C:\\Links"));
         // The registry knows no longer names of keys.
         const bool isStored = UserStore::Set(name, L"Username", L"Chris");
         if (name.size() <= 255) CHECK(isStored);
         CHECK(UserStore::Get(name, L"Username") == (isStored ? L"Chris" : L""));
+        UserStore::Set(name, L"Password", L"secret");
         if (name.find(L';') == std::wstring::npos) {
             CHECK(IniLib::WriteKeyValue(L"General", L"Sort", name + L";Other"));
             CHECK(List() == std::vector<std::wstring>{name, L"Other"});
@@ -116,8 +119,7 @@ TEST_CASE_FIXTURE(SettingsDesk, "A database may have any name: it keeps its own 
         CHECK(change.Commit());
         DatabaseList::DeleteUserRecord(name, {L"Other"});
         CHECK(file.Bytes() == before);
-        CHECK(UserStore::Get(name, L"Username").empty());
-        CHECK(UserStore::Get(L"Settings", L"Width") == L"9000");
-        CHECK(UserStore::Get(L"Other", L"Username") == L"Pat");
+        for (const wchar_t* key : {L"Username", L"Password"}) CHECK(UserStore::Get(name, key).empty());
+        for (const auto& [section, key] : others) CHECK(UserStore::Get(section, key) == L"kept");
     }
 }

@@ -2,7 +2,6 @@
 
 #include "support/ScratchRegistry.h"
 #include "support/Wide.h"
-#include "win32/AnsiText.h"
 
 namespace {
 
@@ -15,40 +14,6 @@ RegistryKey Open(const std::wstring& section) {
 }
 
 } // namespace
-
-TEST_CASE_FIXTURE(ScratchRegistry, "Every character of a text comes back, zeros and line ends at its ends included") {
-    std::string every;
-    for (int code = 1; code <= 256; ++code) every += static_cast<char>(code % 256);
-    for (const std::wstring& text : {std::wstring(), ToWide(every), std::wstring(2, L'\0'),
-                                     std::wstring(L"\r\n\0\r\0", 5), std::wstring(5000, L'\u00ff')}) {
-        CHECK(UserStore::Set(L"Sales", L"Password", text));
-        CHECK(UserStore::Get(L"sales", L"PASSWORD", L"default") == text);
-    }
-}
-
-TEST_CASE_FIXTURE(ScratchRegistry,
-                  "Values lie where the platform keeps a program's settings; others' are read sanely") {
-    UserStore::Set(L"S", L"Key", L"2");
-    wchar_t text[8] = L"";
-    DWORD size = sizeof text, type = REG_NONE;
-    const RegistryKey key = Open(L"\\S");
-    RegQueryValueExW(key.Get(), L"Key", nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
-    CHECK(type == REG_SZ);
-    CHECK(size == 2 * sizeof(wchar_t)); // ended by a zero
-    struct Row {
-        DWORD type, size;
-        const wchar_t* text;
-    };
-    for (const auto& [kind, bytes, read] :
-         {Row{REG_SZ, 14, L"unended"}, Row{REG_SZ, 13, L"unended"}, Row{REG_SZ, 0, L""}, Row{REG_DWORD, 4, L"none"},
-          Row{REG_BINARY, 3, L"none"}, Row{REG_EXPAND_SZ, 14, L"none"}, Row{REG_MULTI_SZ, 14, L"none"}}) {
-        CAPTURE(kind);
-        CAPTURE(bytes);
-        RegSetValueExW(key.Get(), L"Key", 0, kind, reinterpret_cast<const BYTE*>(L"unended"), bytes);
-        const std::wstring found = UserStore::Get(L"S", L"Key", L"none");
-        CHECK(found.substr(0, 6) == std::wstring(read).substr(0, 6));
-    }
-}
 
 TEST_CASE_FIXTURE(ScratchRegistry, "Deleting takes a value, a section but none below or beside it, or everything") {
     for (const wchar_t* section : {L"A", L"A\\B", L"AB", L"Settings"}) UserStore::Set(section, L"Username", section);
