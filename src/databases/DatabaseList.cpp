@@ -67,7 +67,7 @@ void Write(const IniLib::Reading& stored, IniLib::Change& change, const std::wst
 
 std::wstring FreeName(const IniLib::Reading& stored, const std::wstring& name, const Names& names) {
     const auto isTaken = [&](const std::wstring& free) {
-        const auto shares = [&](const std::wstring& other) { return SharesFileSection(other, free); };
+        const auto shares = [&](const std::wstring& other) { return SharesFileSection(free, other); };
         return shares(Keys::General) || std::ranges::any_of(names, shares) || !stored.Section(free).empty();
     };
     std::wstring free = name;

@@ -26,7 +26,7 @@ public:
 
     /// Takes a name in, or a free one like it; "" when there is no room for it.
     std::wstring Take(const std::wstring& wanted) {
-        const std::wstring name = DatabaseList::FreeName(stored_, Stored(wanted), names_);
+        std::wstring name = DatabaseList::FreeName(stored_, Stored(wanted), names_);
         names_.push_back(name);
         if (const std::wstring list = Text::Join(names_, L';'); IniLib::Shown(list) == list) return name;
         names_.pop_back();

@@ -32,7 +32,7 @@ public:
 private:
     struct Round;
     struct Job;
-    static DWORD WINAPI Work(void* job);
+    static DWORD WINAPI Work(void* parameter);
     static void LetGo(Round* round);
 
     UINT message_;

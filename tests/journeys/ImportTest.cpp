@@ -34,7 +34,8 @@ TEST_CASE_FIXTURE(Journey, "a list from a kept copy is imported with unique name
     REQUIRE(JourneyWindow::InFront(JourneyWindow::Control(import, L"cboFile")));
     JourneyWindow::Press(VK_DOWN);
     REQUIRE(Within([&] { return Ask(import, L"lvwDatabases", LVM_GETITEMCOUNT) == 2; }));
-    for (const WORD key : {VK_TAB, VK_TAB, VK_SPACE, VK_RETURN}) JourneyWindow::Press(key); // the first one, too
+    for (const WORD key : std::initializer_list<WORD>{VK_TAB, VK_TAB, VK_SPACE, VK_RETURN})
+        JourneyWindow::Press(key); // the first one, too
     REQUIRE(Within([&] { return !IsWindow(import) && Ask(list, L"lstDB", LB_GETCOUNT) == 3; }));
     CHECK(JourneyStores::FileBytes(SettingsFile()).find("Sort=Sales;Sales (2);Own\r\n") != std::string::npos);
     JourneyWindow::ClickMenu(list, L"mnuUndo");
