@@ -6,6 +6,8 @@
 #include "stores/IniLib.h"
 #include "support/Text.h"
 
+#include <algorithm>
+
 namespace {
 
 using namespace ListCheck;
@@ -19,18 +21,20 @@ void Add(std::vector<Part>& parts, const IniLib::Reading& stored, const std::wst
     const auto isAt = [&](Kind what, const std::wstring& path, size_t folder = 0) {
         if (Text::HasFolder(path)) parts.push_back({name, what, path, Answer::None, folder});
     };
-    if (stored.Section(name).empty()) return isMissing(Kind::Record, stored.From().Path);
-    const DatabaseRecord record = ExtractInfo(stored, name);
-    if (!Text::HasFolder(record.Path)) isMissing(Kind::File, record.Path);
-    isAt(Kind::File, record.Path);
-    isAt(Kind::ContactLayout, record.ContactLayout);
-    isAt(Kind::GroupLayout, record.GroupLayout);
-    isAt(Kind::Macro, record.OpeningMacro);
-    const std::wstring lender = stored.Value(name, Keys::UseLocationsFrom);
-    const Folders folders =
-        lender.empty() ? OwnFolders(stored, name) : Folders(); // a lender's are looked at as its own
-    for (size_t index = 0; index < folders.size(); ++index) isAt(Kind::Folder, folders[index], index);
-    if (!lender.empty() && !NameList::Has(all, lender)) isMissing(Kind::Lender, lender);
+    const IniLib::Reading::Values section = stored.Section(name); // read once: the file may be long
+    if (section.empty()) return isMissing(Kind::Record, stored.From().Path);
+    const std::wstring file = ValueIn(section, Keys::Path);
+    if (!Text::HasFolder(file)) isMissing(Kind::File, file);
+    isAt(Kind::File, file);
+    isAt(Kind::ContactLayout, ValueIn(section, Keys::ContactLayout));
+    isAt(Kind::GroupLayout, ValueIn(section, Keys::GroupLayout));
+    isAt(Kind::Macro, ValueIn(section, Keys::OpeningMacro));
+    const std::wstring lender = ValueIn(section, Keys::UseLocationsFrom);
+    // A lender's folders are looked at as its own.
+    for (size_t index = 0; lender.empty() && index < Keys::Locations.size(); ++index)
+        isAt(Kind::Folder, ValueIn(section, Keys::Locations[index]), index);
+    const auto isLender = [&](const std::wstring& other) { return Text::EqualNoCase(other, lender); };
+    if (!lender.empty() && std::ranges::none_of(all, isLender)) isMissing(Kind::Lender, lender);
     if (LogonValues::Load(name).Username.empty()) isMissing(Kind::Logon, {});
 }
 
