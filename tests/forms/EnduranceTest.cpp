@@ -94,19 +94,3 @@ TEST_CASE("Dialogs, palette and failed opens leave no handle, GDI or USER object
     CHECK(after.Gdi <= before.Gdi);
     CHECK(after.User <= before.User);
 }
-
-TEST_CASE("The measure sees two objects of each kind") {
-    const Resources before = Resources();
-    const KernelHandle event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-    RegistryKey key;
-    RegOpenKeyExW(HKEY_CURRENT_USER, L"Software", 0, KEY_READ, key.Receive());
-    const FontHandle font(CreateFontW(17, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, L"Arial"));
-    const BrushHandle brush(CreateSolidBrush(RGB(1, 2, 3)));
-    const MenuHandle menu(CreatePopupMenu());
-    Form window({L"frmLeak", 1000, 1000});
-    window.Load();
-    const Resources during = Resources();
-    CHECK(during.Handles >= before.Handles + 2);
-    CHECK(during.Gdi >= before.Gdi + 2);
-    CHECK(during.User >= before.User + 2);
-}

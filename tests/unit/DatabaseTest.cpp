@@ -1,6 +1,5 @@
 // The rules about databases: their list, the buttons, and what both stores keep under a name.
 
-#include "databases/DatabaseList.h"
 #include "databases/EditedDatabase.h"
 #include "databases/EditedList.h"
 #include "databases/Palette.h"
@@ -18,7 +17,6 @@ using NameList::Names;
 
 void List(const Names& names) { REQUIRE(IniLib::WriteKeyValue(L"General", L"Sort", Text::Join(names, L';'))); }
 std::wstring Sort() { return Whole(L"General", L"Sort"); }
-Names Shown() { return DatabaseList::Read(*IniLib::ReadFile()).shown; }
 
 EditedDatabase::Outcome Save(const wchar_t* oldName, const wchar_t* newName) {
     DatabaseValues values = EditedDatabase::Load(oldName, {})->Values();
@@ -53,14 +51,6 @@ TEST_CASE_FIXTURE(SettingsDesk, "Changes of a list that are made up at the same 
     CHECK(moved->HaveOthersChanged());
     CHECK(Whole(L"General", L"QuickSwitch") == L"X;B;;D;;;;");
     CHECK(Save(L"X", L"B") == EditedDatabase::Outcome::NameTaken);
-}
-
-TEST_CASE_FIXTURE(SettingsDesk, "The list of databases keeps empty names, and an empty list is an empty value") {
-    CHECK(Shown().empty());
-    List({L"A", L"", L"B"});
-    CHECK(Shown() == Names{L"A", L"", L"B"});
-    for (int left = 3; left > 0; --left) CHECK(Remove(0));
-    CHECK(file.Bytes() == "[General]\r\nSort=\r\n");
 }
 
 TEST_CASE_FIXTURE(SettingsDesk, "What a list too long to be read whole holds behind the cut is kept by who writes it") {
