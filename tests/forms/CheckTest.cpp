@@ -27,6 +27,16 @@ std::wstring Rows(const frmCheck& check) {
     return rows;
 }
 
+std::wstring Clipboard() {
+    OpenClipboard(nullptr);
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    const auto* const text = static_cast<const wchar_t*>(GlobalLock(memory));
+    std::wstring copy = text ? text : L"";
+    GlobalUnlock(memory);
+    CloseClipboard();
+    return copy;
+}
+
 int TabOf(HWND properties) {
     return static_cast<int>(SendMessageW(FindControl(properties, L"mstOptions"), TCM_GETCURSEL, 0, 0));
 }
@@ -60,6 +70,8 @@ TEST_CASE("The check tells of all that is missing, waits for no dead share, and 
                              L"Staff|Username||missing|\n"
                              L"Ghost|Properties|" +
                                  settings + L"|missing|\n");
+        TranslateKey(check.lvwMissing.Handle(), 'C', VK_CONTROL);
+        CHECK(Clipboard().starts_with(L"Sales\tContact Layout\tE:\\gone.cly\tmissing\r\nSales\t"));
         check.lvwMissing.Select(2);
         script.Then([](HWND properties) {
             CHECK(TabOf(properties) == 1);

@@ -3,6 +3,8 @@
 #include "databases/EditedList.h"
 #include "support/SettingsDesk.h"
 
+#include <numeric>
+
 namespace {
 
 /// A desk with a settings file of somebody else's beside its own.
@@ -60,4 +62,26 @@ TEST_CASE_FIXTURE(TwoFiles, "Undoing an import leaves what has been changed or i
     CHECK(Sort() == L"A;B;C");
     CHECK(Whole(L"C", L"Path") == L"c");
     CHECK(IniLib::ReadFile()->Section(L"D").empty());
+}
+
+TEST_CASE_FIXTURE(TwoFiles, "As many are offered as the list can show, and all of them come and go in a moment") {
+    const std::string before = "[General]\r\nSort=Own;aa\r\n[aa]\r\nPath=there\r\n";
+    file.Bytes(before);
+    std::string bytes = "[General]\r\nSort=", sections;
+    for (int number = 0; number < 400; ++number) {
+        const std::string name{static_cast<char>('a' + number / 26), static_cast<char>('a' + number % 26)};
+        bytes += name + ';';
+        sections += "\r\n[" + name + "]\r\nPath=C:\\" + name + ".dbf\r\nCLY=x\r\nQuery=z";
+    }
+    other.Bytes(bytes + sections);
+    const auto settings = OtherSettings::Load(other.Path());
+    CHECK(settings->Offered().size() == 330); // the own 6 characters, and 3 for each name
+    CHECK(settings->LeftOut() == 70);
+    std::vector<size_t> all(settings->Offered().size());
+    std::iota(all.begin(), all.end(), 0U);
+    const DWORD start = GetTickCount();
+    REQUIRE(Import(all));
+    REQUIRE(list->Undo(list->Shown()));
+    CHECK(GetTickCount() - start < 5000); // less than a second on an idle machine
+    CHECK(file.Bytes() == before);
 }

@@ -1,10 +1,15 @@
 #include "i18n/modLangues.h"
 
+#include "i18n/MoreText.h"
+#include "support/Error.h"
+#include "support/Text.h"
 #include "support/Vendor.h"
 #include "support/Wide.h"
 #include "win32/AnsiText.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace {
 
@@ -52,4 +57,24 @@ TEST_CASE("Texts that others build upon keep their shape in every language") {
         const auto* const email = isGerman ? Vendor::GermanSupportEmail : Vendor::SupportEmail;
         CHECK(TextAt(108, column).find(FromUtf8(email)) != std::wstring::npos);
     }
+}
+
+TEST_CASE("In French a no-break space stands before every mark that has one, but for texts that are fixed") {
+    constexpr std::array kFixed{7, 79, 82, 126}; // of the rows that the table marks so, those that have a mark
+    std::vector<std::wstring> texts;
+    for (const LangTextRow& row : LangTextTable)
+        if (std::ranges::find(kFixed, row.Index) == kFixed.end()) texts.push_back(FromUtf8(row.French));
+    modLangues::Init_Language(short{1});
+    for (int text = 0; text <= static_cast<int>(MoreText::Copy); ++text)
+        texts.push_back(Translated(static_cast<MoreText>(text)));
+    CHECK_THROWS_AS(Translated(static_cast<MoreText>(static_cast<int>(MoreText::Copy) + 1)),
+                    Error); // no text without a name
+    for (std::wstring& text : texts) {
+        CAPTURE(text);
+        text = Text::Replace(text, L"ACT!", L"ACT");
+        for (size_t mark = text.find_first_of(L":;!?"); mark != std::wstring::npos;
+             mark = text.find_first_of(L":;!?", mark + 1))
+            CHECK(text.substr(0, mark).ends_with(L'\u00A0'));
+    }
+    modLangues::Init_Language(short{0});
 }

@@ -2,10 +2,15 @@
 // write.
 
 #include "databases/DatabaseList.h"
+#include "databases/OtherSettings.h"
 #include "databases/Record.h"
+#include "stores/Backup.h"
+#include "stores/SafeFile.h"
 #include "stores/UserStore.h"
 #include "support/SettingsDesk.h"
 #include "win32/AnsiText.h"
+
+#include <filesystem>
 
 namespace {
 
@@ -54,6 +59,7 @@ TEST_CASE_FIXTURE(SettingsDesk, "Marks, line ends, rubbish and size keep no valu
         const Contents before = ReadAll();
         CHECK(List() == std::vector<std::wstring>{L"A", L"B"});
         CHECK(PathOf(L"A") == L"C:\\A.dbf");
+        CHECK(OtherSettings::Load(file.Path())->Offered().at(0).Path == L"C:\\A.dbf");
         CHECK(IniLib::WriteKeyValue(L"New", L"Key", L"value"));
         CHECK(HasNew());
         CHECK(List() == std::vector<std::wstring>{L"A", L"B"});
@@ -61,6 +67,17 @@ TEST_CASE_FIXTURE(SettingsDesk, "Marks, line ends, rubbish and size keep no valu
         if (after.size() > before.size()) after.resize(before.size());
         CHECK(after == before);
     }
+}
+
+TEST_CASE_FIXTURE(SettingsDesk, "What a file with zero bytes holds is kept before a write, which cuts its lines") {
+    const std::string damaged("[General]\r\nSort=A;B\0;C;D\r\n", 26);
+    file.Bytes(damaged);
+    CHECK(IniLib::WriteKeyValue(L"New", L"Key", L"value"));
+    bool isKept = false;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(backups.Folder()))
+        isKept = isKept || SafeFile::Read(entry.path().wstring()).Bytes == damaged;
+    CHECK(isKept);
+    CHECK_FALSE(Backup::LastGood(file.Path())); // not offered: it is no sound file
 }
 
 TEST_CASE_FIXTURE(SettingsDesk, "A database may have any name: it keeps its own values and touches nobody else's") {
