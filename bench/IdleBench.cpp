@@ -29,7 +29,7 @@ fs::path SystemProcess(const std::wstring& program) {
         const unsigned long number = std::wcstoul(entry.path().filename().c_str(), nullptr, 10);
         if (number <= youngest) continue;
         const fs::path commandLine = entry.path() / L"cmdline";
-        if (JourneyStores::FileBytes(commandLine).find(wanted) != std::string::npos) youngest = number;
+        if (FileBytes(commandLine).find(wanted) != std::string::npos) youngest = number;
     }
     REQUIRE(youngest > 0);
     return fs::path(L"Z:\\proc") / std::to_wstring(youngest);
@@ -37,7 +37,7 @@ fs::path SystemProcess(const std::wstring& program) {
 
 /// The number behind "field:" in a file of /proc, in its own unit.
 double FieldOf(const fs::path& file, const std::string& field) {
-    const std::string text = JourneyStores::FileBytes(file);
+    const std::string text = FileBytes(file);
     const size_t place = text.find('\n' + field + ':');
     REQUIRE(place != std::string::npos);
     return std::strtod(text.c_str() + place + field.size() + 2, nullptr);
@@ -47,7 +47,7 @@ std::map<fs::path, Activity> ActivityOf(const fs::path& process) {
     constexpr double kNanoseconds = 1e6; // in a millisecond
     std::map<fs::path, Activity> threads;
     for (const auto& thread : fs::directory_iterator(process / L"task")) {
-        const std::string cpu = JourneyStores::FileBytes(thread.path() / L"schedstat");
+        const std::string cpu = FileBytes(thread.path() / L"schedstat");
         threads[thread.path()] = {std::strtod(cpu.c_str(), nullptr) / kNanoseconds,
                                   FieldOf(thread.path() / L"status", "voluntary_ctxt_switches")};
     }
@@ -147,7 +147,7 @@ TEST_CASE_FIXTURE(Workplace, "memory, and a minute of idleness") {
     REQUIRE(CountGdi(GetCurrentProcess()) == before + 1);
 
     WriteList(10);
-    JourneyDialogs::StartActElsewhere(*this);
+    StartActElsewhere();
     const ProcessGroup group;
     std::list<Idler> idlers;
     idlers.emplace_back(group, "Kelmorra", ProgramFile(L"Kelmorra.exe"), MainClass);

@@ -17,10 +17,10 @@ struct Action {
 /// Waits until the main window takes commands again. A program that waits for ACT! answers messages, but ignores
 /// commands: so another view is chosen by a click on its label, as often as it takes.
 void WaitUntilObeyed(HWND main) {
-    const int view = JourneyWindow::Checked(JourneyWindow::Control(main, L"optView", 1)) ? 2 : 1;
-    HWND label = JourneyWindow::Control(main, L"lblView", view);
-    HWND option = JourneyWindow::Control(main, L"optView", view);
-    for (const Stopwatch watch; !JourneyWindow::Checked(option); Sleep(1)) {
+    const int view = SendMessageW(FindControl(main, L"optView", 1), BM_GETCHECK, 0, 0) == BST_CHECKED ? 2 : 1;
+    HWND label = FindControl(main, L"lblView", view);
+    HWND option = FindControl(main, L"optView", view);
+    for (const Stopwatch watch; SendMessageW(option, BM_GETCHECK, 0, 0) != BST_CHECKED; Sleep(1)) {
         REQUIRE(watch.Milliseconds() < JourneyPatience);
         PostMessageW(label, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     }
@@ -29,7 +29,7 @@ void WaitUntilObeyed(HWND main) {
 /// Clicks a control and waits for a call of ACT!, the last that the click leads to, and for the main window.
 double TimeOfClick(const Workplace& workplace, HWND dialog, const wchar_t* button, const char* lastCall, HWND main) {
     JournalTail tail(workplace.File(L"act.log"));
-    HWND control = JourneyWindow::Control(dialog, button);
+    HWND control = FindControl(dialog, button);
     const Stopwatch watch;
     PostMessageW(control, BM_CLICK, 0, 0);
     tail.WaitFor(lastCall);
@@ -40,7 +40,7 @@ double TimeOfClick(const Workplace& workplace, HWND dialog, const wchar_t* butto
 
 double TimeOfMenu(const Process& program, HWND main, const wchar_t* item, const wchar_t* dialogClass) {
     const Stopwatch watch;
-    JourneyWindow::ClickMenu(main, item);
+    ClickMenu(main, item);
     WaitUntilReady(program, dialogClass);
     return watch.Milliseconds();
 }
@@ -81,7 +81,7 @@ void TellGrowth(const Action& action) {
 TEST_CASE_FIXTURE(Workplace, "lists of 10, 100 and 300 databases") {
     std::array<Action, 4> actions{Action{"start, list of 10, 100, 300"}, Action{"language reload"},
                                   Action{"list maintenance opens"}, Action{"list maintenance closes"}};
-    JourneyDialogs::StartActElsewhere(*this);
+    StartActElsewhere();
     for (int run = 0; run < Runs(); ++run)
         for (size_t size = 0; size < kSizes.size(); ++size) MeasureTimes(*this, actions, size);
     for (const Action& action : actions) TellGrowth(action);

@@ -22,8 +22,8 @@ double TimeToOpen(const std::wstring& journal, HWND window, UINT message, LPARAM
 double OpenByProgram(const Workplace& workplace) {
     const ProcessGroup group;
     const Process program(group, workplace.ProgramFile(L"Kelmorra.exe"));
-    HWND list = JourneyDialogs::ListOf(WaitUntilReady(program, Workplace::MainClass));
-    const POINT row = JourneyDialogs::MiddleOfRow(list, 1);
+    HWND list = FindControl(WaitUntilReady(program, Workplace::MainClass), L"ListView1");
+    const POINT row = MiddleOfRow(list, 1);
     const double time = TimeToOpen(workplace.File(L"act.log"), list, WM_LBUTTONDBLCLK, MAKELPARAM(row.x, row.y));
     REQUIRE(program.ExitCode() == 0u);
     return time;
@@ -46,7 +46,7 @@ double TimeToLogOn(const Workplace& workplace, int actMilliseconds) {
     HWND window = WaitUntilReady(program, Workplace::MainClass);
     Sleep(kRest);
     JournalTail tail(workplace.File(L"act.log"));
-    JourneyWindow::Click(window, L"cmdOpen");
+    Click(FindControl(window, L"cmdOpen"));
     tail.WaitFor("LogOnDialog");
     const Stopwatch watch;
     tail.WaitFor("LogOn");
@@ -60,7 +60,7 @@ double TimeToLogOn(const Workplace& workplace, int actMilliseconds) {
 TEST_CASE_FIXTURE(Workplace, "double-click to openDB") {
     Samples program, client, more;
     WriteList(10);
-    JourneyDialogs::StartActElsewhere(*this);
+    StartActElsewhere();
     for (int run = -1; run < Runs(); ++run) {
         const double ours = OpenByProgram(*this);
         const double theirs = OpenByClient(*this);
@@ -79,10 +79,10 @@ TEST_CASE_FIXTURE(Workplace, "log-on dialog to its answer") {
     WriteList(10);
     Act(L"Users", Name(1) + L".dbf", L"Pat Doe");
     Act(L"Passwords", Name(1) + L".dbf", L"Exeter");
-    JourneyStores::User(Name(1), L"Username", L"Pat Doe");
-    JourneyStores::User(Name(1), L"UsePassword", L"1");
-    JourneyStores::User(Name(1), L"Password", L"\u0160\u00c4\u00b2\u00c3\u00b7\u00c4");
-    JourneyDialogs::StartActElsewhere(*this);
+    User(Name(1), L"Username", L"Pat Doe");
+    User(Name(1), L"UsePassword", L"1");
+    User(Name(1), L"Password", L"\u0160\u00c4\u00b2\u00c3\u00b7\u00c4");
+    StartActElsewhere();
     for (int run = -1; run < Runs(); ++run) {
         const double now = TimeToLogOn(*this, 0);
         const double then = TimeToLogOn(*this, 1000);

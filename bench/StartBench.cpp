@@ -33,7 +33,7 @@ TEST_CASE_FIXTURE(Workplace, "start to main window") {
                         {"regedit", L"C:\\windows\\regedit.exe", L"RegEdit_RegEdit", {}},
                         {"winefile", L"C:\\windows\\system32\\winefile.exe", L"WFS_Frame", {}}};
     Samples program, minimal, calls, longer, longerMinimal;
-    JourneyDialogs::StartActElsewhere(*this);
+    StartActElsewhere();
     InTurn([&](bool isMeasured) {
         WriteList(10);
         Keep(program, StartProgram(), isMeasured);

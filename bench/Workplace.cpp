@@ -15,8 +15,8 @@ std::string Narrow(const std::wstring& text) { return {text.begin(), text.end()}
 
 Workplace::Workplace() {
     fs::copy_file(fs::path(KELMORRA_FOLDER) / L"logon.exe", ProgramFile(L"logon.exe"));
-    JourneyStores::Write(JourneyStores::ActRoot, L"Layout File Type", L"C:\\Layouts");
-    JourneyStores::User(L"Display", L"Selected", L"1");
+    ActValue(L"", L"Layout File Type", L"C:\\Layouts");
+    User(L"Display", L"Selected", L"1");
 }
 
 std::wstring Workplace::Minimal() { return fs::path(MINIMAL).make_preferred(); }
@@ -33,13 +33,13 @@ void Workplace::WriteList(int databases, const std::string& general, bool justWr
     for (int number = 0; number < databases; ++number) {
         const std::wstring path = File(Name(number) + L".dbf");
         const std::string name = Narrow(Name(number));
-        if (!JourneyStores::FileExists(path)) JourneyStores::FileBytes(path, "dBASE");
+        if (!fs::exists(path)) FileBytes(path, "dBASE");
         sort += (number ? ";" : "") + name;
         sections += "[" + name + "]\r\nPath=" + Narrow(path) + "\r\nCLY=C:\\Layouts\\" + name +
                     ".cly\r\nGLY=C:\\Layouts\\" + name + ".gly\r\nStartupMacro=C:\\Macros\\" + name + ".mpr\r\n";
         for (const char* location : Locations) sections += std::string(location) + "=D:\\Data\\" + name + "\r\n";
     }
-    JourneyStores::FileBytes(SettingsFile(), "[General]\r\nSort=" + sort + "\r\n" + general + sections);
+    FileBytes(SettingsFile(), "[General]\r\nSort=" + sort + "\r\n" + general + sections);
     if (!justWritten)
         fs::last_write_time(fs::path(SettingsFile()), fs::file_time_type::clock::now() - std::chrono::hours(1));
 }

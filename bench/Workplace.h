@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Measure.h"
-#include "support/JourneyDialogs.h"
+#include "support/Journey.h"
 
 /// A journey with long lists, the log-on helper beside the program, and programs to compare with.
 class Workplace : public Journey {

@@ -1,6 +1,6 @@
 // The restart of ACT! that shows Kelmorra's command in its toolbars.
 
-#include "support/JourneyDialogs.h"
+#include "support/Journey.h"
 
 namespace {
 
@@ -8,18 +8,18 @@ namespace {
 void AddCommandAndRestart(Journey& journey, const wchar_t* fault = nullptr) {
     journey.StartAct(journey.ListRealDatabase(L"Customers"));
     journey.StartToMainWindow();
-    HWND dialog = JourneyDialogs::OpenByMenu(journey, L"mnuIntegrate", L"frmIntegrateNew");
-    SendMessageW(JourneyWindow::Control(dialog, L"chkScreen", 0), BM_CLICK, 0, 0);
+    HWND dialog = journey.OpenByMenu(L"mnuIntegrate", L"frmIntegrateNew");
+    SendMessageW(FindControl(dialog, L"chkScreen", 0), BM_CLICK, 0, 0);
     if (fault) journey.Act(L"Faults", L"Command", fault);
-    JourneyWindow::Click(dialog, L"cmdOK");
-    JourneyWindow::Answer(journey.Box(journey.Program()), IDYES);
+    Click(FindControl(dialog, L"cmdOK"));
+    Answer(journey.Box(), IDYES);
 }
 
 } // namespace
 
 TEST_CASE_FIXTURE(Journey, "Yes closes ACT!, opens its database again, and the program ends on the second tick") {
     AddCommandAndRestart(*this);
-    HWND window = JourneyWindow::Find(Program().Id(), L"frmMain");
+    HWND window = FindWindowOf(Program().Id(), L"frmMain");
     REQUIRE(Within([&] { return !IsWindowVisible(window) && Count(L"APPOBJECT", L"Command") == 1; }));
     const DWORD hidden = GetTickCount();
     CHECK(ActHasEnded());
@@ -35,7 +35,7 @@ TEST_CASE_FIXTURE(Journey, "Yes closes ACT!, opens its database again, and the p
     PostMessageW(FindWindowW(L"ActStandIn", nullptr), WM_COMMAND, 3000, 0);
     REQUIRE(Within([&] { return IsWindowVisible(FindWindowW(L"frmMain", nullptr)) != FALSE; }));
     HWND launched = FindWindowW(L"frmMain", nullptr);
-    JourneyWindow::Click(launched, L"cmdCancel");
+    Click(FindControl(launched, L"cmdCancel"));
     CHECK(Within([&] { return !IsWindow(launched); }));
 }
 

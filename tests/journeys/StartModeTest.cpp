@@ -1,10 +1,6 @@
 // The palette without a running ACT!: the choice goes into ACT!'s own settings, and ACT! is started on it.
 
-#include "support/JourneyDialogs.h"
-
-#include <filesystem>
-
-using JourneyStores::User;
+#include "support/Journey.h"
 
 TEST_CASE_FIXTURE(Journey, "ACT! is started on the chosen database, with its log-on") {
     ListRealDatabase(L"Customers");
@@ -15,10 +11,10 @@ TEST_CASE_FIXTURE(Journey, "ACT! is started on the chosen database, with its log
     User(L"Customers", L"NoPasswordAtACTStartup", L"1");
     User(L"Logon", L"Leftover", L"x");
     // Made by ACT! itself when it runs for the first time.
-    JourneyStores::Write(JourneyStores::ActRoot + std::wstring(L"\\Database"), L"Contact Layout", L"C:\\Own.cly");
+    ActValue(L"\\Database", L"Contact Layout", L"C:\\Own.cly");
     std::filesystem::copy_file(MARK_PROGRAM, ProgramFile(L"logon.exe"));
-    HWND button = JourneyWindow::Control(Window(Start(), L"frmQuickSwitch"), L"pic1");
-    JourneyWindow::ClickMouse(button, JourneyWindow::Middle(button));
+    HWND button = FindControl(Window(Start(), L"frmQuickSwitch"), L"pic1");
+    ClickMouse(button, {20, 20});
     CHECK(Program().ExitCode() == 0u);
     REQUIRE(AdoptAct());
     CHECK(User(L"Logon", L"Username") == L"Pat Doe");
@@ -26,9 +22,9 @@ TEST_CASE_FIXTURE(Journey, "ACT! is started on the chosen database, with its log
     CHECK(User(L"Logon", L"UsePassword") == L"0");
     CHECK(User(L"Logon", L"Leftover") == L"(none)");
     CHECK(User(L"Settings", L"OriginalCL") == L"(none)"); // nothing else of the start-up has run
-    CHECK(Within([&] { return JourneyStores::FileExists(ProgramFile(L"logon.exe.mark")); }));
+    CHECK(Within([&] { return std::filesystem::exists(ProgramFile(L"logon.exe.mark")); }));
     CHECK(Within([&] { return Count(L"STANDIN", L"OpenDatabase") == 1; }));
     CHECK(Calls().empty());
     CHECK(Count(L"EVENT", L"Close") == 1);
-    CHECK_FALSE(JourneyStores::FileExists(ProgramFile(L"test.dbf")));
+    CHECK_FALSE(std::filesystem::exists(ProgramFile(L"test.dbf")));
 }

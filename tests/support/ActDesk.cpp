@@ -3,7 +3,6 @@
 #include "i18n/modLangues.h"
 #include "stores/RegistrySubs.h"
 #include "support/MsgBox.h"
-#include "win32/Owner.h"
 
 ActDesk::ActDesk() {
     Program() = ProgramState();
@@ -59,8 +58,6 @@ std::wstring ActValue(const std::wstring& subkey, const wchar_t* name) {
 }
 
 void MakeActKeys() {
-    for (const wchar_t* name : {L"Software\\Symantec\\ACT!\\Database", L"Software\\Symantec\\ACT!\\General"}) {
-        RegistryKey key;
-        RegCreateKeyExW(HKEY_CURRENT_USER, name, 0, nullptr, 0, KEY_WRITE, nullptr, key.Receive(), nullptr);
-    }
+    for (const wchar_t* name : {L"Software\\Symantec\\ACT!\\Database", L"Software\\Symantec\\ACT!\\General"})
+        RegistrySubs::CreateRegistryKey(HKEY_CURRENT_USER, name);
 }

@@ -11,43 +11,20 @@ namespace {
 DialogScript* current = nullptr;
 
 bool IsDialog(HWND window) {
-    std::array<wchar_t, 64> name{};
-    GetClassNameW(window, name.data(), 64);
-    const std::wstring_view className = name.data();
+    const std::wstring className = ClassOf(window);
     return className == L"#32770" || (className.starts_with(L"frm") && className != L"frmMain");
 }
 
 } // namespace
 
-HWND FindControl(HWND form, const wchar_t* name, int index) {
-    HWND child = GetWindow(form, GW_CHILD);
-    while (child && reinterpret_cast<INT_PTR>(GetPropW(child, name)) != index + 1)
-        child = GetWindow(child, GW_HWNDNEXT);
-    return child;
-}
-
-std::wstring WindowText(HWND window) {
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-std::wstring MessageText(HWND window) {
-    constexpr int kMessageText = 0xFFFF; // the static control of a message box
-    HWND text = GetDlgItem(window, kMessageText);
-    return text ? WindowText(text) : std::wstring();
-}
-
 void Leave(HWND window) {
     if (HWND cancel = FindControl(window, L"cmdCancel"); cancel && IsWindowVisible(cancel))
         Click(cancel);
     else if (GetDlgItem(window, IDNO))
-        PostMessageW(window, WM_COMMAND, IDNO, 0);
+        Answer(window, IDNO);
     else
         PostMessageW(window, WM_CLOSE, 0, 0);
 }
-
-void Click(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
 
 void Press(HWND form, const wchar_t* name, int index) {
     HWND button = FindControl(form, name, index);
@@ -101,7 +78,6 @@ DialogScript::DialogScript() : timer_(SetTimer(nullptr, 0, 20, &DialogScript::On
 DialogScript::~DialogScript() {
     KillTimer(nullptr, timer_);
     current = nullptr;
-    for (const Seen& window : unexpected_) FAIL_CHECK("nobody expected: ", window.Title, " / ", window.Text);
     CHECK_MESSAGE(steps_.empty(), "expected windows that never came up: ", steps_.size());
 }
 
@@ -111,7 +87,7 @@ DialogScript& DialogScript::Then(std::function<void(HWND)> step) {
 }
 
 DialogScript& DialogScript::Answer(int button) {
-    return Then([button](HWND window) { PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0); });
+    return Then([button](HWND window) { ::Answer(window, button); });
 }
 
 DialogScript& DialogScript::Otherwise(std::function<void(HWND)> step) {
@@ -143,7 +119,7 @@ void DialogScript::Meet(HWND window) {
         return;
     }
     if (steps_.empty()) {
-        unexpected_.push_back(seen_.back());
+        FAIL_CHECK("nobody expected: ", seen_.back().Title, " / ", seen_.back().Text);
         PostMessageW(window, WM_CLOSE, 0, 0);
         return;
     }

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "win32/Windows.h"
+#include "support/Controls.h"
 
 #include <deque>
 #include <functional>
-#include <string>
 #include <vector>
 
 /// Plays the user of dialogs and message boxes that the code under test shows: each window that comes up in this thread
-/// meets the next step, run inside its modal loop. A window nobody expected is recorded and closed, so nothing hangs;
-/// the script's end then fails the test, as it does when a step was never reached.
+/// meets the next step, run inside its modal loop. A window nobody expected fails the test and is closed, so nothing
+/// hangs; a step that was never reached fails it at the script's end.
 class DialogScript {
 public:
     /// What a dialog showed: title and, of a message box, text.
@@ -42,25 +41,14 @@ private:
     std::function<void(HWND)> otherwise_;
     std::vector<HWND> met_;
     std::vector<Seen> seen_;
-    std::vector<Seen> unexpected_;
 };
-
-/// The control of that name (and index) on a form, found as a screen-automation tool finds it; null when there is none.
-HWND FindControl(HWND form, const wchar_t* name, int index = 0);
 
 /// Leaves a dialog as by Cancel, a message box by OK or No.
 void Leave(HWND window);
 
-/// A window's text, and that inside a message box; "" for another window.
-std::wstring WindowText(HWND window);
-std::wstring MessageText(HWND window);
-
 /// The control that has the focus in a form. When the window manager has just given the focus to somebody else, the
 /// form is brought back first.
 HWND FocusIn(HWND form);
-
-/// Clicks a button as a user does: the message is posted.
-void Click(HWND button);
 
 /// Presses a button or a label that is clicked; what it does has been done when this returns.
 void Press(HWND form, const wchar_t* name, int index = 0);

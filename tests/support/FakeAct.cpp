@@ -13,6 +13,7 @@
 #include "support/Wide.h"
 #include "win32/Owner.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -114,11 +115,7 @@ FakeAct::~FakeAct() {
     act = nullptr;
 }
 
-bool FakeAct::IsListenedTo() const {
-    for (const EventComponent* component : Components)
-        if (component->HasSinks()) return true;
-    return false;
-}
+bool FakeAct::IsListenedTo() const { return std::ranges::any_of(Components, &EventComponent::HasSinks); }
 
 void FakeAct::UserWantsToClose() {
     REQUIRE(IsListenedTo());

@@ -3,88 +3,56 @@
 #include "support/Text.h"
 #include "win32/AnsiText.h"
 
+#include <commctrl.h>
+#include <shlwapi.h>
+
 #include <array>
-#include <filesystem>
+
+namespace fs = std::filesystem;
 
 namespace {
 
 constexpr wchar_t kStandInClass[] = L"ActStandIn";
+const std::wstring kStandIn = (fs::path(STANDIN_FOLDER) / L"ActStandIn.exe").make_preferred();
 
-std::wstring FolderOfRun() {
-    return std::filesystem::temp_directory_path() / (L"Kelmorra journeys " + std::to_wstring(GetCurrentProcessId()));
-}
-
-/// ACT! as it is installed for all journeys of a run.
-class Installation {
-public:
-    Installation() {
-        // Wine's desktop belongs to the first program that asks for it, and must outlive every journey.
-        GetDesktopWindow();
-        std::filesystem::remove_all(FolderOfRun()); // a killed run of the same process id may have left it
-        std::filesystem::create_directories(Folder());
-        for (const wchar_t* file : {L"ActStandIn.exe", L"ActEvent.dll"})
-            std::filesystem::copy_file(std::filesystem::path(STANDIN_FOLDER) / file, Folder() + L'\\' + file);
-        Run(L"/register");
-    }
-    ~Installation() {
-        try {
-            Run(L"/unregister");
-            std::filesystem::remove_all(FolderOfRun());
-        } catch (const std::exception&) {
-            // What stays behind is a folder of temporary files.
-        }
-    }
-    Installation(const Installation&) = delete;
-    Installation& operator=(const Installation&) = delete;
-
-    static std::wstring Folder() { return FolderOfRun() + L"\\ACT"; }
-    static void Run(const wchar_t* option) {
-        const ProcessGroup group;
-        Process(group, Folder() + L"\\ActStandIn.exe", option).ExitCode();
-    }
-};
-
-std::wstring NewFolder() {
-    static int count = 0;
-    const std::wstring folder = FolderOfRun() + L'\\' + std::to_wstring(++count);
-    std::filesystem::create_directories(folder + L"\\Kelmorra");
-    std::filesystem::copy_file(std::filesystem::path(KELMORRA_FOLDER) / L"Kelmorra.exe",
-                               folder + L"\\Kelmorra\\Kelmorra.exe");
-    return folder;
+/// Makes ACT! known to Windows, for all journeys of a run.
+bool RegisterAct() {
+    // Wine's desktop belongs to the first program that asks for it, and must outlive every journey.
+    GetDesktopWindow();
+    const ProcessGroup group;
+    return Process(group, kStandIn, L"/register").ExitCode() == 0u;
 }
 
 } // namespace
 
 Journey::Journey() {
-    static const Installation installation;
-    folder_ = NewFolder();
-    JourneyStores::DeleteTree(JourneyStores::UserRoot);
-    JourneyStores::DeleteTree(L"Software\\Symantec");
-    std::filesystem::remove_all(JourneyStores::BackupFolder());
-    SetEnvironmentVariableW(L"ACT_STANDIN_LOG", File(L"act.log").c_str());
+    static const bool isRegistered = RegisterAct();
+    REQUIRE(isRegistered);
+    fs::create_directory(ProgramFile({}));
+    fs::copy_file(fs::path(KELMORRA_FOLDER) / L"Kelmorra.exe", ProgramFile(L"Kelmorra.exe"));
+    UserStore::DeleteAll();
+    SHDeleteKeyW(HKEY_CURRENT_USER, L"Software\\Symantec");
+    fs::remove_all(BackupFolder());
+    SetEnvironmentVariableW(L"ACT_STANDIN_LOG", log_.Path().c_str());
     SetEnvironmentVariableW(L"ACT_STANDIN_STATE", File(L"act.ini").c_str());
-    JourneyStores::User(L"Settings", L"Installed", L"1");
-    JourneyStores::User(L"Settings", L"Version", L"32");
+    User(L"Settings", L"Installed", L"1");
+    User(L"Settings", L"Version", L"32");
 }
 
 Journey::~Journey() {
-    CheckNoneInvisible();
-    CloseWhatIsLeft();
+    for (const Process& program : programs_)
+        CHECK_MESSAGE(Within([&] { return !program.Running() || !Visible(program.Id()).empty(); }),
+                      "a process without a visible window is left");
+    EndPrograms();
     EndAct();
     CHECK_MESSAGE(Within([this] { return group_.Alive() == 0; }), "a program of the journey goes on");
     CHECK_MESSAGE(!FindWindowW(kStandInClass, nullptr), "the program has started an ACT! of its own");
 }
 
-void Journey::CheckNoneInvisible() const {
-    for (const Process& program : programs_)
-        CHECK_MESSAGE(Within([&] { return !program.Running() || !JourneyWindow::Visible(program.Id()).empty(); }),
-                      "a process without a visible window is left");
-}
-
-void Journey::CloseWhatIsLeft() const {
+void Journey::EndPrograms() const {
     for (const Process& program : programs_) {
         const bool isClosed = Within([&] {
-            const std::vector<HWND> windows = JourneyWindow::Visible(program.Id());
+            const std::vector<HWND> windows = Visible(program.Id());
             if (!windows.empty()) PostMessageW(windows.front(), WM_CLOSE, 0, 0);
             return program.ExitCode(100).has_value();
         });
@@ -97,7 +65,7 @@ void Journey::CloseWhatIsLeft() const {
 
 void Journey::EndAct() const {
     if (!act_) return;
-    if (HWND window = JourneyWindow::Find(act_->Id(), kStandInClass)) PostMessageW(window, WM_CLOSE, 0, 0);
+    if (HWND window = FindWindowOf(act_->Id(), kStandInClass)) PostMessageW(window, WM_CLOSE, 0, 0);
     const bool isClosed = act_->ExitCode().has_value();
     CHECK_MESSAGE(isClosed, "the ACT! stand-in cannot be closed");
     if (!isClosed) act_->Terminate();
@@ -109,7 +77,7 @@ void Journey::Ini(const std::wstring& section, const std::wstring& key, const st
 
 std::wstring Journey::ListRealDatabase(const std::wstring& name) {
     const std::wstring path = File(name + L".dbf");
-    JourneyStores::FileBytes(path, "dBASE");
+    FileBytes(path, "dBASE");
     std::array<wchar_t, 2048> before{};
     GetPrivateProfileStringW(L"General", L"Sort", L"", before.data(), before.size(), SettingsFile().c_str());
     Ini(L"General", L"Sort", before[0] ? before.data() + (L';' + name) : name);
@@ -119,13 +87,19 @@ std::wstring Journey::ListRealDatabase(const std::wstring& name) {
 
 void Journey::StartAct(const std::wstring& database) {
     Act(L"Presets", L"OpenDatabase", database);
-    act_.emplace(group_, Installation::Folder() + L"\\ActStandIn.exe");
+    act_.emplace(group_, kStandIn);
     // Its window answers once its message loop turns, and that is after it has begun to serve.
     REQUIRE(Within([this] {
-        HWND window = JourneyWindow::Find(act_->Id(), kStandInClass);
+        HWND window = FindWindowOf(act_->Id(), kStandInClass);
         return window && Count(L"STANDIN", L"Start") > 0 &&
                SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, JourneyPatience, nullptr);
     }));
+}
+
+void Journey::StartActElsewhere() {
+    const std::wstring path = File(L"Elsewhere.dbf");
+    FileBytes(path, "dBASE");
+    StartAct(path);
 }
 
 bool Journey::AdoptAct() {
@@ -140,11 +114,16 @@ void Journey::Act(const std::wstring& section, const std::wstring& key, const st
     WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), File(L"act.ini").c_str());
 }
 
-void Journey::ActUserCloses() const { PostMessageW(JourneyWindow::Find(act_->Id(), kStandInClass), WM_CLOSE, 0, 0); }
+void Journey::ActUserCloses() const { PostMessageW(FindWindowOf(act_->Id(), kStandInClass), WM_CLOSE, 0, 0); }
+
+void Journey::ActValue(const std::wstring& subkey, const wchar_t* name, const std::wstring& text) {
+    const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    SHSetValueW(HKEY_CURRENT_USER, (L"Software\\Symantec\\ACT!" + subkey).c_str(), name, REG_SZ, text.c_str(), size);
+}
 
 std::vector<Journey::Call> Journey::Log() const {
     std::vector<Call> calls;
-    const std::wstring log = Text::Replace(FromUtf8(JourneyStores::FileBytes(File(L"act.log"))), L"\r\n", L"\n");
+    const std::wstring log = Text::Replace(FromUtf8(log_.Bytes()), L"\r\n", L"\n");
     for (const std::wstring& line : Text::Split(log, L'\n')) {
         const std::vector<std::wstring> fields = Text::Split(line, L'\t');
         if (fields.size() == 6) calls.push_back({fields[1], fields[2], fields[3], fields[4], fields[5]});
@@ -175,26 +154,73 @@ const Process& Journey::Start() { return programs_.emplace_back(group_, ProgramF
 HWND Journey::Window(const Process& program, const wchar_t* className) {
     HWND window = nullptr;
     const bool isShown = Within([&] {
-        window = JourneyWindow::Find(program.Id(), className);
+        window = FindWindowOf(program.Id(), className);
         return window && IsWindowVisible(window);
     });
-    const auto box = isShown ? std::nullopt : JourneyWindow::MessageBoxOf(program.Id());
+    HWND box = isShown ? nullptr : MessageBoxOf(program.Id());
     CAPTURE(std::wstring(className));
-    CAPTURE(box ? box->Text : L"no message box");
+    CAPTURE(MessageText(box));
     CAPTURE(program.Running());
     REQUIRE(isShown);
     return window;
 }
 
-JourneyWindow::Box Journey::Box(const Process& program) const {
-    std::optional<JourneyWindow::Box> box;
-    REQUIRE(Within([&] { return (box = JourneyWindow::MessageBoxOf(program.Id())).has_value(); }));
-    return *box;
-}
-
-JourneyWindow::Box Journey::AnswerBox() const {
-    const JourneyWindow::Box box = Box(Program());
-    JourneyWindow::Answer(box, IDOK);
-    REQUIRE(Within([&] { return !IsWindow(box.Window); }));
+HWND Journey::Box() const {
+    HWND box = nullptr;
+    REQUIRE(Within([&] { return (box = MessageBoxOf(Program().Id())) != nullptr; }));
     return box;
 }
+
+std::wstring Journey::AnswerBox() const {
+    HWND box = Box();
+    const std::wstring text = MessageText(box);
+    Answer(box, IDOK);
+    REQUIRE(Within([box] { return !IsWindow(box); }));
+    return text;
+}
+
+HWND Journey::OpenByMenu(const wchar_t* item, const wchar_t* dialogClass) const {
+    ClickMenu(Window(Program(), L"frmMain"), item);
+    return Window(Program(), dialogClass);
+}
+
+HWND Journey::OpenByButton(HWND form, const wchar_t* button, const wchar_t* dialogClass) const {
+    Click(FindControl(form, button));
+    return Window(Program(), dialogClass);
+}
+
+std::wstring User(const std::wstring& section, const std::wstring& key) {
+    return UserStore::Get(section, key, L"(none)");
+}
+
+void User(const std::wstring& section, const std::wstring& key, const std::wstring& text) {
+    UserStore::Set(section, key, text);
+}
+
+std::wstring BackupFolder() { return _wgetenv(L"LOCALAPPDATA") + std::wstring(L"\\Kelmorra\\Backup"); }
+
+void Type(HWND form, const std::vector<std::pair<const wchar_t*, std::wstring>>& texts) {
+    for (const auto& [box, text] : texts) {
+        CAPTURE(box);
+        HWND control = FindControl(form, box);
+        SendMessageW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        REQUIRE(WindowText(control) == text);
+    }
+}
+
+void Leave(HWND dialog, const wchar_t* button) {
+    Click(FindControl(dialog, button));
+    REQUIRE(Within([dialog] { return !IsWindow(dialog); }));
+}
+
+POINT MiddleOfRow(HWND list, int row) {
+    const auto height = [list](int rows) {
+        return HIWORD(SendMessageW(list, LVM_APPROXIMATEVIEWRECT, static_cast<WPARAM>(rows), -1));
+    };
+    RECT titles{};
+    GetClientRect(reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)), &titles);
+    const LONG rowHeight = height(2) - height(1);
+    return {20, titles.bottom + row * rowHeight + rowHeight / 2};
+}
+
+LRESULT SelectedRow(HWND list) { return SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED); }

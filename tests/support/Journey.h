@@ -1,13 +1,15 @@
 #pragma once
 
+#include "stores/UserStore.h"
 #include "support/JourneyProcess.h"
-#include "support/JourneyStores.h"
-#include "support/JourneyWindow.h"
+#include "support/Screen.h"
+#include "support/TempFile.h"
 #include "support/Wide.h"
 
 #include <list>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// One user's session: empty stores, a folder of its own with a copy of the program, and an ACT! stand-in with its own
@@ -23,8 +25,8 @@ public:
     Journey& operator=(const Journey&) = delete;
 
     /// Full path of a file in the journey's folder, or in the program's.
-    std::wstring File(const std::wstring& name) const { return folder_ + L'\\' + name; }
-    std::wstring ProgramFile(const std::wstring& name) const { return File(L"Kelmorra\\" + name); }
+    std::wstring File(const std::wstring& name) const { return log_.Folder() + L'\\' + name; }
+    std::wstring ProgramFile(const std::wstring& name) const { return File(L"My Kelmorra\\" + name); }
 
     // The settings file
     std::wstring SettingsFile() const { return ProgramFile(L"Kelmorra.ini"); }
@@ -35,6 +37,8 @@ public:
     // ACT!
     /// Starts ACT! with a database open, or with none; it serves when this returns.
     void StartAct(const std::wstring& database);
+    /// The same with a database that is not in the list.
+    void StartActElsewhere();
     /// Takes over an ACT! that the program has started, so that the journey ends it. False when none comes.
     bool AdoptAct();
     /// Sets a preset or fault of the stand-in.
@@ -42,6 +46,8 @@ public:
     /// ACT!'s user closes it: the event component is asked first.
     void ActUserCloses() const;
     bool ActHasEnded() const { return !act_ || act_->ExitCode(); }
+    /// Sets a text of ACT!'s own below that key of the registry ("" or "\\...").
+    static void ActValue(const std::wstring& subkey, const wchar_t* name, const std::wstring& text);
 
     struct Call {
         std::wstring Object, Member, Flags, Arguments, Result;
@@ -57,22 +63,38 @@ public:
     /// The main window of another one, once it is on the screen.
     HWND StartToMainWindow() { return Window(Start(), L"frmMain"); }
     const Process& Program() const { return programs_.back(); }
-    /// The next message box of a program; the running test ends when none comes.
-    JourneyWindow::Box Box(const Process& program) const;
-    /// The same for the program started last, with its box dismissed and gone.
-    JourneyWindow::Box AnswerBox() const;
+    /// The next message box of the program started last; the running test ends when none comes.
+    HWND Box() const;
+    /// Its text; it is dismissed and gone.
+    std::wstring AnswerBox() const;
     /// A visible window of a program by its class; the running test ends when it does not come.
     static HWND Window(const Process& program, const wchar_t* className);
+    /// Chooses a menu item of the main window, or clicks a button, and returns the dialog that opens.
+    HWND OpenByMenu(const wchar_t* item, const wchar_t* dialogClass) const;
+    HWND OpenByButton(HWND form, const wchar_t* button, const wchar_t* dialogClass) const;
 
     const ProcessGroup& Group() const { return group_; }
 
 private:
-    void CheckNoneInvisible() const;
-    void CloseWhatIsLeft() const;
+    void EndPrograms() const;
     void EndAct() const;
 
-    std::wstring folder_;
+    TempFile log_{L"act.log"};
     ProcessGroup group_;
     std::list<Process> programs_;
     std::optional<Process> act_;
 };
+
+/// A text of the program's in the current user's registry; "(none)" when it is missing or no text.
+std::wstring User(const std::wstring& section, const std::wstring& key);
+void User(const std::wstring& section, const std::wstring& key, const std::wstring& text);
+/// Where the program keeps copies of settings files for the user.
+std::wstring BackupFolder();
+
+/// Types into text boxes, by their names. The running test ends when a text does not get there.
+void Type(HWND form, const std::vector<std::pair<const wchar_t*, std::wstring>>& texts);
+/// Clicks a button and waits until the dialog is gone. The window below it may still have work to do.
+void Leave(HWND dialog, const wchar_t* button);
+/// A place in a row of the list of databases, and the selected row.
+POINT MiddleOfRow(HWND list, int row);
+LRESULT SelectedRow(HWND list);

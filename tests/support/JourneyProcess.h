@@ -17,7 +17,8 @@ class ProcessGroup {
 public:
     ProcessGroup();
 
-    bool Add(HANDLE process) const;
+    /// What a process is put into.
+    HANDLE Job() const { return job_.Get(); }
     /// Processes alive at this moment.
     DWORD Alive() const;
 
@@ -28,7 +29,7 @@ private:
 /// A program that a journey has started.
 class Process {
 public:
-    /// Starts a program, with arguments or without, in its own folder. Throws when it cannot be started.
+    /// Starts a program, with arguments or without, in its own folder. The running test ends when it cannot be started.
     Process(const ProcessGroup& group, const std::wstring& path, const std::wstring& arguments = {});
 
     /// The program that a window belongs to.

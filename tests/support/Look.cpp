@@ -11,12 +11,6 @@
 
 namespace {
 
-std::wstring ClassOf(HWND window) {
-    std::array<wchar_t, 32> name{};
-    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-    return name.data();
-}
-
 std::vector<HWND> ControlsOf(HWND form) {
     std::vector<HWND> controls;
     for (HWND child = GetWindow(form, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
@@ -171,11 +165,9 @@ void TakePicture(HWND window, const std::wstring& name) {
     GetWindowRect(window, &place);
     BITMAPINFOHEADER info{
         sizeof info, place.right - place.left, place.bottom - place.top, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
-    BITMAPFILEHEADER header{};
-    header.bfType = 0x4D42; // "BM"
-    header.bfOffBits = sizeof header + sizeof info;
     const LONG size = (info.biWidth * 3 + 3) / 4 * 4 * info.biHeight;
-    header.bfSize = header.bfOffBits + static_cast<DWORD>(size);
+    constexpr DWORD kHeaders = sizeof(BITMAPFILEHEADER) + sizeof info;
+    const BITMAPFILEHEADER header{0x4D42, kHeaders + static_cast<DWORD>(size), 0, 0, kHeaders}; // "BM"
     void* pixels = nullptr;
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);

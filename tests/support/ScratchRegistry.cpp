@@ -41,10 +41,8 @@ void ScratchRegistry::DenyKeysBelow(HKEY root) {
 
 void ScratchRegistry::LocalData(const std::wstring& folder) {
     const wchar_t* const folders = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
-    RegistryKey key;
-    RegCreateKeyExW(HKEY_CURRENT_USER, folders, 0, nullptr, 0, KEY_SET_VALUE, nullptr, key.Receive(), nullptr);
-    RegSetValueExW(key.Get(), L"Local AppData", 0, REG_SZ, reinterpret_cast<const BYTE*>(folder.c_str()),
-                   static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t)));
+    const auto size = static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t));
+    SHSetValueW(HKEY_CURRENT_USER, folders, L"Local AppData", REG_SZ, folder.c_str(), size);
 }
 
 void ScratchRegistry::Override(HKEY root, const wchar_t* name, DWORD options) {
