@@ -24,8 +24,8 @@ public:
     explicit Change(Origin origin);
 
     void WriteKeyValue(std::wstring_view section, std::wstring_view key, std::wstring_view value);
-    /// Writes a section that is not there yet. The platform takes the whole file apart for each call, so this is quicker
-    /// than key by key.
+    /// Writes a section that is not there yet. The platform takes the whole file apart for each call, so this is
+    /// quicker than key by key.
     void WriteSection(std::wstring_view section, const Reading::Values& values);
     void DeleteKey(std::wstring_view section, std::wstring_view key);
     void DeleteSection(std::wstring_view section);
