@@ -50,15 +50,10 @@ Values Only(const Keys& keys, const Values& values) {
 
 } // namespace
 
-void AddedDatabases::Add(IniLib::Change& change, const std::wstring& name, Values values) {
-    change.WriteSection(name, values);
-    databases_.emplace_back(name, std::move(values));
-}
-
 void AddedDatabases::TakeBack(const Reading& stored, IniLib::Change& change, Names& names) const {
     const Names buttons = Text::Split(stored.Whole(Keys::General, Keys::QuickSwitch).value_or(L""), L';');
     Names going;
-    for (const auto& [name, values] : databases_)
+    for (const auto& [name, values] : Written)
         if (stored.Section(name) == values && !NameList::Has(buttons, name)) going.push_back(name);
     Values lenders; // by the name of who borrows from them
     for (const std::wstring& name : DatabaseList::ReadAll(stored))
@@ -145,7 +140,8 @@ AddedDatabases OtherSettings::Add(const Reading& stored, IniLib::Change& change,
                               std::back_inserter(written));
         else
             written.emplace_back(Keys::UseLocationsFrom, newLender);
-        added.Add(change, newName, std::move(written));
+        change.WriteSection(newName, written);
+        added.Written.emplace_back(newName, std::move(written));
     }
     return added;
 }

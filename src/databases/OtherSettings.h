@@ -8,17 +8,13 @@
 #include <utility>
 #include <vector>
 
-/// Databases that were added together, with what was written about each, so that it can be undone.
-class AddedDatabases {
-public:
-    /// Writes what the settings file is to hold about one more.
-    void Add(IniLib::Change& change, const std::wstring& name, IniLib::Reading::Values values);
+/// Databases that were added together, so that it can be undone.
+struct AddedDatabases {
     /// Takes them out of the settings file and of `names`, but for those that have been changed or are used since: on a
     /// button of the palette, or as lender of preference locations to a database that stays.
     void TakeBack(const IniLib::Reading& stored, IniLib::Change& change, NameList::Names& names) const;
 
-private:
-    std::vector<std::pair<std::wstring, IniLib::Reading::Values>> databases_;
+    std::vector<std::pair<std::wstring, IniLib::Reading::Values>> Written; ///< by name, what was written about each
 };
 
 /// The databases of another settings file, as far as the list has room for them. No log-on comes along.

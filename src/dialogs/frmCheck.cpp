@@ -27,11 +27,8 @@ std::wstring NameOf(const Part& part) {
     return LangText[kNames[static_cast<size_t>(part.What)] + static_cast<int>(part.Folder)];
 }
 
-/// The page of the properties on which it can be mended.
-int PageOf(Kind what) {
-    if (what == Kind::Logon) return 2;
-    return what == Kind::Lender || what == Kind::Folder ? 1 : 0;
-}
+/// The page of the properties on which each kind can be mended.
+constexpr int kPages[] = {0, 0, 0, 0, 0, 1, 2, 1};
 
 } // namespace
 
@@ -139,7 +136,7 @@ void frmCheck::cmdProperties_Click() {
     Program().FriendlyName = part.Database;
     frmProperties properties(&mainWindow_);
     properties.IsNew(false);
-    properties.FirstPage(PageOf(part.What));
+    properties.FirstPage(kPages[static_cast<size_t>(part.What)]);
     properties.ShowModal();
     if (properties.Cancelled() || Unloaded()) return;
     hasChanged_ = true;

@@ -199,8 +199,7 @@ void frmListMaintenance::mnuCheck_Click() {
     const int selected = lstDB.ListIndex();
     frmCheck check(mainWindow_);
     check.ShowModal();
-    if (!check.HasChanged()) return;
-    if (!list_->Reload()) return SettingsNotice::CannotRead();
+    if (check.HasChanged() && !list_->Reload()) return SettingsNotice::CannotRead();
     ShowList(selected);
 }
 

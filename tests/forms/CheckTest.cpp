@@ -37,10 +37,6 @@ std::wstring Clipboard() {
     return copy;
 }
 
-int TabOf(HWND properties) {
-    return static_cast<int>(SendMessageW(FindControl(properties, L"mstOptions"), TCM_GETCURSEL, 0, 0));
-}
-
 } // namespace
 
 TEST_CASE("The check tells of all that is missing, waits for no dead share, and leads to where each is mended") {
@@ -61,7 +57,6 @@ TEST_CASE("The check tells of all that is missing, waits for no dead share, and 
         PumpUntil([&] { return SendMessageW(check.barProgress.Handle(), PBM_GETPOS, 0, 0) == 4; });
         CHECK(check.cmdClose.Text() == LangText[Caption::Cancel]);
         Press(window, L"cmdClose"); // stops the looking and keeps the dialog
-        const std::wstring settings = IniLib::SettingsFile();
         CHECK(Rows(check) == L"Sales|Contact Layout|E:\\gone.cly|missing|\n"
                              L"Sales|Opening Macro|\\\\dead\\macros\\m.mpr|no answer|\n"
                              L"Sales|Query|F:\\gone\\Query|missing|\n"
@@ -69,19 +64,12 @@ TEST_CASE("The check tells of all that is missing, waits for no dead share, and 
                              L"Staff|Use locations from|Nobody|missing|\n"
                              L"Staff|Username||missing|\n"
                              L"Ghost|Properties|" +
-                                 settings + L"|missing|\n");
+                                 IniLib::SettingsFile() + L"|missing|\n");
         TranslateKey(check.lvwMissing.Handle(), 'C', VK_CONTROL);
         CHECK(Clipboard().starts_with(L"Sales\tContact Layout\tE:\\gone.cly\tmissing\r\nSales\t"));
-        check.lvwMissing.Select(2);
-        script.Then([](HWND properties) {
-            CHECK(TabOf(properties) == 1);
-            Leave(properties);
-        });
-        Press(window, L"cmdProperties");
-        CHECK_FALSE(check.HasChanged());
         check.lvwMissing.Select(5);
         script.Then([](HWND properties) {
-            CHECK(TabOf(properties) == 2);
+            CHECK(SendMessageW(FindControl(properties, L"mstOptions"), TCM_GETCURSEL, 0, 0) == 2);
             Type(properties, L"txtUsername", L"Nora Alder");
             Press(properties, L"cmdOK");
         });
@@ -113,11 +101,6 @@ TEST_CASE("What ACT! has open is added with its path, layouts and user, and a li
         CHECK(script.All().back().Text == L"ACT! has no database open.");
         desk.Act.OpenDatabase = L"E:\\databases\\Sales.dbf";
         script.Then([](HWND properties) { Press(properties, L"cmdOK"); });
-        TranslateKey(FindControl(list, L"lstDB"), 'O', VK_CONTROL);
-        script.Then([](HWND properties) {
-            CHECK(WindowText(FindControl(properties, L"txtName")) == L"Sales (2)");
-            Leave(properties);
-        });
         TranslateKey(FindControl(list, L"lstDB"), 'O', VK_CONTROL);
         Press(list, L"cmdClose");
     });
