@@ -15,7 +15,6 @@
 namespace {
 
 using ListCheck::Answer;
-using ListCheck::Kind;
 using ListCheck::Part;
 
 constexpr UINT kAnswer = WM_APP + 1;
