@@ -93,6 +93,7 @@ bool DatabaseTable::Reload() {
     const ActPlaces places = AskPlaces();
     if (!Fill(places)) return false;
     isLoaded_ = true;
+    SetHint(); // not before: a list that could not be read is not empty
     const auto selected = Text::WholeNumber(UserStore::Get(Keys::Display, Keys::Selected));
     list_.Select(static_cast<int>(selected.value_or(-1)));
     if (places.Failure) throw Error(*places.Failure);
@@ -144,6 +145,10 @@ std::wstring DatabaseTable::Title(int column) const {
 
 void DatabaseTable::SetTitles() {
     for (int column = 0; column < list_.ColumnCount(); ++column) list_.ColumnTitle(column, Title(column));
+    if (isLoaded_) SetHint();
+}
+
+void DatabaseTable::SetHint() {
     const std::wstring hint =
         Text::Replace(Translated(MoreText::EmptyList), L"%1", Caption::Plain(LangText[Caption::Edit]));
     list_.EmptyText(Text::Replace(hint, L"%2", Caption::Plain(LangText[Caption::ManageList])));

@@ -55,6 +55,7 @@ private:
     bool Fill(const ActPlaces& places);
     void Mark(int row, const std::wstring& path, const ActPlaces& places);
     void CollectOpenNames() const;
+    void SetHint();
     std::wstring Title(int column) const;
 
     RowFiles files_;

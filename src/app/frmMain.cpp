@@ -180,7 +180,8 @@ bool frmMain::Form_KeyDown(const KeyPress& press) {
 void frmMain::LookForFiles() {
     if (!Visible()) return;
     RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // before anything takes time
-    const std::wstring hint = ListView1.RowCount() == 0 ? L". " + ListView1.EmptyText() : std::wstring();
+    const bool isEmpty = table_.IsLoaded() && ListView1.RowCount() == 0;
+    const std::wstring hint = isEmpty ? L". " + ListView1.EmptyText() : std::wstring();
     ListView1.AccessibleName(LangText[Caption::DatabasesListed] + hint);
     ListView1.TellNotes();
     table_.Files().Look();

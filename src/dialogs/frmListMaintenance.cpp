@@ -34,6 +34,7 @@ void frmListMaintenance::Form_Load() {
     cmdUp.Text(LangText[Caption::MoveUp]);
     cmdDown.Text(LangText[Caption::MoveDown]);
     cmdClose.Text(LangText[Caption::Close]);
+    SetMenuCaptions();
     Create_List();
     if (lstDB.ListCount() > 0) lstDB.ListIndex(0);
     if (const int selected = mainWindow_.SelectedIndex(); selected != -1) lstDB.ListIndex(selected);

@@ -109,6 +109,7 @@ TEST_CASE("A list that cannot be read at the start is told of, and neither it no
     for (const DialogScript::Seen& seen : script.All())
         CHECK(seen.Text.find(desk.SettingsFile() + L"\r\ncannot be read at the moment") != std::wstring::npos);
     CHECK(window.Visible());
+    CHECK(window.ListView1.EmptyText().empty()); // nobody knows that there are no databases
     CHECK(desk.Act.CallsSince(0).find(L"openDB") == std::wstring::npos);
     End(window);
     CHECK(UserStore::Get(L"Display", L"Selected") == L"7");
